@@ -1,0 +1,28 @@
+#pragma once
+
+#include <xercesc/util/XercesDefs.hpp>
+
+#include "Framework/FrameworkExport.h"
+#include "Framework/ZelString.h"
+
+/// A text as UTF-16, for the length of a DOM call: `pElement->setAttribute(zelStringToWideChar(sName), ...)`.
+///
+/// The conversion is from UTF-8 whatever the platform or locale. The buffer is from Xerces-C's memory manager and given
+/// back by the destructor, so Xerces-C must be initialised for all of the object's life. One object is for one thread
+/// at a time.
+class FRAMEWORK_API zelStringToWideChar {
+public:
+    /// Converts all of `text`, which need not outlive the call. Throws std::invalid_argument when it is not UTF-8,
+    /// std::logic_error when Xerces-C is not initialised, and what its memory manager throws when memory runs out.
+    explicit zelStringToWideChar(const zelString& text);
+    ~zelStringToWideChar();
+
+    zelStringToWideChar(const zelStringToWideChar&) = delete;
+    zelStringToWideChar& operator=(const zelStringToWideChar&) = delete;
+
+    /// The text with its closing zero, never null. Owned by this object and valid as long as it lives.
+    operator const XMLCh*() const noexcept { return m_pText; }
+
+private:
+    XMLCh* m_pText = nullptr;
+};

@@ -1,0 +1,198 @@
+#include "Framework/XMLSupport/Utf.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <stdexcept>
+#include <type_traits>
+
+namespace Framework {
+
+namespace {
+
+static_assert(std::is_same_v<XMLCh, char16_t>, "Xerces-C must be built with char16_t as its character type");
+
+constexpr std::size_t WordSize = sizeof(std::uint64_t);
+constexpr std::uint64_t HighBits = 0x8080808080808080U;
+constexpr std::uint64_t Blanks = 0x2020202020202020U;
+
+std::uint64_t WordAt(const char* p) noexcept {
+    std::uint64_t word;
+    std::memcpy(&word, p, WordSize);
+    return word;
+}
+
+/// End of the run of ASCII that starts at `p`, short of it by less than a word.
+const char* SkipAscii(const char* p, const char* end) noexcept {
+    while (static_cast<std::size_t>(end - p) >= WordSize && (WordAt(p) & HighBits) == 0) {
+        p += WordSize;
+    }
+    return p;
+}
+
+/// The same for printable ASCII. Subtracting sets a byte's high bit when the byte, or a borrow from one below it, is
+/// less than a blank: it may stop early, never late.
+const char* SkipPrintableAscii(const char* p, const char* end) noexcept {
+    while (static_cast<std::size_t>(end - p) >= WordSize && ((WordAt(p) | (WordAt(p) - Blanks)) & HighBits) == 0) {
+        p += WordSize;
+    }
+    return p;
+}
+
+struct Decoded {
+    char32_t character;
+    std::size_t length; ///< bytes of the sequence; 0 when it is malformed
+};
+
+Decoded Decode(const char* p, const char* end) noexcept {
+    constexpr Decoded Malformed{0, 0};
+    const auto byteAt = [p](std::size_t i) { return static_cast<char32_t>(static_cast<unsigned char>(p[i])); };
+    const char32_t lead = byteAt(0);
+    if (lead < 0x80) {
+        return {lead, 1};
+    }
+    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (lead < 0xC2 || lead > 0xF4 || static_cast<std::size_t>(end - p) < length) {
+        return Malformed;
+    }
+    char32_t character = lead & (0x7FU >> length);
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((byteAt(i) & 0xC0) != 0x80) {
+            return Malformed;
+        }
+        character = (character << 6) | (byteAt(i) & 0x3F);
+    }
+    const char32_t least = length == 4 ? 0x10000 : length == 3 ? 0x800 : 0x80;
+    if (character < least || character > 0x10FFFF || (character >= 0xD800 && character <= 0xDFFF)) {
+        return Malformed;
+    }
+    return {character, length};
+}
+
+bool IsXmlCharacter(char32_t character) noexcept {
+    if (character < 0x20) {
+        return character == '\t' || character == '\n' || character == '\r';
+    }
+    return character != 0xFFFE && character != 0xFFFF;
+}
+
+void AppendCharacter(std::string& text, char32_t character) {
+    const auto append = [&text](char32_t byte) { text.push_back(static_cast<char>(byte)); };
+    if (character < 0x80) {
+        append(character);
+        return;
+    }
+    if (character < 0x800) {
+        append(0xC0 | (character >> 6));
+    } else {
+        if (character < 0x10000) {
+            append(0xE0 | (character >> 12));
+        } else {
+            append(0xF0 | (character >> 18));
+            append(0x80 | ((character >> 12) & 0x3F));
+        }
+        append(0x80 | ((character >> 6) & 0x3F));
+    }
+    append(0x80 | (character & 0x3F));
+}
+
+} // namespace
+
+std::size_t FindInvalidUtf8(std::string_view text) noexcept {
+    const char* p = text.data();
+    const char* const end = p + text.size();
+    while ((p = SkipAscii(p, end)) != end) {
+        const Decoded decoded = Decode(p, end);
+        if (decoded.length == 0) {
+            return static_cast<std::size_t>(p - text.data());
+        }
+        p += decoded.length;
+    }
+    return std::string_view::npos;
+}
+
+std::size_t FindNonXmlText(std::string_view text) noexcept {
+    const char* p = text.data();
+    const char* const end = p + text.size();
+    while ((p = SkipPrintableAscii(p, end)) != end) {
+        const Decoded decoded = Decode(p, end);
+        if (decoded.length == 0 || !IsXmlCharacter(decoded.character)) {
+            return static_cast<std::size_t>(p - text.data());
+        }
+        p += decoded.length;
+    }
+    return std::string_view::npos;
+}
+
+std::size_t Utf16Length(std::string_view text) {
+    const char* p = text.data();
+    const char* const end = p + text.size();
+    std::size_t units = 0;
+    while (p != end) {
+        const char* const behind = SkipAscii(p, end);
+        units += static_cast<std::size_t>(behind - p);
+        p = behind;
+        if (p == end) {
+            break;
+        }
+        const Decoded decoded = Decode(p, end);
+        if (decoded.length == 0) {
+            throw std::invalid_argument("text is not UTF-8: malformed sequence at byte offset " +
+                                        std::to_string(p - text.data()));
+        }
+        units += decoded.length == 4 ? 2 : 1;
+        p += decoded.length;
+    }
+    return units;
+}
+
+void CopyUtf16(std::string_view text, XMLCh* out) noexcept {
+    const char* p = text.data();
+    const char* const end = p + text.size();
+    while (p != end) {
+        const char* const behind = SkipAscii(p, end);
+        out = std::transform(p, behind, out, [](char c) { return static_cast<XMLCh>(c); });
+        p = behind;
+        if (p == end) {
+            break;
+        }
+        const Decoded decoded = Decode(p, end);
+        if (decoded.length == 4) {
+            const char32_t offset = decoded.character - 0x10000;
+            *out++ = static_cast<XMLCh>(0xD800 + (offset >> 10));
+            *out++ = static_cast<XMLCh>(0xDC00 + (offset & 0x3FF));
+        } else {
+            *out++ = static_cast<XMLCh>(decoded.character);
+        }
+        p += decoded.length;
+    }
+}
+
+std::u16string ToUtf16(std::string_view text) {
+    std::u16string units(Utf16Length(text), u'\0');
+    CopyUtf16(text, units.data());
+    return units;
+}
+
+void AppendUtf8(std::string& text, const XMLCh* pUnits, std::size_t length) {
+    const auto isHigh = [](XMLCh unit) { return (unit & 0xFC00) == 0xD800; };
+    const auto isLow = [](XMLCh unit) { return (unit & 0xFC00) == 0xDC00; };
+    for (std::size_t i = 0; i < length; ++i) {
+        const XMLCh unit = pUnits[i];
+        char32_t character = unit;
+        if (isHigh(unit) && i + 1 < length && isLow(pUnits[i + 1])) {
+            ++i;
+            character = 0x10000 + ((char32_t{unit} & 0x3FF) << 10) + (char32_t{pUnits[i]} & 0x3FF);
+        } else if (isHigh(unit) || isLow(unit)) {
+            character = 0xFFFD;
+        }
+        AppendCharacter(text, character);
+    }
+}
+
+std::size_t CountCodePoints(std::string_view text) noexcept {
+    return static_cast<std::size_t>(
+        std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
+}
+
+} // namespace Framework

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include <xercesc/util/XercesDefs.hpp>
+
+namespace Framework {
+
+/// UTF-8 here is strict: overlong forms, surrogates and anything above U+10FFFF are malformed.
+
+/// Offset of the first malformed sequence, npos when there is none.
+std::size_t FindInvalidUtf8(std::string_view text) noexcept;
+
+/// Offset of the first malformed sequence or character that XML 1.0 does not allow, npos when there is none.
+std::size_t FindNonXmlText(std::string_view text) noexcept;
+
+inline bool IsXmlText(std::string_view text) noexcept {
+    return FindNonXmlText(text) == std::string_view::npos;
+}
+
+/// Number of UTF-16 units of the text. Throws std::invalid_argument, naming the offset, when it is malformed.
+std::size_t Utf16Length(std::string_view text);
+
+/// Writes the units that Utf16Length counted, without a closing zero. The text must be well formed.
+void CopyUtf16(std::string_view text, XMLCh* out) noexcept;
+
+/// Throws std::invalid_argument, naming the offset, when the text is malformed.
+std::u16string ToUtf16(std::string_view text);
+
+/// Half a surrogate pair becomes U+FFFD.
+void AppendUtf8(std::string& text, const XMLCh* pUnits, std::size_t length);
+
+/// Number of characters of well formed text.
+std::size_t CountCodePoints(std::string_view text) noexcept;
+
+} // namespace Framework

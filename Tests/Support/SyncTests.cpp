@@ -1,0 +1,172 @@
+#include <atomic>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Framework/SyncContainers.h"
+#include "Framework/SyncTools.h"
+#include "Framework/ZelString.h"
+
+namespace {
+
+/// Notes its end, and can fail while ending.
+class Entry {
+public:
+    Entry(std::string name, std::vector<std::string>& ended, bool fails = false)
+        : m_Name(std::move(name)), m_Ended(ended), m_Fails(fails) {}
+    ~Entry() noexcept(false) {
+        m_Ended.push_back(m_Name);
+        if (m_Fails) {
+            throw std::runtime_error(m_Name);
+        }
+    }
+
+private:
+    std::string m_Name;
+    std::vector<std::string>& m_Ended;
+    bool m_Fails;
+};
+
+using EntryMap = Zelvon::SyncMap<zelString, Entry*>;
+using Names = std::vector<std::string>;
+
+/// Whether another thread gets the lock, with a lookup that would wait for it.
+template <typename Map> void ExpectUnlocked(Map& map) {
+    std::atomic<bool> passed = false;
+    std::thread other([&] {
+        map.writeLock();
+        map.unlock();
+        passed = true;
+    });
+    other.join();
+    EXPECT_TRUE(passed);
+}
+
+TEST(SyncMap, SetAndGet) {
+    Names ended;
+    EntryMap map;
+    const auto a = std::make_unique<Entry>("a", ended);
+    const auto b = std::make_unique<Entry>("b", ended);
+    Entry* found = b.get();
+    EXPECT_FALSE(map.getValue("x", found, true));
+    EXPECT_EQ(found, b.get());
+    EXPECT_FALSE(map.setValue("x", a.get(), &found));
+    EXPECT_EQ(found, b.get());
+    EXPECT_TRUE(map.getValue("x", found, true));
+    EXPECT_EQ(found, a.get());
+
+    Entry* previous = nullptr;
+    EXPECT_TRUE(map.setValue("x", b.get(), &previous));
+    EXPECT_EQ(previous, a.get());
+    EXPECT_TRUE(map.setValue("x", a.get(), nullptr));
+    map.readLock();
+    EXPECT_TRUE(map.getValue("x", found, false));
+    map.unlock();
+    EXPECT_EQ(found, a.get());
+    EXPECT_EQ(map.contents().size(), 1U);
+    EXPECT_TRUE(ended.empty());
+    ExpectUnlocked(map);
+}
+
+TEST(SyncMap, ClearDeletesOnceInKeyOrder) {
+    Names ended;
+    EntryMap map;
+    Entry* const shared = new Entry("shared", ended);
+    map.setValue("2", shared, nullptr);
+    map.setValue("3", new Entry("c", ended), nullptr);
+    map.setValue("10", new Entry("a", ended, true), nullptr);
+    map.setValue("4", shared, nullptr);
+    map.setValue("1", nullptr, nullptr);
+    map.setValue("5", new Entry("d", ended, true), nullptr);
+    map.setValue("6", new Entry("e", ended), nullptr);
+    map.clearMap(true);
+    EXPECT_EQ(ended, (Names{"a", "shared", "c", "d", "e"}));
+    EXPECT_TRUE(map.contents().empty());
+    map.clearMap(true);
+    EXPECT_EQ(ended.size(), 5U);
+    ExpectUnlocked(map);
+}
+
+TEST(SyncMap, OnlyClearTrueDeletes) {
+    Names ended;
+    const auto kept = std::make_unique<Entry>("kept", ended);
+    {
+        EntryMap map;
+        map.setValue("x", kept.get(), nullptr);
+        map.clearMap(false);
+        EXPECT_TRUE(map.contents().empty());
+        map.setValue("x", kept.get(), nullptr);
+    }
+    EXPECT_TRUE(ended.empty());
+}
+
+/// A key whose comparison can fail, as one that runs out of memory would.
+struct FailingKey {
+    int number;
+    bool operator<(const FailingKey& other) const {
+        if (number < 0 || other.number < 0) {
+            throw std::runtime_error("comparison");
+        }
+        return number < other.number;
+    }
+};
+
+TEST(SyncMap, GivesTheLockBackAfterAnException) {
+    Zelvon::SyncMap<FailingKey, int*> map;
+    int number = 0;
+    int* found = nullptr;
+    map.setValue({1}, &number, nullptr);
+    EXPECT_THROW(map.setValue({-1}, &number, nullptr), std::runtime_error);
+    ExpectUnlocked(map);
+    EXPECT_THROW(map.getValue({-1}, found, true), std::runtime_error);
+    ExpectUnlocked(map);
+    EXPECT_EQ(map.contents().size(), 1U);
+}
+
+TEST(SyncMap, LookupsAreSafeAgainstChanges) {
+    constexpr int Count = 3000;
+    Zelvon::SyncMap<zelString, int*> map;
+    std::vector<int> numbers(Count);
+    std::atomic<bool> done = false;
+    std::thread writer([&] {
+        for (int i = 0; i < Count; ++i) {
+            map.setValue(std::to_string(i), &numbers[static_cast<std::size_t>(i)], nullptr);
+        }
+        done = true;
+    });
+    int wrong = 0;
+    while (!done) {
+        for (int i = 0; i < Count; i += 97) {
+            int* found = nullptr;
+            if (map.getValue(std::to_string(i), found, true) && found != &numbers[static_cast<std::size_t>(i)]) {
+                ++wrong;
+            }
+        }
+        Zelvon::LinuxThreadTools::LinuxYieldThread();
+    }
+    writer.join();
+    EXPECT_EQ(wrong, 0);
+    EXPECT_EQ(map.contents().size(), static_cast<std::size_t>(Count));
+}
+
+TEST(SyncMutex, ExcludesUnderEitherName) {
+    Zelvon::SyncMutex mutex;
+    int counter = 0;
+    const auto work = [&](void (Zelvon::SyncMutex::*take)()) {
+        for (int i = 0; i < 20000; ++i) {
+            (mutex.*take)();
+            ++counter;
+            mutex.unlock();
+        }
+    };
+    std::thread reader(work, &Zelvon::SyncMutex::readLock);
+    work(&Zelvon::SyncMutex::writeLock);
+    reader.join();
+    EXPECT_EQ(counter, 40000);
+}
+
+} // namespace

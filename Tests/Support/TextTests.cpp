@@ -1,0 +1,267 @@
+#include <map>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include <gtest/gtest.h>
+#include <xercesc/util/PlatformUtils.hpp>
+
+#include "Framework/XMLSupport/Utf.h"
+#include "Framework/ZelString.h"
+#include "Framework/ZelStringToWideChar.h"
+
+namespace {
+
+using namespace std::string_view_literals;
+
+std::string LengthTaken(const zelString& text) {
+    return text + "|" + std::to_string(text.length());
+}
+std::size_t ViewTaken(std::string_view text) {
+    return text.size();
+}
+const char* Chosen(const std::string&) {
+    return "string";
+}
+const char* Chosen(const char*) {
+    return "pointer";
+}
+
+TEST(ZelString, UsualExpressionsFindOneMeaning) {
+    const zelString x = "x";
+    const zelString y("y");
+    EXPECT_TRUE(x == "x" && "x" == x && x == std::string("x") && x != y && x < y && x < "y" && !(x == nullptr));
+    EXPECT_EQ(LengthTaken(x + y), "xy|2");
+    EXPECT_EQ(LengthTaken("a" + x + "b" + 'c'), "axbc|4");
+    EXPECT_EQ(LengthTaken(zelString("\0b"sv)), std::string("\0b|2", 4));
+    EXPECT_EQ(ViewTaken(x + y), 2U);
+    EXPECT_EQ(ViewTaken(x), 1U);
+    EXPECT_STREQ(Chosen(x), "string");
+    EXPECT_STREQ(Chosen("x"), "pointer");
+
+    zelString text = x + y;
+    EXPECT_TRUE(text[0] == 'x' && text[1U] == 'y' && text[std::size_t{1}] == 'y' && text[1L] == 'y' && x[0L] == 'x');
+    text[std::ptrdiff_t{0}] = 'z';
+    text += x;
+    text += "!";
+    std::ostringstream out;
+    out << text;
+    EXPECT_EQ(out.str(), "zyx!");
+
+    std::map<zelString, int> numbers{{"10", 10}, {"2", 2}};
+    EXPECT_EQ(numbers.begin()->second, 10);
+    EXPECT_EQ(numbers["2"], 2);
+    const char* pText = text;
+    EXPECT_STREQ(pText, "zyx!");
+}
+
+TEST(ZelString, TakesEveryKindOfText) {
+    const char* pNull = nullptr;
+    const XMLCh* pWideNull = nullptr;
+    EXPECT_TRUE(zelString(pNull).empty() && zelString(pWideNull).empty() && zelString(nullptr).empty());
+    EXPECT_EQ(zelString(u"gr\u00FC\u00DFe"), "gr\xC3\xBC\xC3\x9F"
+                                             "e");
+    EXPECT_EQ(zelString("abc", 2), "ab");
+    EXPECT_EQ(zelString(pNull, 0), "");
+
+    zelString text = "start of some length, past the small buffer";
+    text = text.c_str() + 6;
+    EXPECT_EQ(text, "of some length, past the small buffer");
+    text = u"wide";
+    EXPECT_EQ(text, "wide");
+    text = pWideNull;
+    EXPECT_EQ(text, "");
+    text = std::string("std");
+    zelString moved = std::move(text);
+    EXPECT_EQ(moved, "std");
+    moved = pNull;
+    EXPECT_EQ(moved, "");
+    moved = "x";
+    moved = nullptr;
+    EXPECT_EQ(moved, "");
+}
+
+TEST(ZelString, FormatGrowsToWhatItNeeds) {
+    zelString text;
+    // Around the first buffer, and far above it.
+    for (const int length : {0, 93, 94, 95, 96, 97, 5000, 20000000}) {
+        text.Format("%*d|%s", length + 1, 7, "end");
+        ASSERT_EQ(text.size(), static_cast<std::size_t>(length) + 5);
+        EXPECT_EQ(text.substr(static_cast<std::size_t>(length)), "7|end");
+    }
+    text = "own text";
+    text.Format("%s, %s, %d%%", text.c_str(), std::string(200, 'a').c_str(), 5);
+    EXPECT_EQ(text, "own text, " + std::string(200, 'a') + ", 5%");
+    const char* pNoFormat = nullptr;
+    text = "kept";
+    text.Format(pNoFormat, 1);
+    EXPECT_EQ(text, "kept");
+    text.Format("%c%c", 'a', 0);
+    EXPECT_EQ(text, "a\0"sv);
+}
+
+TEST(ZelString, FormatGivesUpWithAnEmptyText) {
+    zelString text = "old";
+    text.Format("%499999999d", 1);
+    EXPECT_EQ(text, "");
+    // No multibyte form in the C locale: the formatter reports an error at every size.
+    text = "old";
+    text.Format("%ls", L"\xD800");
+    EXPECT_EQ(text, "");
+}
+
+TEST(ZelString, CaseTrimLeftReplace) {
+    EXPECT_EQ(zelString("a\xC3\xA4z{`[@Z").MakeUpper(), "A\xC3\xA4Z{`[@Z");
+    EXPECT_EQ(zelString("A\xC3\x84Z{`[@z").MakeLower(), "a\xC3\x84z{`[@z");
+
+    const struct {
+        const char *text, *bothEnds, *endOnly;
+    } trims[] = {{" \t\r\na b\n ", "a b", " \t\r\na b"},
+                 {" \n", "", ""},
+                 {"", "", ""},
+                 {"\va\xC2\xA0", "\va\xC2\xA0", "\va\xC2\xA0"}};
+    for (const auto& [source, bothEnds, endOnly] : trims) {
+        EXPECT_EQ(zelString(source).Trim(true), bothEnds);
+        EXPECT_EQ(zelString(source).Trim(false), endOnly);
+    }
+    const zelString text = "abc";
+    EXPECT_TRUE(text.Left(2) == "ab" && text.Left(9) == "abc" && text.Left(0) == "" && text.Left(-1) == "");
+
+    const struct {
+        const char *text, *find, *replacement, *result;
+        std::size_t count;
+    } replacements[] = {{"aXbX", "X", "XX", "aXXbXX", 2}, {"aaa", "aa", "b", "ba", 1}, {"abab", "ab", "", "", 2},
+                        {"abc", "", "x", "abc", 0},       {"abc", "d", "x", "abc", 0}, {"", "a", "x", "", 0}};
+    for (const auto& [source, find, replacement, result, count] : replacements) {
+        zelString changed = source;
+        EXPECT_EQ(changed.ReplaceStr(find, replacement), count) << source;
+        EXPECT_EQ(changed, result);
+    }
+    zelString self = "ab";
+    EXPECT_EQ(self.ReplaceStr(self, self + self), 1U);
+    EXPECT_EQ(self, "abab");
+}
+
+/// At every offset, so that both the word-wise and the single-byte way meet it.
+void ForEveryOffset(const auto& check) {
+    for (std::size_t offset = 0; offset < 20; ++offset) {
+        check(std::string(offset, 'a'), offset);
+    }
+}
+
+TEST(Utf, RefusesWhatIsNotUtf8) {
+    const char* malformed[] = {"\x80",
+                               "\xBF",
+                               "\xC0\x80",
+                               "\xC1\xBF",
+                               "\xC3",
+                               "\xC3(",
+                               "\xE0\x80\x80",
+                               "\xE0\x9F\xBF",
+                               "\xE2\x82",
+                               "\xE2(\xAC",
+                               "\xE2\x82(",
+                               "\xED\xA0\x80",
+                               "\xED\xBF\xBF",
+                               "\xF0\x8F\xBF\xBF",
+                               "\xF0\x9F\x92",
+                               "\xF0\x9F\x92(",
+                               "\xF4\x90\x80\x80",
+                               "\xF5\x80\x80\x80",
+                               "\xF8\x88\x80\x80\x80",
+                               "\xFE",
+                               "\xFF"};
+    for (const char* bad : malformed) {
+        ForEveryOffset([bad](const std::string& before, std::size_t offset) {
+            for (const std::string& text : {before + std::string(bad), before + std::string(bad) + "behind it"}) {
+                EXPECT_EQ(Framework::FindInvalidUtf8(text), offset);
+                EXPECT_EQ(Framework::FindNonXmlText(text), offset);
+                EXPECT_THROW(Framework::ToUtf16(text), std::invalid_argument);
+            }
+        });
+    }
+    try {
+        Framework::ToUtf16("0123456789\xFF");
+        FAIL();
+    } catch (const std::invalid_argument& error) {
+        EXPECT_NE(std::string_view(error.what()).find("offset 10"), std::string_view::npos) << error.what();
+    }
+}
+
+TEST(Utf, TellsWhatXmlAllows) {
+    const struct {
+        std::string_view character;
+        bool allowed;
+    } table[] = {{"\t"sv, true},
+                 {"\n"sv, true},
+                 {"\r"sv, true},
+                 {"\0"sv, false},
+                 {"\x01"sv, false},
+                 {"\x08"sv, false},
+                 {"\x0B"sv, false},
+                 {"\x1F"sv, false},
+                 {" "sv, true},
+                 {"\x7F"sv, true},
+                 {"\xC2\x80"sv, true},
+                 {"\xED\x9F\xBF"sv, true},
+                 {"\xEE\x80\x80"sv, true},
+                 {"\xEF\xBF\xBD"sv, true},
+                 {"\xEF\xBF\xBE"sv, false},
+                 {"\xEF\xBF\xBF"sv, false},
+                 {"\xF0\x90\x80\x80"sv, true},
+                 {"\xF0\x9F\xBF\xBF"sv, true},
+                 {"\xF4\x8F\xBF\xBF"sv, true}};
+    for (const auto& [character, allowed] : table) {
+        ForEveryOffset([c = character, ok = allowed](const std::string& before, std::size_t offset) {
+            const std::string text = before + std::string(c) + "behind it";
+            EXPECT_EQ(Framework::FindNonXmlText(text), ok ? std::string::npos : offset);
+            EXPECT_EQ(Framework::IsXmlText(text), ok);
+            EXPECT_EQ(Framework::FindInvalidUtf8(text), std::string::npos);
+        });
+    }
+    EXPECT_TRUE(Framework::IsXmlText({}));
+}
+
+TEST(Utf, EveryCharacterConvertsThereAndBack) {
+    std::u16string all;
+    std::size_t count = 0;
+    for (char32_t character = 1; character <= 0x10FFFF; ++character) {
+        if (character < 0x10000) {
+            if (character >= 0xD800 && character <= 0xDFFF) {
+                continue;
+            }
+            all += static_cast<char16_t>(character);
+        } else {
+            all += static_cast<char16_t>(0xD7C0 + (character >> 10));
+            all += static_cast<char16_t>(0xDC00 | (character & 0x3FF));
+        }
+        ++count;
+    }
+    const zelString text(all.c_str());
+    EXPECT_EQ(Framework::FindInvalidUtf8(text), std::string::npos);
+    EXPECT_EQ(Framework::CountCodePoints(text), count);
+    EXPECT_TRUE(Framework::ToUtf16(text) == all);
+    EXPECT_TRUE(Framework::ToUtf16("plain ASCII, \xE2\x82\xAC, \xF0\x9F\x98\x80") ==
+                u"plain ASCII, \u20AC, \U0001F600");
+
+    const char16_t lone[] = {'a', 0xD800, 'b', 0xDC00, 0xDC00, 0xD83D, 0xDE00, 0xD83D, 0};
+    EXPECT_EQ(zelString(lone), "a\xEF\xBF\xBD"
+                               "b\xEF\xBF\xBD\xEF\xBF\xBD\xF0\x9F\x98\x80\xEF\xBF\xBD");
+}
+
+TEST(Utf, WideBufferComesFromXerces) {
+    if (!xercesc::XMLPlatformUtils::fgMemoryManager) {
+        EXPECT_THROW(zelStringToWideChar("early"), std::logic_error);
+    }
+    xercesc::XMLPlatformUtils::Initialize();
+    {
+        const zelStringToWideChar wide("\xE2\x82\xAC 5");
+        EXPECT_TRUE(std::u16string_view(wide) == u"\u20AC 5");
+        EXPECT_EQ(static_cast<const XMLCh*>(zelStringToWideChar(""))[0], 0);
+        EXPECT_THROW(zelStringToWideChar("\xFF"), std::invalid_argument);
+    }
+    xercesc::XMLPlatformUtils::Terminate();
+}
+
+} // namespace
