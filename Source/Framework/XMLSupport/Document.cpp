@@ -1,0 +1,56 @@
+#include "Framework/XMLSupport/Document.h"
+
+#include "Framework/XMLSupport/DocumentParser.h"
+#include "Framework/XMLSupport/NodeViews.h"
+
+#include <utility>
+
+namespace Framework {
+
+std::shared_ptr<const Document> Document::Parse(std::string bytes, std::string sourceName, const LoadLimits& limits) {
+    return std::shared_ptr<const Document>(
+        new Document(ParseDocument(std::move(bytes), std::move(sourceName), limits)));
+}
+
+Document::Document(DocumentData data) : m_data(std::move(data)) {}
+
+Document::~Document() = default;
+
+std::string_view Document::Value(NodeRef node, std::string& /*room*/) const {
+    const NodeRecord& record = Record(node);
+    if (record.IsInner() || record.kind == NodeKind::None) {
+        return {};
+    }
+    const std::string_view holder = record.leaf.inPool ? m_data.pool : m_data.source.text;
+    return holder.substr(record.leaf.valueBegin, record.leaf.valueLength);
+}
+
+XALAN_CPP_NAMESPACE::XalanNode* Document::View(NodeRef node) const {
+    std::call_once(m_viewsOnce, [this] { m_views = std::make_unique<NodeViews>(*this, NodeOrder::Numbers); });
+    return m_views->View(node);
+}
+
+std::string Document::OriginalBytes() const {
+    const DecodedText& source = m_data.source;
+    if (!source.original.empty()) {
+        return source.original;
+    }
+    return source.byteOrderMark ? "\xEF\xBB\xBF" + source.text : source.text;
+}
+
+ByteRange Document::StartTag(NodeRef element) const {
+    const NodeRecord& record = Record(element);
+    return {record.begin, record.kind == NodeKind::Element ? record.inner.startTagEnd : record.begin};
+}
+
+ByteRange Document::ValueRange(NodeRef attribute) const {
+    const NodeRecord& record = Record(attribute);
+    return record.kind == NodeKind::Attribute ? ByteRange{record.leaf.rawBegin, record.end - 1} : ByteRange{};
+}
+
+Place Document::PlaceAt(std::size_t offset) const {
+    std::call_once(m_placesOnce, [this] { m_places.emplace(m_data.source.text); });
+    return m_places->At(m_data.source.text, offset);
+}
+
+} // namespace Framework

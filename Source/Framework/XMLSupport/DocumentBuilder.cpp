@@ -1,0 +1,210 @@
+#include "Framework/XMLSupport/DocumentBuilder.h"
+
+#include "Framework/XMLSupport/ParserMessages.h"
+
+#include <algorithm>
+
+namespace Framework {
+
+namespace {
+
+constexpr std::uint32_t kSectionOpening = 9; // <![CDATA[
+constexpr std::uint32_t kSectionClosing = 3; // ]]>
+constexpr std::size_t kMostNodesReservedAtFirst = 65536;
+
+std::string LimitPassed(std::string_view what, std::size_t limit, std::string_view member) {
+    return std::string(what) + ", the limit is " + std::to_string(limit) +
+           "; raise LoadLimits::" + std::string(member) + " with LoadLimits::SetDefault";
+}
+
+} // namespace
+
+DocumentBuilder::DocumentBuilder(DocumentData& data, const LoadLimits& limits) : m_data(data), m_limits(limits) {
+    const std::size_t size = m_data.source.text.size();
+    m_data.nodes.reserve(std::min(size / 16 + 16, kMostNodesReservedAtFirst));
+    m_data.nodes.resize(2);
+    NodeRecord& document = m_data.nodes.back();
+    document.kind = NodeKind::Document;
+    document.end = static_cast<std::uint32_t>(size);
+}
+
+void DocumentBuilder::StartElement(std::string_view name, const char* const* attributes, ByteRange tag) {
+    FlushRun();
+    if (m_depth >= m_limits.depth) {
+        throw ErrorAt(m_data, tag.begin, LimitPassed("elements are nested too deeply", m_limits.depth, "depth"));
+    }
+    const std::uint32_t element = Add(NodeKind::Element, tag);
+    NodeRecord& record = m_data.nodes[element];
+    record.name = m_data.names.Intern(name) & NodeRecord::kNameMask;
+    record.inner.startTagEnd = tag.end;
+    AddChild(element);
+    if (m_depth == 0) {
+        m_data.root = element;
+    }
+    AddAttributes(element, attributes, tag.begin + 1 + static_cast<std::uint32_t>(name.size()));
+    m_parent = element;
+    ++m_depth;
+}
+
+void DocumentBuilder::EndElement(std::uint32_t end) {
+    FlushRun();
+    NodeRecord& record = m_data.nodes[m_parent];
+    record.end = end;
+    m_parent = record.parent;
+    --m_depth;
+}
+
+// The parser tells no ranges of attributes. The tag is well formed by now and its attributes come in the order of the
+// tag, so they can be found by their quotes alone.
+void DocumentBuilder::AddAttributes(std::uint32_t element, const char* const* attributes, std::uint32_t at) {
+    const std::string& text = m_data.source.text;
+    std::uint32_t previous = 0;
+    for (std::size_t count = 1; *attributes != nullptr; attributes += 2, ++count) {
+        const std::string_view name = attributes[0];
+        const std::uint32_t begin = SkipBlanks(at);
+        if (count > m_limits.attributesPerElement) {
+            throw ErrorAt(
+                m_data, begin,
+                LimitPassed("too many attributes in one tag", m_limits.attributesPerElement, "attributesPerElement"));
+        }
+        at = SkipBlanks(begin + static_cast<std::uint32_t>(name.size()));
+        const std::uint32_t quote = SkipBlanks(at + 1);
+        const auto rawEnd = static_cast<std::uint32_t>(text.find(text[quote], quote + 1));
+        at = rawEnd + 1;
+        const std::uint32_t number = Add(NodeKind::Attribute, {begin, at});
+        NodeRecord& record = m_data.nodes[number];
+        record.parent = element;
+        record.previous = previous;
+        record.name = m_data.names.Intern(name) & NodeRecord::kNameMask;
+        SetValue(record, attributes[1], {quote + 1, rawEnd});
+        if (previous == 0) {
+            m_data.nodes[element].inner.firstAttribute = number;
+        } else {
+            m_data.nodes[previous].next = number;
+        }
+        previous = number;
+    }
+}
+
+void DocumentBuilder::Text(std::string_view piece, ByteRange range) {
+    if (m_run.kind == NodeKind::None) {
+        m_run = {NodeKind::Text, range.begin, range.end, range.begin, false};
+    }
+    // Pieces are either a stretch of the source or what a reference or line end stands for. The latter may be as long
+    // as its source only where a single CR reads as LF.
+    const std::string& text = m_data.source.text;
+    const bool verbatim = piece.size() == range.Size() && (piece.size() != 1 || piece.front() == text[range.begin]);
+    if (!verbatim && !m_run.inPool) {
+        const std::size_t poolBegin = m_data.pool.size();
+        m_data.pool.append(text, m_run.valueBegin, range.begin - m_run.valueBegin);
+        m_run.valueBegin = static_cast<std::uint32_t>(poolBegin);
+        m_run.inPool = true;
+    }
+    if (m_run.inPool) {
+        m_data.pool.append(piece);
+    }
+    m_run.end = range.end;
+}
+
+void DocumentBuilder::StartSection(ByteRange range) {
+    FlushRun();
+    m_run = {NodeKind::CData, range.begin, range.end, range.begin + kSectionOpening, false};
+}
+
+void DocumentBuilder::EndSection(ByteRange range) {
+    m_run.end = range.end;
+    FlushRun();
+}
+
+void DocumentBuilder::FlushRun() {
+    if (m_run.kind == NodeKind::None) {
+        return;
+    }
+    const bool isSection = m_run.kind == NodeKind::CData;
+    const std::uint32_t number = Add(m_run.kind, {m_run.begin, m_run.end});
+    NodeRecord& record = m_data.nodes[number];
+    const std::size_t valueEnd = m_run.inPool ? m_data.pool.size() : m_run.end - (isSection ? kSectionClosing : 0);
+    record.leaf.valueBegin = m_run.valueBegin;
+    record.leaf.valueLength = static_cast<std::uint32_t>(valueEnd) - m_run.valueBegin;
+    record.leaf.rawBegin = m_run.begin + (isSection ? kSectionOpening : 0);
+    record.leaf.inPool = m_run.inPool;
+    AddChild(number);
+    m_run.kind = NodeKind::None;
+}
+
+void DocumentBuilder::Comment(std::string_view text, ByteRange range) {
+    FlushRun();
+    const std::uint32_t number = Add(NodeKind::Comment, range);
+    SetValue(m_data.nodes[number], text, {range.begin + 4, range.end - 3}); // <!-- and -->
+    AddChild(number);
+}
+
+void DocumentBuilder::Instruction(std::string_view target, std::string_view content, ByteRange range) {
+    FlushRun();
+    const std::uint32_t number = Add(NodeKind::Instruction, range);
+    NodeRecord& record = m_data.nodes[number];
+    record.name = m_data.names.Intern(target) & NodeRecord::kNameMask;
+    SetValue(record, content,
+             {SkipBlanks(range.begin + 2 + static_cast<std::uint32_t>(target.size())), range.end - 2}); // <? and ?>
+    AddChild(number);
+}
+
+void DocumentBuilder::SetValue(NodeRecord& record, std::string_view value, ByteRange raw) {
+    const std::string_view written = std::string_view(m_data.source.text).substr(raw.begin, raw.Size());
+    record.leaf.inPool = value != written;
+    record.leaf.rawBegin = raw.begin;
+    record.leaf.valueBegin = record.leaf.inPool ? static_cast<std::uint32_t>(m_data.pool.size()) : raw.begin;
+    record.leaf.valueLength = static_cast<std::uint32_t>(value.size());
+    if (record.leaf.inPool) {
+        m_data.pool.append(value);
+    }
+}
+
+std::uint32_t DocumentBuilder::Add(NodeKind kind, ByteRange range) {
+    const std::size_t number = m_data.nodes.size();
+    if (number - 2 >= m_limits.nodes) {
+        throw ErrorAt(m_data, range.begin, LimitPassed("the document has too many nodes", m_limits.nodes, "nodes"));
+    }
+    if (number == m_data.nodes.capacity()) {
+        MakeRoom(range.begin);
+    }
+    NodeRecord& record = m_data.nodes.emplace_back();
+    record.begin = range.begin;
+    record.end = range.end;
+    record.kind = kind;
+    if (!record.IsInner()) {
+        record.leaf = {};
+    }
+    return static_cast<std::uint32_t>(number);
+}
+
+void DocumentBuilder::AddChild(std::uint32_t number) {
+    NodeRecord::Inner& parent = m_data.nodes[m_parent].inner;
+    m_data.nodes[number].parent = m_parent;
+    if (parent.lastChild == 0) {
+        parent.firstChild = number;
+    } else {
+        m_data.nodes[parent.lastChild].next = number;
+        m_data.nodes[number].previous = parent.lastChild;
+    }
+    parent.lastChild = number;
+}
+
+// Documents are alike from end to end: what has been read tells how many nodes the rest will need, so that a large one
+// is seldom copied and little is reserved in vain. Growing by half at least keeps the whole linear whatever the
+// document does.
+void DocumentBuilder::MakeRoom(std::size_t consumed) {
+    const auto count = static_cast<double>(m_data.nodes.size());
+    const double share = static_cast<double>(m_data.source.text.size()) / static_cast<double>(consumed + 1);
+    m_data.nodes.reserve(static_cast<std::size_t>(std::clamp(count * share * 1.02, count * 1.5, count * 8)) + 16);
+}
+
+std::uint32_t DocumentBuilder::SkipBlanks(std::uint32_t at) const {
+    const std::string& text = m_data.source.text;
+    while (text[at] == ' ' || text[at] == '\t' || text[at] == '\r' || text[at] == '\n') {
+        ++at;
+    }
+    return at;
+}
+
+} // namespace Framework

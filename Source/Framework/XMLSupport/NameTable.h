@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Framework {
+
+/// The distinct names of one document, numbered from 1; 0 is the empty name. Names never move, so views of them stay
+/// good as long as the table. The hash is keyed per process, so that no document can be written whose names all
+/// collide.
+class NameTable {
+public:
+    NameTable();
+
+    /// The number of the name, which is added when it is new.
+    std::uint32_t Intern(std::string_view name);
+    /// The number of the name, 0 when it is not in the table.
+    std::uint32_t Find(std::string_view name) const;
+    std::string_view Name(std::uint32_t number) const { return m_names[number]; }
+
+private:
+    std::size_t SlotOf(std::string_view name, std::uint32_t hash) const;
+    void Grow();
+
+    struct Slot {
+        std::uint32_t number = 0; // 0: free
+        std::uint32_t hash = 0;
+    };
+    std::deque<std::string> m_names;
+    std::vector<Slot> m_slots; // a power of two, at most half full
+};
+
+} // namespace Framework

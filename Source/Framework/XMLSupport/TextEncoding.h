@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace Framework {
+
+/// More than this no document may have, in bytes or as UTF-8: ranges and the parser count in 31 bits.
+inline constexpr std::size_t kMostDocumentBytes = std::size_t{1} << 30U;
+
+/// A document's text as UTF-8, and what is needed to give its bytes back.
+struct DecodedText {
+    /// Without byte order mark.
+    std::string text;
+    /// The bytes as they came; empty when `text`, behind the mark if there is one, is just that.
+    std::string original;
+    /// As iconv knows it, with the byte order named: "UTF-8", "UTF-16LE", "Windows-1252".
+    std::string encoding = "UTF-8";
+    bool byteOrderMark = false;
+};
+
+/// Detects the encoding of a document and turns it into UTF-8. A byte order mark decides, else `<` with its zero bytes,
+/// else the declaration, else it is UTF-8. Throws ParseError when these contradict each other or the bytes are not of
+/// that encoding; text that is UTF-8 already is not checked, the parser does that.
+DecodedText DecodeDocument(std::string bytes, const std::string& sourceName);
+
+/// "0xE9": a byte as error texts name it.
+std::string HexByte(char byte);
+
+/// The way back: nothing when a character does not exist in the encoding.
+std::optional<std::string> EncodeDocument(std::string_view text, const std::string& encoding, bool byteOrderMark);
+
+} // namespace Framework

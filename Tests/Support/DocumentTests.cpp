@@ -1,0 +1,359 @@
+#include "Framework/LoadLimits.h"
+#include "Framework/XMLSupport/Document.h"
+#include "Framework/XMLSupport/ParseError.h"
+#include "Framework/XMLSupport/TextEncoding.h"
+#include "Support/RandomXml.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+namespace Framework {
+namespace {
+
+using namespace std::literals;
+
+std::shared_ptr<const Document> Parse(std::string bytes) {
+    return Document::Parse(std::move(bytes), "doc.xml", LoadLimits());
+}
+
+std::string Escaped(std::string_view text) {
+    std::string out;
+    for (const char byte : text) {
+        out += byte == '\n' ? "\\n" : byte == '\r' ? "\\r" : byte == '\t' ? "\\t" : std::string(1, byte);
+    }
+    return out;
+}
+
+std::string Printed(ByteRange range) {
+    return "[" + std::to_string(range.begin) + "-" + std::to_string(range.end) + "]";
+}
+
+/// The node and all below it: `name(attributes|children)`, "text", {CDATA}, !comment, ?target:instruction; with ranges
+/// on demand, of an element also its start tag, of an attribute also its value.
+std::string Dump(const Document& document, NodeRef node, bool withRanges) {
+    std::string room;
+    const std::string name(document.Name(node));
+    const std::string value = Escaped(document.Value(node, room));
+    const std::string range = withRanges ? Printed(document.Range(node)) : std::string();
+    switch (document.Kind(node)) {
+    case NodeKind::Attribute:
+        return " " + name + range + "='" + value + "'" + (withRanges ? Printed(document.ValueRange(node)) : "");
+    case NodeKind::Text:
+        return "\"" + value + "\"" + range;
+    case NodeKind::CData:
+        return "{" + value + "}" + range;
+    case NodeKind::Comment:
+        return "!" + value + range;
+    case NodeKind::Instruction:
+        return "?" + name + ":" + value + range;
+    default:
+        break;
+    }
+    const bool isElement = document.Kind(node) == NodeKind::Element;
+    std::string out = name + range + (withRanges && isElement ? Printed(document.StartTag(node)) : "") + "(";
+    for (NodeRef each = document.FirstAttribute(node); each != NodeRef::None; each = document.NextSibling(each)) {
+        out += Dump(document, each, withRanges);
+    }
+    out += isElement ? "|" : "";
+    for (NodeRef each = document.FirstChild(node); each != NodeRef::None; each = document.NextSibling(each)) {
+        out += Dump(document, each, withRanges);
+    }
+    return out + ")";
+}
+
+/// Start and end tag, and that children cover all that stands between them.
+void CheckElement(const Document& document, NodeRef node) {
+    const std::string& source = document.Source();
+    const auto slice = [&](ByteRange of) { return std::string_view(source).substr(of.begin, of.Size()); };
+    const ByteRange range = document.Range(node);
+    const std::string_view raw = slice(range);
+    const std::string name(document.Name(node));
+    const std::string_view tag = slice(document.StartTag(node));
+    ASSERT_TRUE(tag.starts_with("<" + name) && tag.ends_with(">") && raw.starts_with(tag)) << raw;
+    std::uint32_t at = document.StartTag(node).end;
+    for (NodeRef each = document.FirstChild(node); each != NodeRef::None; each = document.NextSibling(each)) {
+        ASSERT_EQ(document.Parent(each), node);
+        ASSERT_EQ(document.Range(each).begin, at);
+        at = document.Range(each).end;
+    }
+    if (raw == tag) {
+        ASSERT_TRUE(tag.ends_with("/>") && at == range.end) << raw;
+    } else {
+        ASSERT_EQ(source.compare(at, 2 + name.size(), "</" + name), 0) << raw;
+        ASSERT_EQ(source.find('>', at), range.end - 1) << raw;
+    }
+}
+
+/// Everything that must hold for the links and ranges of any document, whatever is in it.
+void CheckTree(const Document& document) {
+    const std::string& source = document.Source();
+    const auto slice = [&](ByteRange range) { return std::string_view(source).substr(range.begin, range.Size()); };
+    std::string room;
+    std::size_t roots = 0;
+    for (std::size_t number = 1; number <= document.NodeCount(); ++number) {
+        const NodeRef node{number};
+        const NodeKind kind = document.Kind(node);
+        const ByteRange range = document.Range(node);
+        const std::string_view raw = slice(range);
+        const std::string_view value = document.Value(node, room);
+        const std::string name(document.Name(node));
+        const NodeRef parent = document.Parent(node);
+        if (source.size() < 10'000) { // one answer is linear
+            ASSERT_EQ(document.PlaceOf(node), PlaceIn(source, range.begin));
+        }
+        ASSERT_EQ(document.NameNumber(node), document.NumberOfName(name));
+        if (const NodeRef next = document.NextSibling(node); next != NodeRef::None) {
+            ASSERT_EQ(document.PreviousSibling(next), node);
+            ASSERT_EQ(document.Parent(next), parent);
+            ASSERT_LT(node, next);
+        } else if (kind != NodeKind::Attribute && parent != NodeRef::None) {
+            ASSERT_EQ(document.LastChild(parent), node);
+        }
+        switch (kind) {
+        case NodeKind::Element:
+            CheckElement(document, node);
+            roots += node == document.Root() ? 1 : 0;
+            break;
+        case NodeKind::Attribute: {
+            const std::string_view written = slice(document.ValueRange(node));
+            ASSERT_TRUE(raw.starts_with(name) && raw.back() == *(written.data() - 1)) << raw;
+            ASSERT_TRUE(raw.ends_with(std::string(written) + raw.back()) && written.find(raw.back()) == raw.npos);
+            ASSERT_GT(range.begin, document.Range(parent).begin);
+            ASSERT_LT(range.end, document.StartTag(parent).end);
+            break;
+        }
+        case NodeKind::Text:
+            ASSERT_TRUE(!raw.empty() && raw.find('<') == raw.npos) << raw;
+            ASSERT_EQ(raw == value, raw.find_first_of("&\r") == raw.npos);
+            ASSERT_NE(document.Kind(document.NextSibling(node)), NodeKind::Text);
+            break;
+        case NodeKind::CData:
+            ASSERT_TRUE(raw.starts_with("<![CDATA[") && raw.ends_with("]]>")) << raw;
+            break;
+        case NodeKind::Comment:
+            ASSERT_TRUE(raw.starts_with("<!--") && raw.ends_with("-->")) << raw;
+            break;
+        case NodeKind::Instruction:
+            ASSERT_TRUE(raw.starts_with("<?" + name) && raw.ends_with("?>")) << raw;
+            break;
+        default:
+            ASSERT_EQ(node, document.DocumentNode());
+            ASSERT_EQ(raw, source);
+        }
+    }
+    ASSERT_EQ(roots, 1U);
+}
+
+TEST(Document, ReadsOddButWellFormedDocuments) {
+    struct Case {
+        std::string_view source;
+        std::string_view tree;
+    };
+    const Case cases[] = {
+        {"<a/>", "[0-4](a[0-4][0-4](|))"},
+        {"<a></a >", "[0-8](a[0-8][0-3](|))"},
+        {"<a  k = 'v>' \n j=\"'\"/>", "[0-22](a[0-22][0-22]( k[4-12]='v>'[9-11] j[15-20]='''[18-19]|))"},
+        {"<a k='&lt;&#65;'>x&amp;y</a>", "[0-28](a[0-28][0-17]( k[3-16]='<A'[6-15]|\"x&y\"[17-24]))"},
+        {"<a k='1\t2\r\n3\n4'/>", "[0-17](a[0-17][0-17]( k[3-15]='1 2 3 4'[6-14]|))"},
+        {"<a k=''/>", "[0-9](a[0-9][0-9]( k[3-7]=''[6-6]|))"},
+        {"<a>1\r\n2\r3\n4</a>", "[0-15](a[0-15][0-3](|\"1\\n2\\n3\\n4\"[3-11]))"},
+        {"<a>\r</a>", "[0-8](a[0-8][0-3](|\"\\n\"[3-4]))"},
+        {"<a>]]&gt;]</a>", "[0-14](a[0-14][0-3](|\"]]>]\"[3-10]))"},
+        {"<a><![CDATA[]]><![CDATA[<b>]]]]>t</a>", "[0-37](a[0-37][0-3](|{}[3-15]{<b>]]}[15-32]\"t\"[32-33]))"},
+        {"<a><![CDATA[1\r\n2\r]]></a>", "[0-24](a[0-24][0-3](|{1\\n2\\n}[3-20]))"},
+        {"<a>x<!---->y<?p?>z<?q  r ?></a>",
+         "[0-31](a[0-31][0-3](|\"x\"[3-4]![4-11]\"y\"[11-12]?p:[12-17]\"z\"[17-18]?q:r [18-27]))"},
+        {"<!--1\r2--> <?p 1\r\n2?>\n<a/> <!--e-->\n", "[0-36](!1\\n2[0-10]?p:1\\n2[11-21]a[22-26][22-26](|)!e[27-35])"},
+        {"<?xml version='1.0' standalone='yes'?><p:a xmlns:q='u'><q:b/></p:a>",
+         "[0-67](p:a[38-67][38-55]( xmlns:q[43-54]='u'[52-53]|q:b[55-61][55-61](|)))"},
+        {"<a> <b> </b>\n</a>", "[0-17](a[0-17][0-3](|\" \"[3-4]b[4-12][4-7](|\" \"[7-8])\"\\n\"[12-13]))"},
+        {"<\xC3\xA4 \xC3\xB6='\xF0\x9F\x99\x82'>&#x1F642;\xE2\x82\xAC</\xC3\xA4>",
+         "[0-31](\xC3\xA4[0-31][0-14]( "
+         "\xC3\xB6[4-13]='\xF0\x9F\x99\x82'[8-12]|\"\xF0\x9F\x99\x82\xE2\x82\xAC\"[14-26]))"},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.source);
+        const auto document = Parse(std::string(each.source));
+        EXPECT_EQ(Dump(*document, document->DocumentNode(), true), each.tree);
+        EXPECT_EQ(document->OriginalBytes(), each.source);
+        CheckTree(*document);
+    }
+}
+
+TEST(Document, AnswersForNoNodeAndForKindsWithoutTheThingAsked) {
+    const auto document = Parse("<a k='v'>t</a>");
+    const NodeRef attribute = document->FirstAttribute(document->Root());
+    const NodeRef text = document->FirstChild(document->Root());
+    for (const NodeRef node : {NodeRef::None, attribute, text}) {
+        EXPECT_EQ(document->FirstChild(node), NodeRef::None);
+        EXPECT_EQ(document->LastChild(node), NodeRef::None);
+        EXPECT_EQ(document->FirstAttribute(node), NodeRef::None);
+    }
+    std::string room;
+    EXPECT_EQ(document->Kind(NodeRef::None), NodeKind::None);
+    EXPECT_EQ(document->Value(NodeRef::None, room), "");
+    EXPECT_EQ(document->Value(document->Root(), room), "");
+    EXPECT_EQ(document->Name(text), "");
+    EXPECT_EQ(document->Parent(attribute), document->Root());
+    EXPECT_EQ(document->Parent(document->DocumentNode()), NodeRef::None);
+    EXPECT_EQ(document->NumberOfName("absent"), 0U);
+    EXPECT_EQ(document->StartTag(text).Size(), 0U);
+}
+
+TEST(Document, CountsLinesAndColumnsAsPeopleDo) {
+    const auto document =
+        Parse("<a>\r\n\t<b/>\r<c/>\n\n \xC3\xA4\xF0\x9F\x99\x82<d k='1'/>" + std::string(600, 'x') + "<e/></a>");
+    struct Case {
+        std::string_view node;
+        Place place;
+    };
+    for (const Case& each : {Case{"<a>", {1, 1}},
+                             {"\r\n", {1, 4}},
+                             {"<b/>", {2, 2}},
+                             {"\r<c", {2, 6}},
+                             {"<c/>", {3, 1}},
+                             {"\n ", {4, 1}},
+                             {"<d", {5, 4}},
+                             {"k=", {5, 7}},
+                             {"<e/>", {5, 614}},
+                             {"</a>", {5, 618}}}) {
+        SCOPED_TRACE(each.node);
+        const Place place = document->PlaceAt(document->Source().find(each.node));
+        EXPECT_EQ(place.line, each.place.line);
+        EXPECT_EQ(place.column, each.place.column);
+    }
+    EXPECT_EQ(document->PlaceAt(1U << 30U), document->PlaceAt(document->Source().size()));
+}
+
+std::string Encoded(std::string_view text, const std::string& encoding, bool mark) {
+    const auto bytes = EncodeDocument(text, encoding, mark);
+    EXPECT_TRUE(bytes.has_value()) << encoding;
+    return bytes.value_or("");
+}
+
+TEST(Document, ReadsEveryEncodingAndKeepsItsBytes) {
+    struct Case {
+        std::string declared; // empty: no declaration
+        std::string encoding;
+        bool mark;
+        std::string text;
+    };
+    const std::string any = "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x99\x82";
+    const Case cases[] = {
+        {"", "UTF-8", false, any},
+        {"", "UTF-8", true, any},
+        {"utf-8", "UTF-8", true, any},
+        {"", "UTF-16LE", true, any},
+        {"UTF-16", "UTF-16BE", true, any},
+        {"UTF-16", "UTF-16LE", false, any},
+        {"", "UTF-16BE", false, any},
+        {"utf-32", "UTF-32LE", true, any},
+        {"", "UTF-32BE", true, any},
+        {"UTF-32BE", "UTF-32BE", false, any},
+        {"UTF-32", "UTF-32LE", false, any},
+        {"US-ASCII", "US-ASCII", false, "plain"},
+        {"ISO-8859-1", "ISO-8859-1", false, "\xC3\xA4\xC3\xBF"},
+        {"windows-1252", "windows-1252", false, "\xE2\x82\xAC\xE2\x80\x93"},
+        {"Shift_JIS", "Shift_JIS", false, "\xE3\x83\x86\xE3\x82\xB9\xE3\x83\x88"},
+        {"EUC-JP", "EUC-JP", false, "\xE3\x83\x86"},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.encoding + (each.mark ? " with mark, declared " : " declared ") + each.declared);
+        const std::string declaration =
+            each.declared.empty() ? "" : "<?xml version=\"1.0\" encoding='" + each.declared + "'?>\n";
+        const std::string text = declaration + "<a k='" + each.text + "'>" + each.text + "</a>";
+        const std::string bytes = Encoded(text, each.encoding, each.mark);
+        const auto document = Parse(bytes);
+        EXPECT_EQ(document->Source(), text);
+        EXPECT_EQ(document->EncodingName(), each.encoding);
+        EXPECT_EQ(document->HasByteOrderMark(), each.mark);
+        EXPECT_EQ(Dump(*document, document->Root(), false), "a( k='" + each.text + "'|\"" + each.text + "\")");
+        EXPECT_EQ(document->OriginalBytes(), bytes);
+        EXPECT_EQ(EncodeDocument(document->Source(), document->EncodingName(), document->HasByteOrderMark()), bytes);
+        EXPECT_EQ(document->PlaceOf(document->Root()), (Place{each.declared.empty() ? 1U : 2U, 1}));
+    }
+    EXPECT_EQ(EncodeDocument("\xE2\x82\xAC", "ISO-8859-1", false), std::nullopt);
+    EXPECT_EQ(Parse("<?xml version='1.0' encoding='Shift_JIS'?><a>\x83\x65</a>"s)->Source().substr(45, 3),
+              "\xE3\x83\x86");
+}
+
+TEST(Document, ReadsRandomDocumentsAsTheyWereWritten) {
+    for (unsigned seed = 0; seed < 300; ++seed) {
+        RandomWriter writer(seed);
+        writer.Element(5);
+        SCOPED_TRACE(writer.Text());
+        const auto document = Parse(writer.Text());
+        ASSERT_EQ(Dump(*document, document->Root(), false), writer.Tree());
+        CheckTree(*document);
+        if (HasFatalFailure()) {
+            return;
+        }
+    }
+}
+
+TEST(Document, RefusesEveryPrefixAndSurvivesEveryFlippedBit) {
+    const std::string whole =
+        "<?xml version=\"1.0\" encoding='UTF-8'?>\n<!--c--><a k='v &lt; \xC3\xA4'>\r\n<b>&#65;]]</b>"
+        "<![CDATA[<x>]]><?p q?></a>";
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        ASSERT_THROW(Parse(whole.substr(0, length)), ParseError) << length;
+    }
+    for (std::size_t bit = 0; bit < whole.size() * 8; ++bit) {
+        std::string broken = whole;
+        broken[bit / 8] = static_cast<char>(broken[bit / 8] ^ (1 << (bit % 8)));
+        try {
+            CheckTree(*Parse(broken));
+        } catch (const ParseError& error) {
+            ASSERT_GE(error.Where().line, 1U);
+        }
+    }
+}
+
+TEST(Document, HoldsManyNodesAndNames) {
+    std::string text = "<list>";
+    for (int number = 0; number < 200'000; ++number) {
+        text += "<e" + std::to_string(number % 50'000) + " k='" + std::to_string(number) + "'/>";
+    }
+    text += "</list>";
+    const auto document = Parse(text);
+    EXPECT_EQ(document->NodeCount(), 400'002U);
+    std::string room;
+    int number = 199'999;
+    for (NodeRef each = document->LastChild(document->Root()); each != NodeRef::None;
+         each = document->PreviousSibling(each)) {
+        ASSERT_EQ(document->Name(each), "e" + std::to_string(number % 50'000));
+        ASSERT_EQ(document->Value(document->FirstAttribute(each), room), std::to_string(number--));
+    }
+    EXPECT_EQ(number, -1);
+    CheckTree(*document);
+}
+
+TEST(Document, IsReadByManyThreadsAtOnce) {
+    const auto document = Parse("<a>\n<b k='1'/>\n<c/></a>");
+    const Place expected{3, 1};
+    const NodeRef last = document->LastChild(document->Root());
+    std::vector<XALAN_CPP_NAMESPACE::XalanNode*> views(4);
+    std::vector<Place> places(4);
+    std::vector<std::thread> threads;
+    for (std::size_t number = 0; number < views.size(); ++number) {
+        threads.emplace_back([&, number] {
+            places[number] = document->PlaceOf(last);
+            views[number] = document->View(last);
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    for (std::size_t number = 0; number < views.size(); ++number) {
+        EXPECT_EQ(places[number], expected);
+        EXPECT_NE(views[number], nullptr);
+        EXPECT_EQ(views[number], views[0]);
+    }
+}
+
+} // namespace
+} // namespace Framework
