@@ -1,0 +1,207 @@
+#include "Framework/XMLSupport/XPathFallback.h"
+
+#include "Framework/XMLSupport/NodeViews.h"
+#include "Framework/XMLSupport/Utf.h"
+#include "Framework/XMLSupport/XmlRuntime.h"
+
+#include <algorithm>
+#include <limits>
+#include <stdexcept>
+#include <string>
+
+#include <xalanc/DOMSupport/DOMSupport.hpp>
+#include <xalanc/PlatformSupport/PrefixResolver.hpp>
+#include <xalanc/PlatformSupport/XSLException.hpp>
+#include <xalanc/XPath/NodeRefListBase.hpp>
+#include <xalanc/XPath/XObject.hpp>
+#include <xalanc/XPath/XObjectFactoryDefault.hpp>
+#include <xalanc/XPath/XPath.hpp>
+#include <xalanc/XPath/XPathConstructionContextDefault.hpp>
+#include <xalanc/XPath/XPathEnvSupportDefault.hpp>
+#include <xalanc/XPath/XPathExecutionContextDefault.hpp>
+#include <xalanc/XPath/XPathProcessorImpl.hpp>
+#include <xalanc/XalanDOM/XalanDOMException.hpp>
+#include <xalanc/XalanDOM/XalanNode.hpp>
+#include <xercesc/util/XMLException.hpp>
+
+namespace Framework {
+
+namespace xalan = XALAN_CPP_NAMESPACE;
+
+namespace {
+
+constexpr std::size_t kLongestExpression = 4096;
+constexpr int kDeepestBrackets = 100;
+constexpr int kMostOperators = 500;
+
+[[noreturn]] void Refuse(std::string_view expression, const std::string& what) {
+    constexpr std::size_t kShown = 200;
+    std::string shown(expression.substr(0, kShown));
+    throw std::runtime_error("XPath \"" + shown + (expression.size() > kShown ? "...\": " : "\": ") + what);
+}
+
+void CheckExpression(std::string_view expression) {
+    if (expression.size() > kLongestExpression) {
+        Refuse(expression, "longer than " + std::to_string(kLongestExpression) + " bytes");
+    }
+    if (!IsXmlText(expression)) {
+        Refuse(expression, "not a text in UTF-8");
+    }
+    int depth = 0;
+    int operators = 0;
+    for (std::size_t at = 0; at < expression.size(); ++at) {
+        const char c = expression[at];
+        if (c == '\'' || c == '"') {
+            at = expression.find(c, at + 1);
+            if (at == std::string_view::npos) {
+                Refuse(expression, "a quoted text without end");
+            }
+        } else if (c == '(' || c == '[') {
+            if (++depth > kDeepestBrackets) {
+                Refuse(expression, "brackets nested deeper than " + std::to_string(kDeepestBrackets));
+            }
+        } else if (c == ')' || c == ']') {
+            --depth;
+        } else if (std::string_view("/|+-*=!<>").find(c) != std::string_view::npos && ++operators > kMostOperators) {
+            Refuse(expression, "more than " + std::to_string(kMostOperators) + " steps and operators");
+        }
+    }
+}
+
+std::string ToUtf8(const xalan::XalanDOMString& message) {
+    std::string text;
+    AppendUtf8(text, message.c_str(), message.size());
+    return text;
+}
+
+/// What Xalan finds wrong. The stock contexts print it on standard error, which is the host's.
+class XPathProblem : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+template <class Base> class QuietContext : public Base {
+public:
+    using Source = typename Base::eSource;
+    using Classification = typename Base::eClassification;
+
+    void problem(Source source, Classification classification, const xalan::XalanDOMString& message,
+                 const xercesc::Locator*, const xalan::XalanNode* node) override {
+        problem(source, classification, message, node);
+    }
+    void problem(Source, Classification classification, const xalan::XalanDOMString& message,
+                 const xalan::XalanNode*) override {
+        if (classification == Base::eError) {
+            throw XPathProblem(ToUtf8(message));
+        }
+    }
+};
+
+class Support final : public xalan::DOMSupport {
+public:
+    void reset() override {}
+    const xalan::XalanDOMString& getUnparsedEntityURI(const xalan::XalanDOMString&,
+                                                      const xalan::XalanDocument&) const override {
+        return m_empty;
+    }
+    bool isNodeAfter(const xalan::XalanNode& node1, const xalan::XalanNode& node2) const override {
+        return node1.getIndex() > node2.getIndex();
+    }
+
+private:
+    xalan::XalanDOMString m_empty;
+};
+
+class NoPrefixes final : public xalan::PrefixResolver {
+public:
+    const xalan::XalanDOMString* getNamespaceForPrefix(const xalan::XalanDOMString&) const override { return nullptr; }
+    const xalan::XalanDOMString& getURI() const override { return m_empty; }
+
+private:
+    xalan::XalanDOMString m_empty;
+};
+
+/// Xalan's lists grow by one node at a time, copying all they hold: a list of many must have its room from the start.
+class RoomyContext final : public xalan::XPathExecutionContextDefault {
+public:
+    RoomyContext(xalan::XPathEnvSupport& environment, xalan::DOMSupport& support, xalan::XObjectFactory& objects,
+                 std::size_t room)
+        : XPathExecutionContextDefault(environment, support, objects), m_room(room) {}
+
+    xalan::MutableNodeRefList* borrowMutableNodeRefList() override {
+        xalan::MutableNodeRefList* const list = XPathExecutionContextDefault::borrowMutableNodeRefList();
+        list->reserve(static_cast<xalan::MutableNodeRefList::size_type>(m_room));
+        return list;
+    }
+
+private:
+    std::size_t m_room;
+};
+
+NodeRef Evaluate(xalan::XalanNode& start, std::string_view expression, std::size_t room) {
+    xalan::MemoryManager& memory = xalan::XalanMemMgrs::getDefaultXercesMemMgr();
+    const NoPrefixes prefixes;
+    QuietContext<xalan::XPathConstructionContextDefault> construction;
+    xalan::XPath path(memory);
+    const xalan::XalanDOMString text(ToUtf16(expression).c_str(), memory);
+    xalan::XPathProcessorImpl(memory).initXPath(path, construction, text, prefixes, nullptr, false, false);
+
+    Support support;
+    QuietContext<xalan::XPathEnvSupportDefault> environment;
+    xalan::XObjectFactoryDefault objects(memory);
+    RoomyContext execution(environment, support, objects, room);
+    const xalan::XObjectPtr result = path.execute(&start, prefixes, execution);
+    if (result.null() || result->getType() != xalan::XObject::eTypeNodeSet) {
+        throw XPathProblem("it does not select nodes");
+    }
+    // Sets come in document order, those of a reverse axis too.
+    const xalan::NodeRefListBase& nodes = result->nodeset();
+    const XmlTree* tree = nullptr;
+    return NodeViews::Find(nodes.getLength() == 0 ? nullptr : nodes.item(0), tree);
+}
+
+/// What looks at few nodes shall not pay for the size of the tree. What looks at many begins anew, knowing how many
+/// there are.
+NodeRef EvaluateTwice(NodeViews& views, NodeRef context, std::string_view expression) {
+    constexpr std::size_t kFew = 4096;
+    xalan::XalanNode* const start = views.View(context);
+    if (start == nullptr) {
+        throw XPathProblem("there is no node to start from");
+    }
+    views.Limit(kFew);
+    try {
+        return Evaluate(*start, expression, 0);
+    } catch (const TooManyViews&) {
+        views.Limit(std::numeric_limits<std::size_t>::max());
+    }
+    return Evaluate(*start, expression, views.CountNodes());
+}
+
+/// Xalan repeats the whole expression, token by token.
+std::string Shortened(std::string message) {
+    constexpr std::size_t kLongest = 200;
+    message.resize(std::min({message.size(), message.find('\n'), kLongest}));
+    return message;
+}
+
+} // namespace
+
+NodeRef EvaluateXPath(const XmlTree& tree, NodeRef context, std::string_view expression) {
+    CheckExpression(expression);
+    EnsureXPathRuntime();
+    // Views of its own: they go when it is done, no other thread waits for them, and they know the order of any tree.
+    NodeViews views(tree, NodeOrder::ForXPath);
+    try {
+        return EvaluateTwice(views, context, expression);
+    } catch (const XPathProblem& problem) {
+        Refuse(expression, Shortened(problem.what()));
+    } catch (const xalan::XSLException& error) {
+        Refuse(expression, Shortened(ToUtf8(error.getMessage())));
+    } catch (const xercesc::XMLException& error) {
+        Refuse(expression, Shortened(ToUtf8(xalan::XalanDOMString(error.getMessage()))));
+    } catch (const xalan::XalanDOMException& error) {
+        Refuse(expression, "error " + std::to_string(error.getExceptionCode()) + " of the node interface");
+    }
+}
+
+} // namespace Framework

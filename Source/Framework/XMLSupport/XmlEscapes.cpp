@@ -1,0 +1,131 @@
+#include "Framework/XMLSupport/XmlEscapes.h"
+
+#include "Framework/XMLSupport/Utf.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <new>
+
+#include <expat.h>
+
+namespace Framework {
+
+namespace {
+
+/// Copies what needs no escape in one piece each.
+template <class Escape>
+void AppendEscaped(std::string& xml, std::string_view text, std::string_view special, Escape escape) {
+    std::size_t begin = 0;
+    for (std::size_t at; (at = text.find_first_of(special, begin)) != std::string_view::npos; begin = at + 1) {
+        xml.append(text, begin, at - begin);
+        xml.append(escape(text[at]));
+    }
+    xml.append(text, begin);
+}
+
+std::string_view Reference(char character) {
+    switch (character) {
+    case '&':
+        return "&amp;";
+    case '<':
+        return "&lt;";
+    case '>':
+        return "&gt;";
+    case '"':
+        return "&quot;";
+    case '\t':
+        return "&#9;";
+    case '\n':
+        return "&#10;";
+    default:
+        return "&#13;";
+    }
+}
+
+bool IsPlainNameStart(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == ':';
+}
+
+bool IsPlainNameCharacter(char c) {
+    return IsPlainNameStart(c) || (c >= '0' && c <= '9') || c == '-' || c == '.';
+}
+
+/// Which letters a name may have differs between the editions of XML 1.0, and between Xerces and expat. What loads
+/// again is what counts.
+bool ParserTakesName(std::string_view name) {
+    constexpr std::size_t kLongest = std::size_t{1} << 20U;
+    if (name.size() > kLongest) {
+        return false;
+    }
+    const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser(XML_ParserCreate("UTF-8"),
+                                                                              &XML_ParserFree);
+    if (parser == nullptr) {
+        throw std::bad_alloc();
+    }
+    const std::string xml = "<" + std::string(name) + "/>";
+    return XML_Parse(parser.get(), xml.data(), static_cast<int>(xml.size()), XML_TRUE) == XML_STATUS_OK;
+}
+
+} // namespace
+
+std::string DescribeForbidden(std::string_view text) {
+    const std::size_t at = FindNonXmlText(text);
+    if (at == std::string_view::npos) {
+        return {};
+    }
+    char room[32];
+    const auto first = static_cast<unsigned char>(text[at]);
+    // U+FFFE and U+FFFF are the only ones of more than one byte that are well formed.
+    const std::string_view noncharacter = text.substr(at, 3);
+    if (first < 0x20) {
+        std::snprintf(room, sizeof room, "character U+%04X", first);
+    } else if (noncharacter == "\xEF\xBF\xBE" || noncharacter == "\xEF\xBF\xBF") {
+        std::snprintf(room, sizeof room, "character U+FFF%c", noncharacter.back() == '\xBE' ? 'E' : 'F');
+    } else {
+        std::snprintf(room, sizeof room, "byte 0x%02X, not UTF-8", first);
+    }
+    return room;
+}
+
+bool IsXmlName(std::string_view name) {
+    if (name.empty()) {
+        return false;
+    }
+    const auto isPlain = [](char c) { return IsPlainNameCharacter(c); };
+    if (std::all_of(name.begin(), name.end(), isPlain)) {
+        return IsPlainNameStart(name.front());
+    }
+    const auto isBeyondAscii = [](char c) { return static_cast<unsigned char>(c) > 0x7F; };
+    const bool mayBe = std::all_of(name.begin(), name.end(), [&](char c) { return isPlain(c) || isBeyondAscii(c); });
+    return mayBe && ParserTakesName(name);
+}
+
+void AppendEscapedText(std::string& xml, std::string_view text) {
+    AppendEscaped(xml, text, "&<>\r", Reference);
+}
+
+void AppendEscapedAttribute(std::string& xml, std::string_view value) {
+    AppendEscaped(xml, value, "&<\"\t\n\r", Reference);
+}
+
+void AppendCData(std::string& xml, std::string_view text) {
+    constexpr std::string_view kOpen = "<![CDATA[";
+    constexpr std::string_view kClose = "]]>";
+    xml.append(kOpen);
+    std::size_t begin = 0;
+    for (std::size_t at; (at = text.find_first_of(">\r", begin)) != std::string_view::npos; begin = at + 1) {
+        xml.append(text, begin, at - begin);
+        if (text[at] == '\r') {
+            xml.append(kClose).append(Reference('\r')).append(kOpen);
+            continue;
+        }
+        if (at >= 2 && text.substr(at - 2, 2) == "]]") {
+            xml.append(kClose).append(kOpen);
+        }
+        xml.push_back('>');
+    }
+    xml.append(text, begin).append(kClose);
+}
+
+} // namespace Framework

@@ -1,0 +1,323 @@
+#include "Framework/XMLSupport/DomBuilder.h"
+#include "Framework/XMLSupport/NodeViews.h"
+#include "Framework/XMLSupport/Utf.h"
+#include "Framework/XMLSupport/XPathFallback.h"
+#include "Framework/XMLSupport/XmlRuntime.h"
+#include "TreeText.h"
+
+#include <set>
+#include <thread>
+
+#include <gtest/gtest.h>
+#include <xalanc/XalanDOM/XalanAttr.hpp>
+#include <xalanc/XalanDOM/XalanDocument.hpp>
+#include <xalanc/XalanDOM/XalanElement.hpp>
+#include <xalanc/XalanDOM/XalanNamedNodeMap.hpp>
+#include <xalanc/XalanSourceTree/XalanSourceTreeDocument.hpp>
+#include <xercesc/dom/DOM.hpp>
+#include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/parsers/XercesDOMParser.hpp>
+
+namespace Framework {
+namespace {
+
+using Testing::Load;
+using Testing::TreeText;
+using xalanc::XalanNode;
+using xercesc::DOMNode;
+
+const char* const kDocuments[] = {
+    "<a/>",
+    "<?pi data?><!-- c --><a b='1' a='&#10;&lt;\"'>t<b/> "
+    "<![CDATA[]]>x<![CDATA[y]]><!----><?p?><c>&#13;\n</c></a><!--e-->",
+    "<p:a xmlns:q='u' p:k='v' k=''><q:b/>\xF0\x9F\x98\x80\xC3\xA4<c><d><e k='1' l='2'/></d></c></p:a>",
+};
+
+std::string Utf8(const xalanc::XalanDOMString& text) {
+    std::string utf8;
+    AppendUtf8(utf8, text.c_str(), text.size());
+    return utf8;
+}
+
+/// What TreeText says, read through the views.
+std::string ViewText(const XalanNode& node) {
+    const std::string value = Utf8(node.getNodeValue());
+    switch (node.getNodeType()) {
+    case XalanNode::TEXT_NODE:
+        return "'" + value + "'";
+    case XalanNode::CDATA_SECTION_NODE:
+        return "{" + value + "}";
+    case XalanNode::COMMENT_NODE:
+        return "!" + value + "!";
+    case XalanNode::PROCESSING_INSTRUCTION_NODE:
+        return "?" + Utf8(node.getNodeName()) + " " + value + "?";
+    default:
+        break;
+    }
+    std::set<std::string> attributes;
+    const xalanc::XalanNamedNodeMap* const map = node.getAttributes();
+    for (xalanc::XalanSize_t i = 0; map != nullptr && i < map->getLength(); ++i) {
+        const XalanNode* const attribute = map->item(i);
+        EXPECT_EQ(map->getNamedItem(attribute->getNodeName()), attribute);
+        EXPECT_EQ(static_cast<const xalanc::XalanAttr*>(attribute)->getOwnerElement(), &node);
+        attributes.insert(Utf8(attribute->getNodeName()) + "=\"" + Utf8(attribute->getNodeValue()) + "\" ");
+    }
+    std::string text = (node.getNodeType() == XalanNode::DOCUMENT_NODE ? "" : Utf8(node.getNodeName())) + "(";
+    for (const std::string& attribute : attributes) {
+        text += attribute;
+    }
+    text += ")[";
+    const XalanNode* last = nullptr;
+    for (const XalanNode* child = node.getFirstChild(); child != nullptr; child = child->getNextSibling()) {
+        EXPECT_EQ(child->getParentNode(), &node);
+        EXPECT_EQ(child->getPreviousSibling(), last);
+        text += ViewText(*child);
+        last = child;
+    }
+    EXPECT_EQ(node.getLastChild(), last);
+    return text + "]";
+}
+
+TEST(DomBuilder, CopiesTheWholeTreeAndPairsItsNodes) {
+    for (const char* const xml : kDocuments) {
+        const auto source = Load(xml);
+        std::size_t pairs = 0;
+        std::set<const DOMNode*> copies;
+        const DomTree reader(NewDomDocument());
+        DomTree copy(BuildDom(*source, [&](NodeRef node, DOMNode* dom) {
+            ++pairs;
+            copies.insert(dom);
+            EXPECT_EQ(reader.Kind(DomTree::Ref(dom)), source->Kind(node));
+            EXPECT_EQ(reader.Name(DomTree::Ref(dom)), source->Name(node));
+        }));
+        EXPECT_EQ(TreeText(copy), TreeText(*source));
+        EXPECT_EQ(pairs, source->NodeCount());
+        EXPECT_EQ(copies.size(), pairs);
+        // Once more, from DOM to DOM.
+        EXPECT_EQ(TreeText(DomTree(BuildDom(copy))), TreeText(*source));
+    }
+}
+
+TEST(DomTree, SeesChangesAndPassesThroughEntityReferences) {
+    EnsureXmlRuntime();
+    const std::string xml = "<!DOCTYPE a [<!ENTITY e 'x<b/>y'><!ENTITY f ''><!ENTITY g '&e;'>]><a>1&e;2&f;&g;</a>";
+    xercesc::XercesDOMParser parser;
+    parser.setCreateEntityReferenceNodes(true);
+    parser.parse(xercesc::MemBufInputSource(reinterpret_cast<const XMLByte*>(xml.data()), xml.size(), "t"));
+    const DomTree tree(parser.getDocument());
+    EXPECT_EQ(TreeText(tree, tree.Root()), "a()['1''x'b()[]'y''2''x'b()[]'y']");
+    EXPECT_EQ(tree.Kind(tree.FirstChild(tree.DocumentNode())), NodeKind::Other);
+    NodeRef node = tree.LastChild(tree.Root());
+    std::string backwards;
+    for (std::string room; node != NodeRef::None; node = tree.PreviousSibling(node)) {
+        EXPECT_EQ(tree.Parent(node), tree.Root());
+        backwards += tree.Kind(node) == NodeKind::Element ? tree.Name(node) : tree.Value(node, room);
+    }
+    EXPECT_EQ(backwards, "ybx2ybx1");
+    EXPECT_EQ(ViewText(*tree.View(tree.Root())), TreeText(tree, tree.Root()));
+
+    const DomTree other(NewDomDocument());
+    EXPECT_TRUE(tree.Holds(parser.getDocument()) && tree.Holds(DomTree::Node(tree.Root())));
+    EXPECT_FALSE(other.Holds(DomTree::Node(tree.Root())) || tree.Holds(other.Document()) || tree.Holds(nullptr));
+
+    auto* const root = static_cast<xercesc::DOMElement*>(DomTree::Node(tree.Root()));
+    for (const XMLCh* const name : {u"c", u"a", u"b"}) {
+        root->setAttribute(name, name);
+    }
+    NodeRef attribute = tree.NextSibling(tree.FirstAttribute(tree.Root()));
+    EXPECT_EQ(tree.Name(attribute), "b");
+    root->setAttribute(u"aa", u"");
+    EXPECT_EQ(tree.Name(tree.PreviousSibling(attribute)), "aa");
+    EXPECT_EQ(tree.Name(tree.NextSibling(attribute)), "c");
+    EXPECT_EQ(tree.NextSibling(tree.NextSibling(attribute)), NodeRef::None);
+}
+
+TEST(NodeViews, ShowTheTreeAndLeadBackToIt) {
+    for (const char* const xml : kDocuments) {
+        const auto source = Load(xml);
+        const DomTree dom(BuildDom(*source));
+        for (const XmlTree* const tree :
+             {static_cast<const XmlTree*>(source.get()), static_cast<const XmlTree*>(&dom)}) {
+            const XalanNode* const top = tree->View(tree->DocumentNode());
+            EXPECT_EQ(ViewText(*top), TreeText(*tree));
+            EXPECT_EQ(static_cast<const xalanc::XalanDocument*>(top)->getDocumentElement(), tree->View(tree->Root()));
+            for (NodeRef node = tree->DocumentNode(); node != NodeRef::None;
+                 node = NextInOrder(*tree, node, tree->DocumentNode())) {
+                const XmlTree* found = nullptr;
+                EXPECT_EQ(NodeViews::Find(tree->View(node), found), node);
+                EXPECT_EQ(found, tree);
+                const NodeRef attribute = tree->FirstAttribute(node);
+                EXPECT_EQ(NodeViews::Find(tree->View(attribute), found), attribute);
+            }
+        }
+    }
+    const xalanc::XalanSourceTreeDocument foreign(xalanc::XalanMemMgrs::getDefaultXercesMemMgr());
+    const XmlTree* found = nullptr;
+    EXPECT_EQ(NodeViews::Find(&foreign, found), NodeRef::None);
+    EXPECT_EQ(found, nullptr);
+    EXPECT_EQ(NodeViews::Find(nullptr, found), NodeRef::None);
+}
+
+TEST(NodeViews, NamesAreDivided) {
+    const auto tree = Load("<p:a xmlns:q='u'>t</p:a>");
+    const XalanNode* const root = tree->View(tree->Root());
+    EXPECT_EQ(Utf8(root->getNodeName()) + "|" + Utf8(root->getPrefix()) + "|" + Utf8(root->getLocalName()), "p:a|p|a");
+    EXPECT_TRUE(root->getNamespaceURI().empty());
+    EXPECT_EQ(Utf8(root->getFirstChild()->getNodeName()), "#text");
+    EXPECT_TRUE(root->getFirstChild()->getLocalName().empty());
+    EXPECT_LT(root->getIndex(), root->getAttributes()->item(0)->getIndex());
+    EXPECT_LT(root->getAttributes()->item(0)->getIndex(), root->getFirstChild()->getIndex());
+}
+
+TEST(NodeViews, OfADomFollowItsChanges) {
+    const DomTree tree(BuildDom(*Load("<a k='1'>old</a>")));
+    const XalanNode* const root = tree.View(tree.Root());
+    const XalanNode* const text = root->getFirstChild();
+    const xalanc::XalanDOMString& old = text->getNodeValue();
+    EXPECT_EQ(&text->getNodeValue(), &old);
+    auto* const dom = static_cast<xercesc::DOMElement*>(DomTree::Node(tree.Root()));
+    dom->getFirstChild()->setNodeValue(u"new");
+    EXPECT_EQ(Utf8(text->getNodeValue()), "new");
+    EXPECT_EQ(Utf8(old), "old");
+    EXPECT_EQ(root->getAttributes()->getLength(), 1U);
+    dom->setAttribute(u"j", u"2");
+    EXPECT_EQ(root->getAttributes()->getLength(), 2U);
+    EXPECT_FALSE(root->isIndexed());
+
+    // Xerces gives the memory of released nodes to the next ones.
+    for (const XMLCh* const name : {u"x", u"y", u"z"}) {
+        DOMNode* const child = dom->appendChild(tree.Document()->createElement(name));
+        EXPECT_EQ(ViewText(*root->getLastChild()), TreeText(tree, DomTree::Ref(child)));
+        dom->removeChild(child)->release();
+    }
+}
+
+TEST(NodeViews, ManyThreadsReadOneDocument) {
+    std::string xml = "<r>";
+    for (int i = 0; i < 2000; ++i) {
+        xml += "<e k='" + std::to_string(i) + "' l='x'>t" + std::to_string(i) + "<!--c--></e>";
+    }
+    const auto tree = Load(xml + "</r>");
+    const std::string expected = TreeText(*tree);
+    std::vector<std::string> texts(4);
+    std::vector<const XalanNode*> roots(texts.size());
+    std::vector<std::thread> threads;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        threads.emplace_back([&, i] {
+            texts[i] = ViewText(*tree->View(tree->DocumentNode()));
+            roots[i] = tree->View(tree->Root());
+            EXPECT_EQ(EvaluateXPath(*tree, tree->Root(), "//e[@k='1999']"), tree->LastChild(tree->Root()));
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        EXPECT_EQ(texts[i], expected);
+        EXPECT_EQ(roots[i], roots[0]);
+    }
+}
+
+TEST(XPath, SelectsTheFirstNodeInDocumentOrder) {
+    const auto source = Load("<r><a k='v' n='1'><b>1</b><b n='2'>2</b><!--c--><?p d?></a>"
+                             "<a k='w'><b>3</b><b><![CDATA[4]]></b><c><a k='v'><b>5</b><b>6</b></a></c></a>"
+                             "<p:q k='it&apos;s'>\xC3\xA4</p:q></r>");
+    const std::pair<const char*, const char*> cases[] = {
+        {"//a[@k='v']/b[2]", "b(n=\"2\" )['2']"},
+        {"//a[@k='w']/b[2]/text()", "{4}"},
+        {"//b[.='4']", "b()[{4}]"},
+        {"//a[count(b)=2 and @k='w']/b", "b()['3']"},
+        {"//c//b[last()]", "b()['6']"},
+        {"//c/ancestor::*", "TOP"},
+        {"//c/ancestor::a/b[1]", "b()['3']"},
+        {"//b[.='6']/preceding-sibling::b", "b()['5']"},
+        {"//b[.='6']/preceding::b", "b()['1']"},
+        {"//c | //b", "b()['1']"},
+        {"//b[.='2']/@n", "@2"},
+        {"//a/@*[.='1']", "@1"},
+        {"//@k[.='v']/../b", "b()['1']"},
+        {"//comment()", "!c!"},
+        {"//processing-instruction('p')", "?p d?"},
+        {"//*[name()='p:q']/text()", "'\xC3\xA4'"},
+        {"//*[@k=\"it's\"]/text()", "'\xC3\xA4'"},
+        {"//*[starts-with(., '\xC3\xA4')]/@k", "@it's"},
+        {"a[2]/c/a/b[position()>1]", "b()['6']"},
+        {"//nothing", ""},
+        {"/r/a[3]", ""},
+        {"//text()[contains(., '6')]", "'6'"},
+    };
+    const DomTree dom(BuildDom(*source));
+    for (const XmlTree* const tree : {static_cast<const XmlTree*>(source.get()), static_cast<const XmlTree*>(&dom)}) {
+        const NodeRef deep = EvaluateXPath(*tree, tree->Root(), "//b[.='6']");
+        EXPECT_EQ(EvaluateXPath(*tree, deep, "ancestor::*"), tree->Root());
+        EXPECT_EQ(EvaluateXPath(*tree, deep, "ancestor-or-self::node()"), tree->DocumentNode());
+        EXPECT_EQ(EvaluateXPath(*tree, deep, "preceding::b"), EvaluateXPath(*tree, tree->Root(), "a/b"));
+        EXPECT_EQ(EvaluateXPath(*tree, deep, "(. | ancestor::c | /r/a[2])"),
+                  EvaluateXPath(*tree, tree->Root(), "a[2]"));
+        for (const auto& [expression, expected] : cases) {
+            SCOPED_TRACE(expression);
+            const NodeRef node = EvaluateXPath(*tree, tree->Root(), expression);
+            std::string room;
+            if (node == NodeRef::None) {
+                EXPECT_STREQ("", expected);
+            } else if (node == tree->Root()) {
+                EXPECT_STREQ("TOP", expected);
+            } else if (tree->Kind(node) == NodeKind::Attribute) {
+                EXPECT_EQ("@" + std::string(tree->Value(node, room)), expected);
+            } else {
+                EXPECT_EQ(TreeText(*tree, node), expected);
+            }
+        }
+    }
+}
+
+std::string Repeat(const std::string& text, int times) {
+    std::string all;
+    for (int i = 0; i < times; ++i) {
+        all += text;
+    }
+    return all;
+}
+
+TEST(XPath, RefusesWhatIsNoneOrTooMuch) {
+    const auto tree = Load("<r><a/></r>");
+    const std::pair<std::string, const char*> cases[] = {
+        {"//a[", "XPath \"//a[\": "},
+        {"", "XPath"},
+        {"count(//a)", "does not select nodes"},
+        {"'text'", "does not select nodes"},
+        {"//p:a", "XPath"},
+        {"//a[$v]", "XPath"},
+        {"//a[nofunction()]", "nofunction"},
+        {"//a['x]", "without end"},
+        {"//a[.='\x01']", "UTF-8"},
+        {"//a[.='\xFF']", "UTF-8"},
+        {"//a[.='" + std::string(5000, 'x') + "']", "longer than 4096"},
+        {"//a[" + Repeat("(", 101) + "1" + Repeat(")", 101) + "]", "nested deeper"},
+        {"a" + Repeat("/.", 501), "500 steps"},
+        {"a[" + Repeat("-", 4000) + "1]", "500 steps"},
+        {"document('/etc/passwd')", "XPath"},
+    };
+    testing::internal::CaptureStderr();
+    for (const auto& [expression, expected] : cases) {
+        SCOPED_TRACE(expression.substr(0, 40));
+        try {
+            EvaluateXPath(*tree, tree->Root(), expression);
+            ADD_FAILURE() << "accepted";
+        } catch (const std::runtime_error& error) {
+            EXPECT_NE(std::string(error.what()).find(expected), std::string::npos) << error.what();
+            EXPECT_LT(std::string(error.what()).size(), 450U);
+        }
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    // Brackets in a quoted text do not nest.
+    EXPECT_EQ(EvaluateXPath(*tree, tree->Root(), "//a[.='" + Repeat("(", 200) + "']"), NodeRef::None);
+    // What just passes.
+    EXPECT_EQ(EvaluateXPath(*tree, tree->Root(), "a" + Repeat("/.", 500)), tree->FirstChild(tree->Root()));
+    EXPECT_EQ(EvaluateXPath(*tree, tree->Root(), "a['" + Repeat("/", 4000) + "']"), tree->FirstChild(tree->Root()));
+    EXPECT_NE(EvaluateXPath(*tree, tree->Root(), "//a[" + Repeat("(", 99) + "1" + Repeat(")", 99) + "]"),
+              NodeRef::None);
+}
+
+} // namespace
+} // namespace Framework

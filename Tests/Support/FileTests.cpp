@@ -1,0 +1,194 @@
+#include "Framework/XMLSupport/AtomicFile.h"
+
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Framework {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kCap = std::size_t{1} << 20U;
+constexpr uid_t kNobody = 65534;
+
+/// Rights that root does not heed are tested as somebody else.
+class AsNobody {
+public:
+    AsNobody() : m_root(::geteuid() == 0) {
+        if (m_root) {
+            EXPECT_EQ(::setegid(kNobody), 0);
+            EXPECT_EQ(::seteuid(kNobody), 0);
+        }
+    }
+    ~AsNobody() {
+        if (m_root) {
+            EXPECT_EQ(::seteuid(0), 0);
+            EXPECT_EQ(::setegid(0), 0);
+        }
+    }
+
+private:
+    bool m_root;
+};
+
+class AtomicFile : public testing::Test {
+protected:
+    void SetUp() override {
+        std::string name = testing::TempDir() + "/atomic-XXXXXX";
+        ASSERT_NE(::mkdtemp(name.data()), nullptr);
+        m_folder = name;
+        fs::permissions(m_folder, fs::perms{0755});
+        std::ofstream(Path("old")) << "old";
+    }
+    void TearDown() override {
+        fs::permissions(m_folder, fs::perms{0755});
+        fs::remove_all(m_folder);
+    }
+
+    std::string Path(const std::string& name) const { return (m_folder / name).string(); }
+
+    struct stat Status(const std::string& name) const {
+        struct stat status = {};
+        EXPECT_EQ(::stat(Path(name).c_str(), &status), 0);
+        return status;
+    }
+
+    /// Saving fails, says `expected`, and everything is as it was.
+    void ExpectRefused(const std::string& path, const std::string& expected) {
+        const auto before = Names();
+        try {
+            SaveAtomically(path, "new");
+            ADD_FAILURE() << "saved " << path;
+        } catch (const SaveError& error) {
+            EXPECT_EQ(std::string(error.what()).rfind(path + ": ", 0), 0U) << error.what();
+            EXPECT_NE(std::string(error.what()).find(expected), std::string::npos) << error.what();
+        }
+        EXPECT_EQ(Names(), before);
+        EXPECT_EQ(ReadFile(Path("old"), kCap), "old");
+    }
+
+    std::vector<std::string> Names() const {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(m_folder)) {
+            names.push_back(entry.path().filename());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    fs::path m_folder;
+};
+
+TEST_F(AtomicFile, ReplacesAndKeepsTheMode) {
+    const std::string large(3'000'000, 'x');
+    for (const mode_t mode : {0600U, 0640U, 0664U, 0755U}) {
+        ASSERT_EQ(::chmod(Path("old").c_str(), mode), 0);
+        SaveAtomically(Path("old"), large);
+        EXPECT_EQ(Status("old").st_mode & 07777U, mode);
+        EXPECT_EQ(ReadFile(Path("old"), large.size()), large);
+        EXPECT_EQ(Names(), std::vector<std::string>{"old"});
+    }
+    SaveAtomically(Path("old"), "");
+    EXPECT_EQ(ReadFile(Path("old"), kCap), "");
+}
+
+TEST_F(AtomicFile, ANewFileGetsWhatTheUmaskLeaves) {
+    const mode_t before = ::umask(0027);
+    SaveAtomically(Path("new"), "text");
+    SaveAtomically(Path(std::string(255, 'n')), "text");
+    ::umask(before);
+    EXPECT_EQ(Status("new").st_mode & 07777U, 0640U);
+    const fs::path here = fs::current_path();
+    fs::current_path(m_folder);
+    SaveAtomically("relative", "text");
+    fs::current_path(here);
+    EXPECT_EQ(Names().size(), 4U);
+}
+
+TEST_F(AtomicFile, FollowsLinksAndRefusesDanglingOnes) {
+    fs::create_directory(m_folder / "sub");
+    fs::create_symlink("../old", m_folder / "sub" / "link");
+    SaveAtomically(Path("sub/link"), "through");
+    EXPECT_TRUE(fs::is_symlink(m_folder / "sub" / "link"));
+    EXPECT_EQ(ReadFile(Path("old"), kCap), "through");
+
+    SaveAtomically(Path("old"), "old");
+    fs::create_symlink("nowhere", m_folder / "dangling");
+    ExpectRefused(Path("dangling"), "symbolic link");
+}
+
+TEST_F(AtomicFile, RefusesWhatIsNoRegularFile) {
+    ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0600), 0);
+    ExpectRefused(Path("pipe"), "regular file");
+    ExpectRefused(m_folder.string(), "regular file");
+    ExpectRefused("/dev/null", "regular file");
+    ExpectRefused(Path("missing/file"), "folder");
+    ExpectRefused(Path("old/file"), "folder");
+    ExpectRefused(Path(""), "regular file");
+    ExpectRefused("", "folder");
+}
+
+TEST_F(AtomicFile, AFolderThatCannotBeWrittenLeavesTheOldFile) {
+    fs::permissions(m_folder, fs::perms{0555});
+    fs::permissions(m_folder / "old", fs::perms{0666});
+    const AsNobody nobody;
+    ExpectRefused(Path("old"), "temporary file");
+    ExpectRefused(Path("new"), "temporary file");
+}
+
+TEST_F(AtomicFile, AFullDiskLeavesTheOldFile) {
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    struct rlimit before = {};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const struct rlimit tight = {2, before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &tight), 0);
+    ExpectRefused(Path("old"), "cannot write");
+    ExpectRefused(Path("new"), "cannot write");
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, handler);
+}
+
+TEST_F(AtomicFile, KeepsTheOwnerOrRefuses) {
+    if (::geteuid() != 0) {
+        GTEST_SKIP() << "only root can give a file away";
+    }
+    ASSERT_EQ(::chown(Path("old").c_str(), kNobody, kNobody), 0);
+    ASSERT_EQ(::chmod(Path("old").c_str(), 0640), 0);
+    SaveAtomically(Path("old"), "old");
+    EXPECT_EQ(Status("old").st_uid, kNobody);
+    EXPECT_EQ(Status("old").st_gid, kNobody);
+    EXPECT_EQ(Status("old").st_mode & 07777U, 0640U);
+
+    ASSERT_EQ(::chown(Path("old").c_str(), 0, 0), 0);
+    ASSERT_EQ(::chmod(Path("old").c_str(), 0666), 0);
+    fs::permissions(m_folder, fs::perms{0777});
+    const AsNobody nobody;
+    ExpectRefused(Path("old"), "owner");
+}
+
+TEST_F(AtomicFile, ReadsUpToTheCap) {
+    EXPECT_EQ(ReadFile(Path("old"), 3), "old");
+    EXPECT_THROW(ReadFile(Path("old"), 2), FileError);
+    EXPECT_THROW(ReadFile(Path("missing"), kCap), FileError);
+    EXPECT_THROW(ReadFile(m_folder, kCap), FileError);
+    EXPECT_THROW(ReadFile("/dev/zero", 100000), FileError);
+    EXPECT_FALSE(ReadFile("/proc/self/status", kCap).empty()); // says that its size is 0
+
+    const std::string large(500'000, 'x');
+    ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0600), 0);
+    std::thread writer([&] { std::ofstream(Path("pipe")) << large; });
+    EXPECT_EQ(ReadFile(Path("pipe"), large.size()), large);
+    writer.join();
+}
+
+} // namespace
+} // namespace Framework
