@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "Framework/XMLSupport/QueryPath.h"
+#include "Framework/XMLSupport/XmlTree.h"
+
+namespace Framework {
+
+/// Finds children by name, position and attribute values in about constant time, so that a query for each entry of a
+/// list costs the list once and not its square. What is asked about a parent first is what gets indexed. Holds for as
+/// long as the tree does not change; one thread at a time.
+class ChildIndex {
+public:
+    explicit ChildIndex(const XmlTree& tree) : m_tree(&tree) {}
+
+    /// The last child of that name.
+    NodeRef Last(NodeRef parent, std::string_view name);
+    /// The child of that name at a position from 1.
+    NodeRef At(NodeRef parent, std::string_view name, std::size_t position);
+    /// The first child of that name whose attributes have these values.
+    NodeRef First(NodeRef parent, std::string_view name, const std::vector<PathCondition>& conditions);
+    /// The first element of the document of that name, the first with these values, and all in document order.
+    NodeRef FirstInDocument(std::string_view name);
+    NodeRef FirstInDocument(std::string_view name, const std::vector<PathCondition>& conditions);
+    const std::vector<NodeRef>& AllInDocument(std::string_view name);
+
+private:
+    using Nodes = std::vector<NodeRef>;
+    /// By the name and the names of the attributes asked for, then by the values of these attributes.
+    using FirstByValues = std::unordered_map<std::string, NodeRef>;
+    using ByValues = std::unordered_map<std::string, FirstByValues>;
+    struct Parent {
+        std::unordered_map<std::string_view, Nodes> byName;
+        ByValues byValues;
+    };
+
+    NodeRef FirstOf(const Nodes& named, ByValues& byValues, std::string_view name,
+                    const std::vector<PathCondition>& conditions);
+    bool IsNarrow(NodeRef parent) const;
+    Parent& ParentOf(NodeRef parent);
+    const Nodes& Named(NodeRef parent, std::string_view name);
+
+    const XmlTree* m_tree;
+    std::unordered_map<NodeRef, Parent> m_parents;
+    std::unordered_map<std::string_view, Nodes> m_inDocument;
+    ByValues m_inDocumentByValues;
+};
+
+} // namespace Framework

@@ -1,0 +1,16 @@
+#pragma once
+
+namespace Framework {
+
+/// Called wherever the XML layer does a piece of work that may fail. Tests install a function that throws; it is null
+/// in use.
+using FaultFunction = void (*)(const char* where);
+extern thread_local FaultFunction faultFunction;
+
+inline void FaultPoint(const char* where) {
+    if (faultFunction != nullptr) {
+        faultFunction(where);
+    }
+}
+
+} // namespace Framework

@@ -1,0 +1,99 @@
+#include "Framework/XMLDataWrapper.h"
+
+#include <stdexcept>
+
+#include <xercesc/dom/DOM.hpp>
+
+#include "Framework/XMLSupport/Attachment.h"
+#include "Framework/XMLSupport/DomNodes.h"
+#include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/Utf.h"
+#include "Framework/XMLSupport/WrapperState.h"
+
+using namespace Framework;
+
+FullFunctionXMLDataWrapper::FullFunctionXMLDataWrapper() = default;
+
+FullFunctionXMLDataWrapper::~FullFunctionXMLDataWrapper() = default;
+
+bool FullFunctionXMLDataWrapper::CreateOutputDocument(const char* sRootName) {
+    try {
+        auto side = std::make_shared<DomSide>();
+        side->document = NewDomDocument();
+        if (sRootName != nullptr && *sRootName != '\0') {
+            AppendElement(*side->document, *side->document, sRootName);
+        }
+        side->tree = std::make_unique<DomTree>(side->document.get());
+        m_pState->Load(nullptr, false);
+        m_pState->dom = std::move(side);
+        m_pState->domIsMaster = true;
+        m_pState->isOutput = true;
+        return true;
+    } catch (const std::exception& failure) {
+        m_pState->SetError(-1, failure.what());
+        return false;
+    }
+}
+
+DOMDocument* FullFunctionXMLDataWrapper::GetOutputDocument() {
+    if (!m_pState->domIsMaster && m_pState->IsLoaded()) {
+        m_pState->DomNode(m_pState->Tree()->Root());
+    }
+    return m_pState->dom == nullptr ? nullptr : m_pState->dom->document.get();
+}
+
+DOMNode* FullFunctionXMLDataWrapper::FindOutputNode(const zelString& sQuery, bool bFromDocument, bool) {
+    return GetDOMNode(sQuery, bFromDocument);
+}
+
+bool FullFunctionXMLDataWrapper::CreateQueryPath(const zelString& sQuery) {
+    m_pState->SetError(-1, "cannot create " + sQuery + ": dumping by query is not supported yet");
+    return false;
+}
+
+bool FullFunctionXMLDataWrapper::AppendElementValue(DOMNode* pParent, const zelString& sName, const zelString& sValue,
+                                                    bool) {
+    FaultPoint("AppendElementValue");
+    try {
+        if (pParent == nullptr) {
+            throw std::invalid_argument("there is no node to append " + sName + " to");
+        }
+        DOMDocument* const document = pParent->getNodeType() == DOMNode::DOCUMENT_NODE
+                                          ? static_cast<DOMDocument*>(pParent)
+                                          : pParent->getOwnerDocument();
+        AppendTextElement(*pParent, *document, sName, sValue);
+        return true;
+    } catch (const std::invalid_argument& failure) {
+        m_pState->SetError(-1, failure.what());
+    } catch (const xercesc::DOMException&) {
+        m_pState->SetError(-1, sName + " cannot be appended to this node");
+    }
+    return false;
+}
+
+DOMNode* XMLDataWrapper::CreateNewElement(const zelString& sName, DOMDocument* pDoc) {
+    try {
+        return NewElement(*pDoc, sName);
+    } catch (const std::invalid_argument&) {
+        return nullptr;
+    }
+}
+
+DOMNode* XMLDataWrapper::CreateNewAttribute(const zelString& sName, DOMDocument* pDoc) {
+    if (!IsXmlText(sName)) {
+        return nullptr;
+    }
+    try {
+        return pDoc->createAttribute(ToUtf16(sName).c_str());
+    } catch (const xercesc::DOMException&) {
+        return nullptr;
+    }
+}
+
+bool XMLDataWrapper::SetAttributeValue(const zelString& sValue, DOMNode* pAttribute) {
+    if (!IsXmlText(sValue)) {
+        return false;
+    }
+    pAttribute->setNodeValue(ToUtf16(sValue).c_str());
+    return true;
+}

@@ -1,0 +1,145 @@
+#include "Framework/XMLSupport/WrapperState.h"
+
+#include "Framework/XMLSupport/Attachment.h"
+#include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/PathLookup.h"
+#include "Framework/XMLSupport/TreeReading.h"
+
+namespace Framework {
+
+thread_local FaultFunction faultFunction = nullptr;
+
+NodeRef WrapperState::Here() const {
+    if (current != NodeRef::None || !IsLoaded()) {
+        return current;
+    }
+    return Tree()->Root();
+}
+
+NodeRef WrapperState::Translate(NodeRef documentNode) const {
+    if (!domIsMaster) {
+        return documentNode;
+    }
+    const auto found = dom->nodeOf.find(documentNode);
+    return found == dom->nodeOf.end() ? NodeRef::None : dom->tree->Ref(found->second);
+}
+
+NodeRef WrapperState::Find(std::string_view path, bool fromDocument) {
+    FaultPoint("Find");
+    if (!IsLoaded()) {
+        return NodeRef::None;
+    }
+    // Others may change a DOM between two calls without our knowing, so nothing about it is remembered.
+    if (!m_index.has_value() || domIsMaster) {
+        m_index.emplace(*Tree());
+    }
+    return FindByPath(*Tree(), *m_index, fromDocument ? Tree()->Root() : Here(), path);
+}
+
+void WrapperState::BuildDom() {
+    auto side = std::make_shared<DomSide>();
+    side->document = Framework::BuildDom(*document, [&side](NodeRef node, DOMNode* image) {
+        side->nodeOf.emplace(node, image);
+        side->refOf.emplace(image, node);
+    });
+    side->tree = std::make_unique<DomTree>(side->document.get());
+    dom = std::move(side);
+}
+
+DOMNode* WrapperState::DomNode(NodeRef node) {
+    if (node == NodeRef::None) {
+        return nullptr;
+    }
+    if (domIsMaster) {
+        return DomTree::Node(node);
+    }
+    if (dom == nullptr) {
+        BuildDom();
+    }
+    DOMNode* const image = dom->nodeOf.at(node);
+    if (!readOnly) {
+        domIsMaster = true;
+        current = Translate(current);
+        for (auto& [key, list] : lists) {
+            for (NodeRef& listed : list) {
+                listed = Translate(listed);
+            }
+        }
+        m_index.reset();
+    }
+    return image;
+}
+
+void WrapperState::Load(std::shared_ptr<const Document> loaded, bool isReadOnly) {
+    if (const std::shared_ptr<Attachment> attached = attachment.lock()) {
+        if (attached->IsPrivate()) {
+            throw std::runtime_error(
+                "this wrapper belongs to the objects that stand on its document; load into one of your own");
+        }
+        attached->MoveToPrivateWrapper(); // whoever stands on the old document stays there
+    }
+    *this = WrapperState();
+    document = std::move(loaded);
+    readOnly = isReadOnly;
+}
+
+void WrapperState::Share(WrapperState& other) const noexcept {
+    other.document = document;
+    other.dom = dom;
+    other.domIsMaster = domIsMaster;
+    other.isOutput = isOutput;
+    other.readOnly = readOnly;
+}
+
+void WrapperState::SetError(int number, std::string text) {
+    errorNumber = number;
+    error = std::move(text);
+}
+
+std::shared_ptr<Attachment> Attachment::Of(XMLDataWrapper& wrapper) {
+    WrapperState& state = WrapperAccess::State(wrapper);
+    std::shared_ptr<Attachment> attachment = state.attachment.lock();
+    if (attachment == nullptr) {
+        attachment = std::make_shared<Attachment>();
+        attachment->m_private = std::make_unique<XMLDataWrapper>();
+        attachment->m_wrapper = &wrapper;
+        state.attachment = attachment;
+    }
+    return attachment;
+}
+
+std::shared_ptr<Attachment> Attachment::Owning(std::unique_ptr<XMLDataWrapper> wrapper) {
+    auto attachment = std::make_shared<Attachment>();
+    WrapperAccess::State(*wrapper).attachment = attachment;
+    attachment->m_wrapper = wrapper.get();
+    attachment->m_private = std::move(wrapper);
+    return attachment;
+}
+
+void Attachment::TakeOver(std::unique_ptr<WrapperState> state) noexcept {
+    m_wrapper = m_private.get();
+    WrapperAccess::Pointer(*m_private) = std::move(state);
+}
+
+void Attachment::MoveToPrivateWrapper() noexcept {
+    if (IsPrivate()) {
+        return;
+    }
+    WrapperState& own = WrapperAccess::State(*m_private);
+    WrapperAccess::State(*m_wrapper).Share(own);
+    own.attachment = std::exchange(WrapperAccess::State(*m_wrapper).attachment, {});
+    m_wrapper = m_private.get();
+}
+
+AttachmentScope::AttachmentScope(XMLDataWrapper& wrapper)
+    : m_state(WrapperAccess::State(wrapper)), m_before(std::exchange(m_state.attachment, {})),
+      m_during(Attachment::Of(wrapper)) {}
+
+AttachmentScope::~AttachmentScope() {
+    if (m_during.use_count() > 1) {
+        m_during->MoveToPrivateWrapper();
+    }
+    m_state.attachment = m_before;
+}
+
+} // namespace Framework

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "Framework/XMLDataWrapper.h"
+#include "Framework/XMLSupport/ChildIndex.h"
+#include "Framework/XMLSupport/Document.h"
+#include "Framework/XMLSupport/DomBuilder.h"
+#include "Framework/XMLSupport/DomTree.h"
+#include "Framework/XMLSupport/QueryChain.h"
+
+namespace Framework {
+
+class Attachment;
+
+/// A DOM beside or instead of the reading tree, with the way from the nodes of the tree it was built from, and back.
+struct DomSide {
+    DomDocumentPtr document;
+    std::unique_ptr<DomTree> tree;
+    std::unordered_map<NodeRef, DOMNode*> nodeOf;
+    std::unordered_map<const DOMNode*, NodeRef> refOf;
+};
+
+/// Everything an XMLDataWrapper is. Private wrappers are made by copying the parts that say which document it is.
+struct WrapperState {
+    std::shared_ptr<const Document> document; ///< the reading tree; null in an output document
+    std::shared_ptr<DomSide> dom;
+    bool domIsMaster = false; ///< reads go to the DOM
+    bool isOutput = false;    ///< made by us: written with line breaks and indentation
+    bool readOnly = false;
+    NodeRef current = NodeRef::None;
+    QueryChain query;
+    std::unordered_map<std::string, std::vector<NodeRef>> lists;
+    std::weak_ptr<Attachment> attachment;
+    std::string error;
+    int errorNumber = 0;
+
+    /// The tree that reads go to, null when nothing is loaded.
+    const XmlTree* Tree() const {
+        return domIsMaster ? static_cast<const XmlTree*>(dom->tree.get()) : static_cast<const XmlTree*>(document.get());
+    }
+    bool IsLoaded() const { return Tree() != nullptr; }
+    /// The node that names are relative to: the current one, else the root.
+    NodeRef Here() const;
+    /// A node of the reading tree as a node of Tree(): itself, or its image in the DOM.
+    NodeRef Translate(NodeRef documentNode) const;
+    /// The node that a query or name finds; None when there is none. Throws PathError.
+    NodeRef Find(std::string_view path, bool fromDocument);
+    /// The DOM node that stands for a node of Tree(). Builds the DOM when there is none.
+    DOMNode* DomNode(NodeRef node);
+    /// A document that was loaded becomes this wrapper's, which starts afresh. Throws std::runtime_error on a private
+    /// wrapper, whose objects have nowhere to go.
+    void Load(std::shared_ptr<const Document> loaded, bool isReadOnly);
+    /// Puts another state, a new one, over the same document, with nothing of the current node, queries and lists.
+    void Share(WrapperState& other) const noexcept;
+    void SetError(int number, std::string text);
+
+private:
+    std::optional<ChildIndex> m_index;
+    void BuildDom();
+};
+
+/// Access of the library's own code to a wrapper's state.
+struct WrapperAccess {
+    static WrapperState& State(const XMLDataWrapper& wrapper) { return *wrapper.m_pState; }
+    static std::unique_ptr<WrapperState>& Pointer(XMLDataWrapper& wrapper) { return wrapper.m_pState; }
+};
+
+} // namespace Framework

@@ -1,0 +1,155 @@
+#include "Framework/XMLDataWrapper.h"
+
+#include "Framework/XMLSupport/AtomicFile.h"
+#include "Framework/XMLSupport/Attachment.h"
+#include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/NodeViews.h"
+#include "Framework/XMLSupport/WrapperState.h"
+#include "Framework/XMLSupport/XmlWriter.h"
+
+using namespace Framework;
+
+namespace {
+
+/// Runs a step that may fail for reasons of its own (files, text that is not well-formed, memory) and keeps what it
+/// says.
+template <typename Step> bool Guarded(WrapperState& state, Step step) {
+    try {
+        step();
+        return true;
+    } catch (const std::bad_alloc&) {
+        state.SetError(-1, "out of memory");
+    } catch (const std::exception& failure) {
+        state.SetError(-1, failure.what());
+    }
+    return false;
+}
+
+} // namespace
+
+XMLDataWrapper::XMLDataWrapper() : m_pState(std::make_unique<WrapperState>()) {}
+
+XMLDataWrapper::~XMLDataWrapper() {
+    if (m_pState != nullptr) {
+        if (const std::shared_ptr<Attachment> attachment = m_pState->attachment.lock()) {
+            attachment->TakeOver(std::move(m_pState));
+        }
+    }
+}
+
+bool XMLDataWrapper::LoadXMLFile(const char* sPath, bool bReadOnly) {
+    return Guarded(*m_pState, [&] {
+        const std::string path = sPath == nullptr ? "" : sPath;
+        const LoadLimits limits = LoadLimits::Default();
+        m_pState->Load(Document::Parse(ReadFile(path, limits.bytes), path, limits), bReadOnly);
+    });
+}
+
+bool XMLDataWrapper::LoadXMLText(const zelString& sXML, bool bReadOnly) {
+    return Guarded(*m_pState, [&] {
+        m_pState->Load(Document::Parse(std::string(sXML), "<text>", LoadLimits::Default()), bReadOnly);
+    });
+}
+
+zelString XMLDataWrapper::GetXMLText() {
+    zelString text;
+    Guarded(*m_pState, [&] {
+        FaultPoint("GetXMLText");
+        if (!m_pState->IsLoaded()) {
+            throw std::runtime_error("no document is loaded");
+        }
+        if (m_pState->domIsMaster) {
+            const DomTree& tree = *m_pState->dom->tree;
+            text = WriteXml(tree, tree.DocumentNode(), {.declaration = true, .indent = m_pState->isOutput});
+        } else {
+            text = m_pState->document->OriginalBytes();
+        }
+    });
+    return text;
+}
+
+bool XMLDataWrapper::SaveXMLFile(const char* sPath) {
+    const zelString text = GetXMLText();
+    return !text.empty() && Guarded(*m_pState, [&] { SaveAtomically(sPath == nullptr ? "" : sPath, text); });
+}
+
+bool XMLDataWrapper::IsDataLoaded() const {
+    FaultPoint("IsDataLoaded");
+    return m_pState->IsLoaded();
+}
+
+bool XMLDataWrapper::HasCurrentNode() const {
+    return m_pState->current != NodeRef::None;
+}
+
+zelString XMLDataWrapper::GetStoredQuery() const {
+    return m_pState->query.Text();
+}
+
+void XMLDataWrapper::SetStoredQuery(const zelString& sQuery) {
+    m_pState->query = QueryChain(sQuery);
+}
+
+DOMNode* XMLDataWrapper::GetDOMNode(bool bRoot, bool) {
+    FaultPoint("GetDOMNode");
+    if (!m_pState->IsLoaded()) {
+        return nullptr;
+    }
+    return m_pState->DomNode(bRoot ? m_pState->Tree()->Root() : m_pState->Here());
+}
+
+DOMNode* XMLDataWrapper::GetDOMNode(const zelString& sQuery, bool bFromDocument) {
+    FaultPoint("GetDOMNode");
+    NodeRef node = NodeRef::None;
+    Guarded(*m_pState, [&] { node = m_pState->Find(sQuery, bFromDocument); });
+    return m_pState->DomNode(node);
+}
+
+DOMNode* XMLDataWrapper::GetDOMNode(const char* sQuery, bool bFromDocument) {
+    return GetDOMNode(zelString(sQuery), bFromDocument);
+}
+
+XalanNode* XMLDataWrapper::GetXalanNode(const zelString& sQuery, bool bFromDocument) {
+    NodeRef node = NodeRef::None;
+    Guarded(*m_pState, [&] { node = m_pState->Find(sQuery, bFromDocument); });
+    return node == NodeRef::None ? nullptr : m_pState->Tree()->View(node);
+}
+
+void XMLDataWrapper::SetCurrentNode(DOMNode* pNode) {
+    m_pState->current = NodeRef::None;
+    if (pNode == nullptr || m_pState->dom == nullptr) {
+        return;
+    }
+    if (!m_pState->domIsMaster) {
+        const auto found = m_pState->dom->refOf.find(pNode);
+        m_pState->current = found == m_pState->dom->refOf.end() ? NodeRef::None : found->second;
+    } else if (m_pState->dom->tree->Holds(pNode)) {
+        m_pState->current = m_pState->dom->tree->Ref(pNode);
+    }
+}
+
+void XMLDataWrapper::SetCurrentNode(XalanNode* pNode) {
+    const XmlTree* tree = nullptr;
+    const NodeRef node = NodeViews::Find(pNode, tree);
+    m_pState->current = NodeRef::None;
+    if (node == NodeRef::None) {
+        return;
+    }
+    if (tree == m_pState->Tree()) {
+        m_pState->current = node;
+    } else if (tree == m_pState->document.get()) {
+        m_pState->current = m_pState->Translate(node);
+    }
+}
+
+void XMLDataWrapper::SetCurrentNode(std::nullptr_t) {
+    m_pState->current = NodeRef::None;
+}
+
+zelString XMLDataWrapper::GetLastError() const {
+    return m_pState->error;
+}
+
+int XMLDataWrapper::GetLastErrorNum() const {
+    return m_pState->errorNumber;
+}
