@@ -1,0 +1,46 @@
+#include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/XMLSupport/DomNodes.h"
+#include "Framework/XMLSupport/FaultPoint.h"
+
+#include <stdexcept>
+
+#include <xercesc/dom/DOMDocument.hpp>
+
+using namespace Framework;
+
+namespace {
+
+/// Appends by `step`; a text or name that is no XML is the object's error, with its container named.
+template <typename Step> bool Append(TypedDataContainer& object, const char* where, Step step) {
+    FaultPoint(where);
+    try {
+        step();
+        return true;
+    } catch (const std::invalid_argument& failure) {
+        object.SetLastError(-1, "%s: %s", object.GetContainerName().c_str(), failure.what());
+        return false;
+    }
+}
+
+} // namespace
+
+bool TypedDataContainer::AppendCDataValue(FullFunctionXMLDataWrapper* pOutput, DOMNode* pParent, const zelString& sName,
+                                          zelString sValue) {
+    return CreateCDataNode(pParent, pOutput->GetOutputDocument(), sName, std::move(sValue));
+}
+
+bool TypedDataContainer::CreateTextNode(DOMNode* pParent, DOMDocument* pDoc, zelString sName, zelString sValue) {
+    return Append(*this, "CreateTextNode", [&] { AppendTextElement(*pParent, *pDoc, sName, sValue); });
+}
+
+bool TypedDataContainer::CreateCDataNode(DOMNode* pParent, DOMDocument* pDoc, zelString sName, zelString sValue) {
+    return Append(*this, "CreateCDataNode", [&] { AppendCDataElement(*pParent, *pDoc, sName, sValue); });
+}
+
+bool TypedDataContainer::CreateTextNodeWithAttr(DOMNode* pParent, DOMDocument* pDoc, zelString sName, zelString sValue,
+                                                zelString sAttrName, zelString sAttrValue) {
+    return Append(*this, "CreateTextNodeWithAttr", [&] {
+        DOMNode* const element = AppendTextElement(*pParent, *pDoc, sName, sValue);
+        SetAttribute(*element, *pDoc, sAttrName, sAttrValue);
+    });
+}

@@ -1,0 +1,109 @@
+#include "Framework/ContainerBase/Guarded.h"
+#include "Framework/ContainerBase/MergeControl.h"
+#include "Framework/ContainerBase/OverrideLog.h"
+#include "Framework/ContainerBase/Sources.h"
+#include "Framework/XMLSupport/TreeReading.h"
+
+#include <filesystem>
+
+using namespace Framework;
+
+namespace {
+
+/// Sets the nested flag for the length of a merge: it decides whether the walk starts where the source stands.
+class NestedScope {
+public:
+    NestedScope(TypedDataContainer& object, bool nested)
+        : m_object(object), m_before(ContainerAccess::IsNested(object)) {
+        ContainerAccess::SetNested(object, nested);
+    }
+    ~NestedScope() { ContainerAccess::SetNested(m_object, m_before); }
+    NestedScope(const NestedScope&) = delete;
+    NestedScope& operator=(const NestedScope&) = delete;
+
+private:
+    TypedDataContainer& m_object;
+    bool m_before;
+};
+
+/// Whether an outer merge may start at all; else nothing is changed.
+bool MayStart(TypedDataContainer& object, const WrapperState& source) {
+    const XmlTree& tree = *source.Tree();
+    const NodeRef node = FirstDescendantNamed(tree, tree.Root(), object.GetContainerName());
+    if (node == NodeRef::None) {
+        SetNoElementError(object, source, object.GetContainerName());
+        return false;
+    }
+    if (const std::string control = UnsupportedControl(tree, node); !control.empty()) {
+        const OverridePlace place(&tree, node);
+        object.SetLastError(-1, "%s: %s", object.GetContainerName().c_str(), control.c_str());
+        LogLastError(object, __LINE__);
+        return false;
+    }
+    return true;
+}
+
+bool MergeOwn(TypedDataContainer& object, ValueLookupBase* lookup, const std::unique_ptr<XMLDataWrapper>& source,
+              const zelString& featureOtherwise) {
+    return source != nullptr &&
+           object.MergeFromDataPacket(lookup, FeatureOf(*source, featureOtherwise), source.get(), false);
+}
+
+} // namespace
+
+bool TypedDataContainer::MergeFromTemplate(ValueLookupBase* pLookup, const char* sStore, const char* sXMLName,
+                                           const char*) {
+    return MergeFromTemplate(pLookup, sStore, sXMLName);
+}
+
+bool TypedDataContainer::MergeFromTemplate(ValueLookupBase* pLookup, const char* sStore, const char* sXMLName) {
+    return Guarded(*this,
+                   [&] { return MergeOwn(*this, pLookup, OpenTemplate(*this, sStore, sXMLName, true), sStore); });
+}
+
+bool TypedDataContainer::MergeFromModel(ValueLookupBase* pLookup, const char* sModel, const char* sXMLName) {
+    return Guarded(*this, [&] { return MergeOwn(*this, pLookup, OpenModel(*this, sModel, sXMLName, true), sModel); });
+}
+
+bool TypedDataContainer::MergeFromFile(ValueLookupBase* pLookup, const char* sPath) {
+    return Guarded(*this, [&] {
+        const std::unique_ptr<XMLDataWrapper> source = OpenFile(*this, sPath, false);
+        return source != nullptr && MergeOwn(*this, pLookup, source, std::filesystem::path(sPath).stem().string());
+    });
+}
+
+bool TypedDataContainer::MergeFromDOMNode(ValueLookupBase* pLookup, zelString sFeatureID, DOMNode* pNode) {
+    return Guarded(*this, [&] {
+        const std::unique_ptr<XMLDataWrapper> source = OpenDomNode(*this, pNode, false);
+        return source != nullptr && MergeFromDataPacket(pLookup, sFeatureID, source.get(), false);
+    });
+}
+
+bool TypedDataContainer::MergeFromDataPacket(ValueLookupBase* pLookup, zelString sFeatureID, XMLDataWrapper* pMergeData,
+                                             bool bNested) {
+    return Guarded(*this, [&] {
+        const WrapperState* const source = LoadedState(pMergeData);
+        if (source == nullptr) {
+            return MergeDataMembers(pMergeData, sFeatureID); // which says so
+        }
+        if (!bNested && !MayStart(*this, *source)) {
+            return false;
+        }
+        const NestedScope nested(*this, bNested);
+        std::optional<AttachmentScope> ownAttachment;
+        if (!bNested) {
+            ownAttachment.emplace(*pMergeData);
+        }
+        if (pLookup != nullptr) {
+            ContainerAccess::SetLookup(*this, pLookup);
+        }
+        ContainerAccess::SetMergeFeature(*this, sFeatureID);
+        const bool success = MergeDataMembers(pMergeData, sFeatureID);
+        ContainerAccess::SetValid(*this, success || m_bValid);
+        return success;
+    });
+}
+
+bool TypedDataContainer::MergeDataMembers(XMLDataWrapper*, zelString) {
+    return true;
+}

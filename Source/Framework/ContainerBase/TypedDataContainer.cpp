@@ -1,0 +1,114 @@
+#include "Framework/TypedDataContainer.h"
+
+#include <cstdarg>
+
+#include "Framework/ContainerBase/ContainerAccess.h"
+
+using namespace Framework;
+
+const char* const TypedDataContainer::TDC_BASE_DATA_TEMPLATE = "BaseDataTemplate";
+
+TypedDataContainer::TypedDataContainer(bool bBuildFromScratch) : m_bBuildFromScratch(bBuildFromScratch) {}
+
+TypedDataContainer::~TypedDataContainer() = default;
+
+bool TypedDataContainer::Valid() {
+    return m_bValid;
+}
+
+void TypedDataContainer::Clear() {
+    ResetDataMembers();
+    ContainerAccess::Detach(*this);
+    m_bValid = false;
+}
+
+zelString TypedDataContainer::GetBaseType() {
+    return "TypedDataContainer";
+}
+
+void TypedDataContainer::GetProperties(ParameterList&) {}
+
+XMLDataWrapper* TypedDataContainer::GetContainedDataPtr() {
+    return ContainerAccess::Wrapper(*this);
+}
+
+zelString TypedDataContainer::GetMergeAttributes() {
+    return m_sMergeFeature.empty() ? zelString() : zelString(" and @FeatureID='" + m_sMergeFeature + "' ");
+}
+
+void TypedDataContainer::GetPLMergeAttributes(ParameterList* plAttributes) {
+    if (plAttributes != nullptr && !m_sMergeFeature.empty()) {
+        plAttributes->Add(&m_sMergeFeature, dcString, "FeatureID", false);
+    }
+}
+
+zelString TypedDataContainer::GetAttributeList() {
+    return {};
+}
+
+ParameterList* TypedDataContainer::GetPLAttributeList() {
+    return new ParameterList;
+}
+
+zelString TypedDataContainer::GetSimpleTypeData(SimpleDataContainer* pEntry) {
+    return pEntry == nullptr ? zelString() : pEntry->strValue;
+}
+
+void TypedDataContainer::SetSimpleTypeData(SimpleDataContainer* pEntry, zelString sValue) {
+    if (pEntry != nullptr) {
+        pEntry->strValue = std::move(sValue);
+    }
+}
+
+TypedDataContainer* TypedDataContainer::Clone() {
+    SetLastError(-1, "%s has nothing that could be cloned", GetBaseType().c_str());
+    return nullptr;
+}
+
+zelString TypedDataContainer::GetContainerName() {
+    return m_sContainerName;
+}
+
+void TypedDataContainer::SetContainerName(const char* sName) {
+    m_sContainerName = sName;
+}
+
+void TypedDataContainer::SetFeatureID(const zelString& sFeatureID) {
+    m_sFeatureID = sFeatureID;
+}
+
+zelString TypedDataContainer::GetFeatureID() {
+    return m_sFeatureID;
+}
+
+void TypedDataContainer::SetLastError(int iNumber, const char* sFormat, ...) {
+    zelString text;
+    va_list arguments;
+    va_start(arguments, sFormat);
+    try {
+        text.FormatWithArgumentList(sFormat, arguments);
+    } catch (...) {
+        va_end(arguments);
+        throw;
+    }
+    va_end(arguments);
+    m_iLastError = iNumber;
+    m_sLastError = std::move(text);
+    m_pFixedError = nullptr;
+}
+
+zelString TypedDataContainer::GetLastError() {
+    return m_pFixedError != nullptr ? zelString(m_pFixedError) : m_sLastError;
+}
+
+int TypedDataContainer::GetLastErrorNum() {
+    return m_iLastError;
+}
+
+StructuralConfigLoader::StructuralConfigLoader(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {}
+
+StructuralConfigLoader::~StructuralConfigLoader() = default;
+
+bool StructuralConfigLoader::InitializeConfig(const char* sPath, ValueLookupBase* pLookup) {
+    return LoadFromFile(pLookup, sPath, true);
+}
