@@ -1,0 +1,55 @@
+// Generated from CommConfig.xsd; do not edit. Regenerate with the target "generate".
+#pragma once
+
+#include "Framework/TypedDataContainer.h"
+
+namespace Framework {
+struct FieldTableIndex;
+}
+
+/// A transformer of what travels on a channel.
+///
+/// Element `CommTransformer` unless its parent names it otherwise.
+class FRAMEWORK_API CommTransformerType : public TypedDataContainer {
+public:
+    explicit CommTransformerType(bool bBuildFromScratch);
+    ~CommTransformerType() override;
+
+    zelString GetBaseType() override;
+    void GetProperties(ParameterList& pList) override;
+    bool MergeDataMembers(XMLDataWrapper* pMergeData, zelString sFeatureID) override;
+    zelString GetAttributeList() override;
+    ParameterList* GetPLAttributeList() override;
+    TypedDataContainer* Clone() override;
+    bool DumpMergeContents(const zelString& sParentQuery, FullFunctionXMLDataWrapper* pOutput, int QueryPos,
+                           bool bIncludeMergeAttributes) override;
+    bool DumpMergeContentsII(DOMNode* pParentNode, FullFunctionXMLDataWrapper* pOutput, DOMNode*& pPassedCurrent,
+                             bool bIncludeMergeAttributes) override;
+    bool UpdateContainedData() override;
+    bool PopulateDataMembers(XalanNode* pNode) override;
+    void ResetDataMembers() override;
+
+    // The order is that of the virtual table.
+    virtual zelString GetFactoryName();
+    virtual void SetFactoryName(LPCTSTR szNew);
+    virtual zelString GetTransformerName();
+    virtual void SetTransformerName(LPCTSTR szNew);
+    virtual zelString GetInitializeString();
+    virtual void SetInitializeString(LPCTSTR szNew);
+    virtual bool AutoFillTypeInfo();
+
+    bool GetAutoFillTypeInfo() const { return m_bAutoFillTypeInfo; }
+    void SetAutoFillTypeInfo(bool bNew) { m_bAutoFillTypeInfo = bNew; }
+
+protected:
+    bool m_bAutoFillTypeInfo = false;
+    zelString m_FactoryName;
+    zelString m_TransformerName;
+    zelString m_InitializeString;
+
+    static const Framework::FieldTable s_Table;
+    friend struct Framework::FieldTableIndex;
+
+private:
+    static const Framework::FieldRow s_Rows[];
+};

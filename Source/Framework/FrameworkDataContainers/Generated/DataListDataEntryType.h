@@ -1,0 +1,55 @@
+// Generated from ActionData.xsd; do not edit. Regenerate with the target "generate".
+#pragma once
+
+#include "FrameworkDataContainers/ExtendableDataEntryType.h"
+
+namespace Framework {
+struct FieldTableIndex;
+}
+
+/// One datum of a data list.
+///
+/// Element `DataListItem` unless its parent names it otherwise.
+class FRAMEWORK_API DataListDataEntryType : public ExtendableDataEntryType {
+public:
+    explicit DataListDataEntryType(bool bBuildFromScratch);
+    ~DataListDataEntryType() override;
+
+    zelString GetBaseType() override;
+    void GetProperties(ParameterList& pList) override;
+    bool MergeDataMembers(XMLDataWrapper* pMergeData, zelString sFeatureID) override;
+    zelString GetAttributeList() override;
+    ParameterList* GetPLAttributeList() override;
+    TypedDataContainer* Clone() override;
+    bool DumpMergeContents(const zelString& sParentQuery, FullFunctionXMLDataWrapper* pOutput, int QueryPos,
+                           bool bIncludeMergeAttributes) override;
+    bool DumpMergeContentsII(DOMNode* pParentNode, FullFunctionXMLDataWrapper* pOutput, DOMNode*& pPassedCurrent,
+                             bool bIncludeMergeAttributes) override;
+    bool UpdateContainedData() override;
+    bool PopulateDataMembers(XalanNode* pNode) override;
+    void ResetDataMembers() override;
+    bool AutoFillTypeInfo() override;
+
+    // The order is that of the virtual table.
+    virtual zelString GetUnused();
+    virtual void SetUnused(LPCTSTR szNew);
+    virtual zelString GetName();
+    virtual void SetName(LPCTSTR szNew);
+    virtual zelString GetDataType();
+    virtual void SetDataType(LPCTSTR szNew);
+
+    bool GetAutoFillTypeInfo() const { return m_bAutoFillTypeInfo; }
+    void SetAutoFillTypeInfo(bool bNew) { m_bAutoFillTypeInfo = bNew; }
+
+protected:
+    bool m_bAutoFillTypeInfo = false;
+    zelString m_Unused;
+    zelString m_Name;
+    zelString m_DataType;
+
+    static const Framework::FieldTable s_Table;
+    friend struct Framework::FieldTableIndex;
+
+private:
+    static const Framework::FieldRow s_Rows[];
+};

@@ -1,0 +1,52 @@
+// Generated from StateProcessingRoot.xsd; do not edit. Regenerate with the target "generate".
+#pragma once
+
+#include "FrameworkDataContainers/StateActionBasicType.h"
+
+namespace Framework {
+struct FieldTableIndex;
+}
+
+/// A follow-up action, for one result of the action before it.
+///
+/// Element `StateActionResp` unless its parent names it otherwise.
+class FRAMEWORK_API StateActionRespType : public StateActionBasicType {
+public:
+    explicit StateActionRespType(bool bBuildFromScratch);
+    ~StateActionRespType() override;
+
+    zelString GetBaseType() override;
+    void GetProperties(ParameterList& pList) override;
+    bool MergeDataMembers(XMLDataWrapper* pMergeData, zelString sFeatureID) override;
+    zelString GetAttributeList() override;
+    ParameterList* GetPLAttributeList() override;
+    TypedDataContainer* Clone() override;
+    bool DumpMergeContents(const zelString& sParentQuery, FullFunctionXMLDataWrapper* pOutput, int QueryPos,
+                           bool bIncludeMergeAttributes) override;
+    bool DumpMergeContentsII(DOMNode* pParentNode, FullFunctionXMLDataWrapper* pOutput, DOMNode*& pPassedCurrent,
+                             bool bIncludeMergeAttributes) override;
+    bool UpdateContainedData() override;
+    bool PopulateDataMembers(XalanNode* pNode) override;
+    void ResetDataMembers() override;
+    bool AutoFillTypeInfo() override;
+
+    // The order is that of the virtual table.
+    virtual zelString GetUnused();
+    virtual void SetUnused(LPCTSTR szNew);
+    virtual int GetResult();
+    virtual void SetResult(int szNew);
+
+    bool GetAutoFillTypeInfo() const { return m_bAutoFillTypeInfo; }
+    void SetAutoFillTypeInfo(bool bNew) { m_bAutoFillTypeInfo = bNew; }
+
+protected:
+    bool m_bAutoFillTypeInfo = false;
+    zelString m_Unused;
+    int m_Result = 0;
+
+    static const Framework::FieldTable s_Table;
+    friend struct Framework::FieldTableIndex;
+
+private:
+    static const Framework::FieldRow s_Rows[];
+};

@@ -1,0 +1,222 @@
+#include "Framework/ContainerCatalog.h"
+#include "Framework/XMLDataWrapper.h"
+#include "FrameworkDataContainers/FrameworkDataContainers.h"
+
+#include <limits>
+#include <memory>
+
+#include <gtest/gtest.h>
+
+/// The generated cases at work: one field of every form and kind, and a line of parents. Linked with their own index in
+/// place of the library's.
+namespace {
+
+bool Load(TypedDataContainer& object, const char* text) {
+    FullFunctionXMLDataWrapper wrapper;
+    return wrapper.LoadXMLText(zelString(text), false) && object.LoadFromDataPacket(nullptr, &wrapper, false);
+}
+
+void ExpectScalarDefaults(ScalarsType& scalars, int shade) {
+    EXPECT_EQ(scalars.GetText(), "");
+    EXPECT_EQ(scalars.GetTextSet(), "a \"b\\c\"");
+    EXPECT_EQ(scalars.GetRaw(), "");
+    EXPECT_FALSE(scalars.GetFlag());
+    EXPECT_TRUE(scalars.GetFlagSet());
+    EXPECT_EQ(scalars.GetCount(), 0);
+    EXPECT_EQ(scalars.GetCountSet(), std::numeric_limits<int>::min());
+    EXPECT_EQ(scalars.GetWeight(), 0.0);
+    EXPECT_EQ(scalars.GetShade().Value(), shade);
+    EXPECT_EQ(scalars.GetSize().Value(), 0);
+    EXPECT_EQ(scalars.Getname(), "");
+    EXPECT_EQ(scalars.GetLabel(), "none");
+    EXPECT_FALSE(scalars.GetOpen());
+    EXPECT_TRUE(scalars.GetOpenSet());
+    EXPECT_EQ(scalars.GetLevel(), 0);
+    EXPECT_EQ(scalars.GetLevelSet(), 7);
+}
+
+TEST(Case, ScalarsStartAndResetToTheirDefaults) {
+    ScalarsType scalars(false);
+    EXPECT_EQ(scalars.GetContainerName(), "Scalars");
+    EXPECT_EQ(scalars.GetBaseType(), "ScalarsType");
+    ExpectScalarDefaults(scalars, 0);
+    EXPECT_EQ(scalars.GetInner(), nullptr);
+
+    scalars.SetText("t");
+    scalars.SetTextSet("t");
+    scalars.SetRaw("t");
+    scalars.SetFlag(true);
+    scalars.SetFlagSet(false);
+    scalars.SetCount(5);
+    scalars.SetCountSet(5);
+    scalars.SetWeight(0.5);
+    scalars.SetShade(ShadeType::DARK);
+    scalars.SetSize(SizeEnum("LARGE"));
+    scalars.Setname("n");
+    scalars.SetLabel("l");
+    scalars.SetOpen(true);
+    scalars.SetOpenSet(false);
+    scalars.SetLevel(3);
+    scalars.SetLevelSet(3);
+    scalars.SetInner(new ScalarsType(false));
+    EXPECT_EQ(scalars.GetShade().Value(), 4);
+    EXPECT_EQ(scalars.GetSize(), SizeEnum::LARGE);
+    EXPECT_EQ(scalars.Getname(), "n");
+    scalars.GetInner()->SetCountSet(1);
+    EXPECT_FALSE(scalars.GetAutoFillTypeInfo());
+
+    scalars.ResetDataMembers();
+    ExpectScalarDefaults(scalars, 0);
+    ASSERT_NE(scalars.GetInner(), nullptr);
+    ExpectScalarDefaults(*scalars.GetInner(), 0);
+    scalars.SetInner(nullptr);
+    EXPECT_EQ(scalars.GetInner(), nullptr);
+}
+
+TEST(Case, ScalarsAreReadFromTheirElementsAndAttributes) {
+    ScalarsType scalars(false);
+    ASSERT_TRUE(Load(scalars, "<Scalars/>")) << scalars.GetLastError();
+    EXPECT_EQ(scalars.GetShade().StringOf(), "black") << "the load text";
+    EXPECT_EQ(scalars.GetTextSet(), "a \"b\\c\"");
+    EXPECT_EQ(scalars.GetLabel(), "") << "attributes are read also when they are absent";
+
+    ASSERT_TRUE(Load(scalars, "<Scalars name='n' Label='l' Open='true' OpenSet='false' Level='-4' LevelSet='5'>"
+                              "<Text>t</Text><Raw>a<![CDATA[<b>]]></Raw><Flag>true</Flag><FlagSet>false</FlagSet>"
+                              "<Count>6</Count><Weight>0.25</Weight><Shade>LIGHT</Shade><Size>SMALL</Size>"
+                              "<Inner><Text>inner</Text></Inner></Scalars>"));
+    EXPECT_EQ(scalars.GetText(), "t");
+    EXPECT_EQ(scalars.GetRaw(), "<b>");
+    EXPECT_TRUE(scalars.GetFlag());
+    EXPECT_FALSE(scalars.GetFlagSet());
+    EXPECT_EQ(scalars.GetCount(), 6);
+    EXPECT_EQ(scalars.GetWeight(), 0.25);
+    EXPECT_EQ(scalars.GetShade(), ShadeType::LIGHT);
+    EXPECT_EQ(scalars.GetSize(), SizeEnum::SMALL);
+    EXPECT_EQ(scalars.Getname(), "n");
+    EXPECT_EQ(scalars.GetLabel(), "l");
+    EXPECT_TRUE(scalars.GetOpen());
+    EXPECT_FALSE(scalars.GetOpenSet());
+    EXPECT_EQ(scalars.GetLevel(), -4);
+    EXPECT_EQ(scalars.GetLevelSet(), 5);
+    ASSERT_NE(scalars.GetInner(), nullptr);
+    EXPECT_EQ(scalars.GetInner()->GetText(), "inner");
+    EXPECT_EQ(scalars.GetInner()->GetContainerName(), "Inner");
+}
+
+TEST(Case, ListsFillInTheirForms) {
+    ListsType lists(false);
+    ASSERT_TRUE(Load(lists, "<Lists><Note Index='b'>one</Note><Line Index='7'>first</Line><Line>second</Line>"
+                            "<ByName Name='a' Number='1'><Note>n</Note><Extra>x</Extra></ByName><ByNumber Number='02'/>"
+                            "<Child Name='c'/><Word>w1</Word><Word>w2</Word><Shade>DARK</Shade><Shade>pink</Shade>"
+                            "<Item/><Item/></Lists>"))
+        << lists.GetLastError();
+    EXPECT_EQ(lists.GetNoteLength(), 1);
+    EXPECT_EQ(lists.GetNote(zelString("b")), "one");
+    EXPECT_EQ(lists.GetLine(zelString("2")), "second") << "numbered, whatever Index says";
+    EXPECT_EQ(lists.GetLine(0), "first");
+    ASSERT_NE(lists.GetByName(zelString("a")), nullptr);
+    EXPECT_EQ(lists.GetByName(0)->GetExtra(), "x");
+    EXPECT_EQ(lists.GetByName(0)->GetNote(0), "n");
+    EXPECT_EQ(lists.GetByName(0)->GetContainerName(), "ByName");
+    ASSERT_NE(lists.GetByNumber(zelString("02")), nullptr);
+    EXPECT_EQ(lists.GetByNumber(0)->GetNumber(), 2);
+    EXPECT_EQ(lists.GetChild()->GetName(), "c");
+    EXPECT_EQ(lists.GetWord(1), "w2");
+    EXPECT_EQ(lists.GetShade(0)->StringOf(), "DARK");
+    EXPECT_EQ(lists.GetShade(1)->Value(), -1);
+    EXPECT_EQ(lists.GetItemLength(), 2);
+
+    lists.AddNewByNumber(new DerivedType(false), "3");
+    lists.AddNewWord(nullptr);
+    lists.AddNewShade(new ShadeType(ShadeType::LIGHT));
+    lists.AddNewItem(new EmptyType(false));
+    EXPECT_EQ(lists.GetWord(2), "");
+    EXPECT_EQ(lists.GetWord(3), "") << "a plain list grows";
+    EXPECT_EQ(lists.GetShade(3)->Value(), ShadeType::VALUE_UNKNOWN);
+    EXPECT_EQ(lists.GetItemLength(), 3);
+    lists.RemoveByNumber("2", lists.GetByNumber(0)->GetFeatureID());
+    EXPECT_EQ(lists.GetByNumberLength(), 1) << "an int key is compared as a number";
+
+    lists.ResetDataMembers();
+    EXPECT_EQ(lists.GetNoteLength() + lists.GetLineLength() + lists.GetByNameLength() + lists.GetByNumberLength() +
+                  lists.GetWordLength() + lists.GetShadeLength() + lists.GetItemLength(),
+              0);
+    EXPECT_EQ(lists.GetByName(zelString("a")), nullptr);
+}
+
+/// What the parents hold is read, written and reset with the class's own fields; properties alone are its own only.
+TEST(Case, ParentsComeFirst) {
+    EmptyDerivedType derived(false);
+    EXPECT_EQ(derived.GetContainerName(), "EmptyDerived");
+    StructuralConfigLoader& loader = derived;
+    EXPECT_EQ(loader.GetBaseType(), "EmptyDerivedType");
+    EXPECT_TRUE(derived.AutoFillTypeInfo());
+    ASSERT_TRUE(Load(derived, "<EmptyDerived Name='n' Number='3'><Extra>e</Extra><Note>1</Note></EmptyDerived>"));
+    EXPECT_EQ(derived.GetAttributeList(), "@Name='n'  and @Number='3' ");
+    EXPECT_EQ(derived.GetExtra(), "e");
+    EXPECT_EQ(derived.GetNoteLength(), 1);
+    const std::unique_ptr<TypedDataContainer> clone(derived.Clone());
+    ASSERT_NE(dynamic_cast<EmptyDerivedType*>(clone.get()), nullptr);
+    EXPECT_EQ(clone->GetAttributeList(), derived.GetAttributeList());
+    ParameterList properties;
+    derived.GetProperties(properties);
+    EXPECT_EQ(properties.size(), 0U) << "properties are those of the class itself";
+    derived.DerivedType::GetProperties(properties);
+    ASSERT_EQ(properties.size(), 2U);
+    EXPECT_EQ(properties.ItemData(0)->strValue, "e");
+    const std::unique_ptr<ParameterList> attributes(derived.GetPLAttributeList());
+    ASSERT_EQ(attributes->size(), 2U);
+    EXPECT_EQ(attributes->ItemData(1)->ElementName, "Number");
+    derived.ResetDataMembers();
+    EXPECT_EQ(derived.GetNumber(), 0);
+    EXPECT_EQ(derived.GetNoteLength(), 0);
+
+    // Each class of the line has a mark of its own.
+    derived.SetAutoFillTypeInfo(true);
+    EXPECT_FALSE(derived.DerivedType::GetAutoFillTypeInfo());
+}
+
+TEST(Case, EnumerationsCompareWithEverythingTheyAreMadeOf) {
+    const ShadeType unset;
+    EXPECT_EQ(unset.Value(), -1);
+    ShadeType shade(0);
+    EXPECT_TRUE(shade == "LIGHT" && "LIGHT" == shade && shade == 0 && shade == ShadeType::LIGHT && shade != unset);
+    shade = "DARK";
+    EXPECT_TRUE(shade == 4 && shade != "LIGHT" && ShadeType(shade) == shade);
+    shade = 5;
+    EXPECT_EQ(shade.StringOf(), "black");
+    shade = 1; // in the gap
+    EXPECT_TRUE(shade == "" && shade.Value() == 1);
+    shade = ShadeType::DARK;
+    const int number = shade;
+    const ShadeType::ContainedValues enumerator = shade;
+    EXPECT_TRUE(number == 4 && enumerator == ShadeType::DARK);
+    EXPECT_EQ(ShadeType::VALUE_END_OF_LIST, 6);
+    EXPECT_EQ(ShadeType("light").Value(), -1);
+    std::vector<zelString> words = {"before"};
+    ShadeType::GetContainedValueList(words);
+    EXPECT_EQ(words, (std::vector<zelString>{"before", "LIGHT", "DARK", "black"}));
+    EXPECT_EQ(SizeEnum::SMALL, 1);
+}
+
+TEST(Case, CatalogueKnowsTheClasses) {
+    EXPECT_EQ(ContainerCatalog::Classes().size(), 7U);
+    const CatalogClass derived = ContainerCatalog::FindClass("EmptyDerivedType");
+    ASSERT_TRUE(derived);
+    EXPECT_TRUE(derived.IsStructuralConfigLoader());
+    EXPECT_EQ(derived.Parent().Name(), "DerivedType");
+    EXPECT_TRUE(derived.OwnFields().empty());
+    ASSERT_EQ(derived.Fields().size(), 4U);
+    EXPECT_EQ(derived.Fields()[3].Name(), "Number");
+    EXPECT_EQ(ContainerCatalog::Roots(), (std::vector<std::string_view>{"Lists", "Scalars"}));
+    const auto shade = ContainerCatalog::FindField(ContainerCatalog::FindRoot("Scalars"), "Shade");
+    ASSERT_TRUE(shade);
+    EXPECT_EQ(shade->LoadText(), "black");
+    EXPECT_EQ(shade->Words().size(), 3U);
+    const auto line = ContainerCatalog::FindField(ContainerCatalog::FindClass("ListsType"), "Line");
+    EXPECT_TRUE(line && line->HasNumberedKeys() && line->KeyAttribute() == "Index");
+    const auto raw = ContainerCatalog::FindField(ContainerCatalog::FindClass("ScalarsType"), "Raw");
+    EXPECT_TRUE(raw && raw->IsCData());
+}
+
+} // namespace

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+namespace Framework {
+
+/// A folder that lives as long as its test.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        std::string name = testing::TempDir() + "/generator-XXXXXX";
+        if (::mkdtemp(name.data()) == nullptr) {
+            throw std::runtime_error("no temporary folder " + name);
+        }
+        m_path = name;
+    }
+    ~TemporaryFolder() { std::filesystem::remove_all(m_path); }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    std::filesystem::path operator/(const std::string& name) const { return m_path / name; }
+
+private:
+    std::filesystem::path m_path;
+};
+
+struct CommandResult {
+    int exitCode = -1;
+    std::string output; ///< of both streams
+};
+
+inline std::string Quoted(const std::filesystem::path& path) {
+    return "'" + path.string() + "'";
+}
+
+inline CommandResult RunCommand(const std::string& command) {
+    CommandResult result;
+    std::FILE* pipe = ::popen((command + " 2>&1").c_str(), "r");
+    if (pipe == nullptr) {
+        return result;
+    }
+    std::array<char, 4096> buffer{};
+    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), pipe)) {
+        result.output.append(buffer.data(), count);
+    }
+    const int status = ::pclose(pipe);
+    result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return result;
+}
+
+inline CommandResult RunGenerator(const std::filesystem::path& schemas, const std::filesystem::path& output,
+                                  const std::string& option = {}) {
+    return RunCommand(Quoted(FRAMEWORK_CONTAINER_GENERATOR) + " " + Quoted(schemas) + " " + Quoted(output) + " " +
+                      option);
+}
+
+inline std::string ReadText(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file) << path;
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+inline void WriteText(const std::filesystem::path& path, const std::string& text) {
+    std::ofstream(path, std::ios::binary) << text;
+}
+
+} // namespace Framework
