@@ -1,0 +1,179 @@
+#include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/ContainerCatalog.h"
+#include "Framework/FrameworkDataContainers/Walks/Scalars.h"
+#include "Framework/FrameworkDataContainers/Walks/TableIndex.h"
+#include "Framework/XMLSupport/TreeReading.h"
+
+using namespace Framework;
+
+std::string_view CatalogField::Name() const {
+    return m_pRow->name;
+}
+
+CatalogField::Form CatalogField::GetForm() const {
+    switch (m_pRow->form) {
+    case FieldForm::Attribute:
+        return Attribute;
+    case FieldForm::Element:
+        return Element;
+    case FieldForm::Child:
+        return Child;
+    case FieldForm::KeyedList:
+        return KeyedList;
+    case FieldForm::PlainList:
+        break;
+    }
+    return PlainList;
+}
+
+CatalogField::Value CatalogField::GetValue() const {
+    switch (m_pRow->value) {
+    case FieldValue::String:
+        return String;
+    case FieldValue::Bool:
+        return Bool;
+    case FieldValue::Int:
+        return Int;
+    case FieldValue::Double:
+        return Double;
+    case FieldValue::Enumeration:
+        return Enumeration;
+    case FieldValue::Container:
+        break;
+    }
+    return Container;
+}
+
+std::string_view CatalogField::ClassName() const {
+    return m_pRow->className;
+}
+
+std::string_view CatalogField::KeyAttribute() const {
+    return m_pRow->keyAttribute;
+}
+
+bool CatalogField::HasNumberedKeys() const {
+    return m_pRow->numberedKeys;
+}
+
+bool CatalogField::IsCData() const {
+    return m_pRow->cdata;
+}
+
+bool CatalogField::IsProperty() const {
+    return Framework::IsProperty(*m_pRow);
+}
+
+bool CatalogField::IsScalar() const {
+    return m_pRow->form == FieldForm::Attribute || m_pRow->form == FieldForm::Element;
+}
+
+bool CatalogField::IsList() const {
+    return m_pRow->list != nullptr;
+}
+
+zelString CatalogField::DefaultText() const {
+    switch (m_pRow->value) {
+    case FieldValue::String:
+        return zelString(m_pRow->initial.text);
+    case FieldValue::Bool:
+        return SupportFunc::GetStrValue(m_pRow->initial.flag);
+    case FieldValue::Int:
+        return SupportFunc::GetStrValue(static_cast<long>(m_pRow->initial.number));
+    case FieldValue::Double:
+        return SupportFunc::GetStrValue(0.0);
+    case FieldValue::Enumeration:
+        return m_pRow->enumeration == nullptr ? zelString() : m_pRow->enumeration->word(0);
+    case FieldValue::Container:
+        break;
+    }
+    return {};
+}
+
+std::string_view CatalogField::LoadText() const {
+    return m_pRow->loadText;
+}
+
+std::vector<zelString> CatalogField::Words() const {
+    std::vector<zelString> words;
+    if (m_pRow->value == FieldValue::Enumeration) {
+        (m_pRow->enumeration != nullptr ? m_pRow->enumeration->words : m_pRow->list->words)(words);
+    }
+    return words;
+}
+
+zelString CatalogField::GetText(TypedDataContainer& object) const {
+    return IsScalar() ? ScalarText(object, *m_pRow) : zelString();
+}
+
+bool CatalogField::SetText(TypedDataContainer& object, const zelString& sText) const {
+    if (!IsScalar() || !IsLegalText(*m_pRow, sText)) {
+        return false;
+    }
+    SetScalar(object, *m_pRow, sText);
+    return true;
+}
+
+TypedDataContainer* CatalogField::GetChild(TypedDataContainer& object) const {
+    return m_pRow->child == nullptr ? nullptr : m_pRow->child->get(object);
+}
+
+std::size_t CatalogField::Length(TypedDataContainer& object) const {
+    if (m_pRow->list == nullptr) {
+        return 0;
+    }
+    if (m_pRow->value == FieldValue::Container) {
+        return (object.*m_pRow->member.entries).size();
+    }
+    if (m_pRow->form == FieldForm::KeyedList) {
+        return (object.*m_pRow->member.keyedTexts).size();
+    }
+    return m_pRow->value == FieldValue::String ? (object.*m_pRow->member.texts).size()
+                                               : (object.*m_pRow->member.words).size();
+}
+
+TypedDataContainer* CatalogField::Entry(TypedDataContainer& object, std::size_t position) const {
+    if (m_pRow->list == nullptr || m_pRow->value != FieldValue::Container || position >= Length(object)) {
+        return nullptr;
+    }
+    return (object.*m_pRow->member.entries)[position];
+}
+
+zelString CatalogField::EntryText(TypedDataContainer& object, std::size_t position) const {
+    if (m_pRow->list == nullptr || m_pRow->value == FieldValue::Container || position >= Length(object)) {
+        return {};
+    }
+    if (m_pRow->form == FieldForm::KeyedList) {
+        return object.GetSimpleTypeData((object.*m_pRow->member.keyedTexts)[position]);
+    }
+    if (m_pRow->value == FieldValue::String) {
+        return (object.*m_pRow->member.texts)[position];
+    }
+    TypedDataEnumeration* const word = (object.*m_pRow->member.words)[position];
+    return word == nullptr ? zelString() : word->StringOf();
+}
+
+zelString CatalogField::EntryKey(TypedDataContainer& object, std::size_t position) const {
+    if (m_pRow->form != FieldForm::KeyedList || position >= Length(object)) {
+        return {};
+    }
+    if (m_pRow->value != FieldValue::Container) {
+        return (object.*m_pRow->member.keyedTexts)[position]->ElementName;
+    }
+    TypedDataContainer* const entry = Entry(object, position);
+    if (entry == nullptr) {
+        return {};
+    }
+    const auto key = ContainerCatalog::FindField(ContainerCatalog::FindClass(m_pRow->className), m_pRow->keyAttribute);
+    return key.has_value() ? key->GetText(*entry) : zelString();
+}
+
+bool CatalogField::StandsInDocument(TypedDataContainer& object) const {
+    const WrapperState* const state = LoadedState(object.GetContainedDataPtr());
+    const NodeRef node = state == nullptr ? NodeRef::None : ContainerAccess::Node(object);
+    if (node == NodeRef::None) {
+        return false;
+    }
+    return (m_pRow->form == FieldForm::Attribute ? FindAttribute(*state->Tree(), node, m_pRow->name)
+                                                 : LastChildNamed(*state->Tree(), node, m_pRow->name)) != NodeRef::None;
+}

@@ -1,0 +1,103 @@
+#include "Framework/ContainerCatalog.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/FrameworkDataContainers/Walks/TableIndex.h"
+#include "Framework/XMLSupport/TreeReading.h"
+#include "FrameworkDataContainers/FieldTableIndex.h"
+
+using namespace Framework;
+
+namespace {
+
+void AppendFields(const FieldTable& table, bool withParents, std::vector<CatalogField>& fields) {
+    if (withParents && table.parent != nullptr) {
+        AppendFields(*table.parent, true, fields);
+    }
+    for (const FieldRow& row : table.rows) {
+        fields.emplace_back(row);
+    }
+}
+
+} // namespace
+
+std::string_view CatalogClass::Name() const {
+    return m_pTable->className;
+}
+
+std::string_view CatalogClass::ElementName() const {
+    return m_pTable->elementName;
+}
+
+CatalogClass CatalogClass::Parent() const {
+    return CatalogClass(m_pTable->parent);
+}
+
+bool CatalogClass::IsStructuralConfigLoader() const {
+    return m_pTable->isStructuralConfigLoader;
+}
+
+std::vector<CatalogField> CatalogClass::Fields() const {
+    std::vector<CatalogField> fields;
+    AppendFields(*m_pTable, true, fields);
+    return fields;
+}
+
+std::vector<CatalogField> CatalogClass::OwnFields() const {
+    std::vector<CatalogField> fields;
+    AppendFields(*m_pTable, false, fields);
+    return fields;
+}
+
+std::unique_ptr<TypedDataContainer> CatalogClass::Create(bool bBuildFromScratch) const {
+    return std::unique_ptr<TypedDataContainer>(m_pTable->create(bBuildFromScratch));
+}
+
+std::vector<CatalogClass> ContainerCatalog::Classes() {
+    std::vector<CatalogClass> classes;
+    for (const FieldTable* const table : FieldTableIndex::Tables()) {
+        classes.emplace_back(table);
+    }
+    return classes;
+}
+
+CatalogClass ContainerCatalog::FindClass(std::string_view className) {
+    return CatalogClass(FindTable(className));
+}
+
+CatalogClass ContainerCatalog::FindRoot(std::string_view rootElement) {
+    const std::span<const FieldTable* const> tables = FieldTableIndex::Tables();
+    const auto found = std::find_if(tables.begin(), tables.end(), [rootElement](const FieldTable* table) {
+        return table->isRoot && table->elementName == rootElement;
+    });
+    return CatalogClass(found == tables.end() ? nullptr : *found);
+}
+
+CatalogClass ContainerCatalog::ClassOf(TypedDataContainer& object) {
+    return CatalogClass(TableOf(object));
+}
+
+std::optional<CatalogField> ContainerCatalog::FindField(CatalogClass container, std::string_view name) {
+    for (CatalogClass level = container; level; level = level.Parent()) {
+        for (const CatalogField& field : level.OwnFields()) {
+            if (field.Name() == name) {
+                return field;
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+std::vector<std::string_view> ContainerCatalog::Roots() {
+    std::vector<std::string_view> roots;
+    for (const FieldTable* const table : FieldTableIndex::Tables()) {
+        if (table->isRoot) {
+            roots.push_back(table->elementName);
+        }
+    }
+    std::sort(roots.begin(), roots.end());
+    return roots;
+}

@@ -1,0 +1,225 @@
+#include "Framework/FrameworkDataContainers/Walks/Lists.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+#include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/ContainerBase/OverrideLog.h"
+#include "Framework/ContainerBase/Storing.h"
+#include "Framework/XMLSupport/NodeViews.h"
+
+namespace Framework {
+
+namespace {
+
+/// A destructor that throws must not keep the rest of a list alive.
+template <typename Entry> void DeleteQuietly(Entry* entry) noexcept {
+    try {
+        delete entry;
+    } catch (...) { // nobody is left to be told
+    }
+}
+
+bool IsAt(std::size_t size, int Index) {
+    return Index >= 0 && static_cast<std::size_t>(Index) < size;
+}
+
+/// Empties both halves. An entry under two keys, or in one half only, is destroyed once.
+template <typename Entry> void ClearBoth(Zelvon::SyncMap<zelString, Entry*>& map, std::vector<Entry*>& entries) {
+    std::vector<Entry*> strays; // entries of the vector that the map does not lead to
+    if (map.contents().size() != entries.size()) {
+        std::unordered_set<Entry*> reached;
+        for (const auto& [key, entry] : map.contents()) {
+            reached.insert(entry);
+        }
+        std::copy_if(entries.begin(), entries.end(), std::back_inserter(strays),
+                     [&reached](Entry* entry) { return reached.insert(entry).second; });
+    }
+    map.clearMap(true);
+    std::for_each(strays.begin(), strays.end(), &DeleteQuietly<Entry>);
+    entries.clear();
+}
+
+/// A new entry as far as both kinds of lists of containers share it: null when it is not to be added.
+std::unique_ptr<TypedDataContainer> MakeEntry(TypedDataContainer& object, const FieldRow& row, XMLDataWrapper* pData,
+                                              XalanNode* spNode) {
+    const bool fromScratch = ContainerAccess::BuildsFromScratch(object);
+    if (pData == nullptr && !fromScratch) {
+        return nullptr;
+    }
+    std::unique_ptr<TypedDataContainer> entry(row.list->newEntry(fromScratch));
+    entry->SetContainerName(row.name.data());
+    entry->SetFeatureID(object.GetFeatureID());
+    ContainerAccess::SetLookup(*entry, ContainerAccess::Lookup(object));
+    if (pData != nullptr && !entry->SetContainedDataPtr(pData, spNode, ContainerAccess::IsReadOnly(object), true)) {
+        return nullptr;
+    }
+    return entry;
+}
+
+void ReportDuplicate(TypedDataContainer& object, const FieldRow& row, const zelString& sName, unsigned int line) {
+    const zelString format = "Duplicate Index for " + zelString(row.name.data()) + ", Index = %s";
+    object.SetLastError(-2, format, sName.c_str());
+    LogLastError(object, line);
+}
+
+} // namespace
+
+TypedDataContainer* EntryAt(const EntryVector& entries, int Index) {
+    return IsAt(entries.size(), Index) ? entries[static_cast<std::size_t>(Index)] : nullptr;
+}
+
+TypedDataContainer* EntryByKey(EntryMap& map, const zelString& sName) {
+    TypedDataContainer* entry = nullptr;
+    map.getValue(sName, entry, true);
+    return entry;
+}
+
+void AddNewKeyed(EntryMap& map, EntryVector& entries, TypedDataContainer* szNew, const zelString& sName) {
+    StoreKeyed(map, entries, std::unique_ptr<TypedDataContainer>(szNew), sName);
+}
+
+void AddKeyed(TypedDataContainer& object, const FieldRow& row, XMLDataWrapper* pData, XalanNode* spNode,
+              const zelString& sName, unsigned int line) {
+    std::unique_ptr<TypedDataContainer> entry = MakeEntry(object, row, pData, spNode);
+    if (entry == nullptr) {
+        return;
+    }
+    EntryMap& map = object.*row.map.entries;
+    if (EntryByKey(map, sName) != nullptr) {
+        DeleteQuietly(entry.release());
+        const XmlTree* tree = nullptr;
+        const NodeRef node = NodeViews::Find(spNode, tree);
+        const OverridePlace place(tree, node);
+        ReportDuplicate(object, row, sName, line);
+        return;
+    }
+    StoreKeyed(map, object.*row.member.entries, std::move(entry), sName);
+}
+
+void RemoveKeyed(TypedDataContainer& object, const FieldRow& row, const zelString& sName, const zelString& sFeatureId) {
+    EntryVector& entries = object.*row.member.entries;
+    EntryMap& map = object.*row.map.entries;
+    const auto found = std::find_if(entries.begin(), entries.end(), [&](TypedDataContainer* entry) {
+        return entry != nullptr && row.list->keyEquals(*entry, sName) && entry->GetFeatureID() == sFeatureId;
+    });
+    TypedDataContainer* const removed = found == entries.end() ? nullptr : *found;
+    bool keepsOther = false;
+    {
+        map.writeLock();
+        const std::unique_lock guard(map, std::adopt_lock);
+        auto& contents = map.contents();
+        if (removed != nullptr) {
+            // Every key that leads to the destroyed entry goes. One that is found by its number may stand under another
+            // text; then an entry that lives under this text stays reachable.
+            const bool stoodElsewhere = !contents.contains(sName) || contents.at(sName) != removed;
+            keepsOther = row.intKey && stoodElsewhere && contents.contains(sName);
+            std::erase_if(contents, [removed](const auto& item) { return item.second == removed; });
+        }
+        if (!keepsOther) {
+            contents.erase(sName);
+        }
+    }
+    if (removed != nullptr) {
+        entries.erase(std::remove(entries.begin(), entries.end(), removed), entries.end());
+        DeleteQuietly(removed);
+    }
+}
+
+void ClearKeyed(EntryMap& map, EntryVector& entries) {
+    ClearBoth(map, entries);
+}
+
+zelString TextAt(const TextVector& texts, int Index) {
+    return IsAt(texts.size(), Index) ? texts[static_cast<std::size_t>(Index)]->strValue : zelString();
+}
+
+zelString TextByKey(TextMap& map, const zelString& sName) {
+    TypedDataContainer::SimpleDataContainer* entry = nullptr;
+    return map.getValue(sName, entry, true) && entry != nullptr ? entry->strValue : zelString();
+}
+
+void AddKeyedText(TypedDataContainer& object, const FieldRow& row, const zelString& pData, const zelString& sName,
+                  unsigned int line) {
+    TextMap& map = object.*row.map.texts;
+    TypedDataContainer::SimpleDataContainer* present = nullptr;
+    if (map.getValue(sName, present, true)) {
+        ReportDuplicate(object, row, sName, line);
+        return;
+    }
+    auto entry = std::make_unique<TypedDataContainer::SimpleDataContainer>();
+    entry->dcType = dcString;
+    entry->strValue = pData;
+    entry->ElementName = sName;
+    StoreKeyed(map, object.*row.member.keyedTexts, std::move(entry), sName);
+}
+
+void ClearKeyedTexts(TextMap& map, TextVector& texts) {
+    ClearBoth(map, texts);
+}
+
+TypedDataContainer* GrowTo(TypedDataContainer& object, const FieldRow& row, int Index) {
+    EntryVector& entries = object.*row.member.entries;
+    while (Index >= 0 && !IsAt(entries.size(), Index)) {
+        std::unique_ptr<TypedDataContainer> entry(row.list->newEntry(false));
+        entry->SetFeatureID(object.GetFeatureID());
+        if (!entry->LoadFromTemplate(ContainerAccess::Lookup(object), TypedDataContainer::TDC_BASE_DATA_TEMPLATE,
+                                     row.name.data(), row.className.data(), ContainerAccess::IsReadOnly(object))) {
+            return nullptr;
+        }
+        entries.push_back(entry.get());
+        entry.release();
+    }
+    return EntryAt(entries, Index);
+}
+
+void AddPlain(TypedDataContainer& object, const FieldRow& row, XMLDataWrapper* pData, XalanNode* spNode) {
+    if (std::unique_ptr<TypedDataContainer> entry = MakeEntry(object, row, pData, spNode)) {
+        (object.*row.member.entries).push_back(entry.get());
+        entry.release();
+    }
+}
+
+void AddNewPlain(EntryVector& entries, TypedDataContainer* szNew) {
+    std::unique_ptr<TypedDataContainer> entry(szNew);
+    entries.push_back(szNew);
+    entry.release();
+}
+
+void ClearPlain(EntryVector& entries) {
+    std::for_each(entries.begin(), entries.end(), &DeleteQuietly<TypedDataContainer>);
+    entries.clear();
+}
+
+zelString GrowTo(std::vector<zelString>& texts, int Index) {
+    if (Index < 0) {
+        return {};
+    }
+    const auto position = static_cast<std::size_t>(Index);
+    if (position >= texts.size()) {
+        texts.resize(position + 1);
+    }
+    return texts[position];
+}
+
+TypedDataEnumeration* GrowTo(std::vector<TypedDataEnumeration*>& words, const FieldRow& row, int Index) {
+    while (Index >= 0 && !IsAt(words.size(), Index)) {
+        std::unique_ptr<TypedDataEnumeration> word(row.list->newWord(nullptr));
+        words.push_back(word.get());
+        word.release();
+    }
+    return IsAt(words.size(), Index) ? words[static_cast<std::size_t>(Index)] : nullptr;
+}
+
+void AddWord(std::vector<TypedDataEnumeration*>& words, const FieldRow& row, const zelString& pData) {
+    std::unique_ptr<TypedDataEnumeration> word(row.list->newWord(pData.c_str()));
+    words.push_back(word.get());
+    word.release();
+}
+
+void ClearWords(std::vector<TypedDataEnumeration*>& words) {
+    std::for_each(words.begin(), words.end(), &DeleteQuietly<TypedDataEnumeration>);
+    words.clear();
+}
+
+} // namespace Framework

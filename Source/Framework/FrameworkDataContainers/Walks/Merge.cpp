@@ -1,0 +1,209 @@
+#include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/ContainerBase/MergeControl.h"
+#include "Framework/ContainerBase/OverrideLog.h"
+#include "Framework/FrameworkDataContainers/Walks/Scalars.h"
+#include "Framework/FrameworkDataContainers/Walks/Walks.h"
+#include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/TreeReading.h"
+
+namespace Framework {
+
+namespace {
+
+/// The walk of one class over the merge source. It is driven by the fields: what the source holds is taken over, what
+/// it does not hold keeps its value. The wrapper stands on the container's node between two fields, and on the entry or
+/// child while that is merged.
+class MergeWalk {
+public:
+    MergeWalk(TypedDataContainer& object, const FieldTable& table, XMLDataWrapper* pMergeData,
+              const zelString& sFeatureID, unsigned int line)
+        : m_object(object), m_table(table), m_wrapper(pMergeData), m_source(WrapperAccess::State(*pMergeData)),
+          m_featureID(sFeatureID), m_line(line) {}
+
+    void Run() {
+        const bool isNested = ContainerAccess::IsNested(m_object) && m_source.current != NodeRef::None;
+        const QueryChain storedQuery = m_source.query;
+        if (isNested) {
+            m_source.query = storedQuery.Below(m_object.GetContainerName());
+            m_node = m_source.current;
+        } else {
+            const zelString query = "//" + m_object.GetContainerName();
+            m_source.query = QueryChain(query);
+            m_node = m_source.Find(query, true);
+        }
+        Reposition();
+        for (const FieldRow& row : m_table.rows) {
+            TakeField(row);
+        }
+        if (isNested) {
+            m_source.query = storedQuery;
+        }
+    }
+
+private:
+    const XmlTree& Tree() const { return *m_source.Tree(); }
+
+    void Reposition() {
+        if (m_node != NodeRef::None) {
+            m_source.current = m_node;
+        }
+    }
+
+    void TakeField(const FieldRow& row) {
+        FaultPoint("Merge");
+        switch (row.form) {
+        case FieldForm::Attribute:
+            if (const NodeRef node = FindAttribute(Tree(), m_source.Here(), row.name); node != NodeRef::None) {
+                SetScalar(m_object, row, TextOf(Tree(), node));
+            }
+            break;
+        case FieldForm::Element:
+            if (const NodeRef node = LastChildNamed(Tree(), m_source.Here(), row.name); node != NodeRef::None) {
+                SetScalar(m_object, row,
+                          row.cdata ? m_object.GetCDataValue(m_wrapper, row.name.data()) : TextOf(Tree(), node));
+                ReportControl(row, node); // a single value is taken as always
+            }
+            break;
+        case FieldForm::Child:
+            if (const NodeRef node = LastChildNamed(Tree(), m_source.Here(), row.name); node != NodeRef::None) {
+                m_source.current = node;
+                TakeChild(row);
+                Reposition();
+            }
+            break;
+        case FieldForm::KeyedList:
+        case FieldForm::PlainList:
+            TakeList(row);
+            break;
+        }
+    }
+
+    /// Merges into a child that holds data; loads one that does not, or that is not there yet.
+    void TakeChild(const FieldRow& row) {
+        if (IsRefused(row)) {
+            return;
+        }
+        TypedDataContainer* child = row.child->get(m_object);
+        if (child != nullptr && child->Valid()) {
+            child->SetContainerName(row.name.data());
+            child->MergeFromDataPacket(ContainerAccess::Lookup(m_object), m_featureID, m_wrapper, true);
+            return;
+        }
+        if (child == nullptr) {
+            child = row.child->create();
+            row.child->store(m_object, child);
+        }
+        child->SetContainerName(row.name.data());
+        child->SetFeatureID(m_object.GetFeatureID());
+        ContainerAccess::SetLookup(*child, ContainerAccess::Lookup(m_object));
+        child->SetContainedDataPtr(m_wrapper, Tree().View(m_source.current), ContainerAccess::IsReadOnly(m_object),
+                                   true);
+        ContainerAccess::SetMergeFeature(*child, m_featureID);
+    }
+
+    void TakeList(const FieldRow& row) {
+        const NodeRef here = m_source.Here();
+        std::vector<NodeRef> nodes;
+        for (NodeRef child = Tree().FirstChild(here); child != NodeRef::None; child = Tree().NextSibling(child)) {
+            if (Tree().Kind(child) == NodeKind::Element && Tree().Name(child) == row.name) {
+                nodes.push_back(child);
+            }
+        }
+        for (std::size_t i = 0; i < nodes.size(); ++i) {
+            m_source.current = nodes[i];
+            TakeEntry(row, i + 1);
+            m_source.current = here;
+        }
+        Reposition();
+    }
+
+    void TakeEntry(const FieldRow& row, std::size_t position) {
+        const OverridePlace place(&Tree(), m_source.current);
+        if (row.form == FieldForm::KeyedList) {
+            MergeKeyed(row, position);
+        } else if (IsRefused(row)) {
+            return;
+        } else if (row.value == FieldValue::Container) {
+            AddContainer(row);
+        } else {
+            row.list->addText(m_object, TextOf(Tree(), m_source.current), {});
+        }
+    }
+
+    void AddContainer(const FieldRow& row) {
+        EntryVector& entries = m_object.*row.member.entries;
+        const std::size_t before = entries.size();
+        row.list->addEntry(m_object, m_wrapper, nullptr, {});
+        if (entries.size() > before && entries.back() != nullptr) {
+            ContainerAccess::SetMergeFeature(*entries.back(), m_featureID);
+        }
+    }
+
+    /// Hands the entry to MergeElement, which decides.
+    void MergeKeyed(const FieldRow& row, std::size_t position) {
+        const zelString name(row.name.data());
+        zelString key = AttributeOf(Tree(), m_source.current, row.keyAttribute);
+        if (row.value == FieldValue::Container) {
+            m_object.MergeElement(m_featureID, m_object.*row.map.entries, m_object.*row.member.entries, m_wrapper,
+                                  row.list->newEntry(false), key, row.keyAttribute.data(), name);
+            return;
+        }
+        if (row.numberedKeys && key.empty()) {
+            key = SupportFunc::GetStrValue(static_cast<long>(position));
+        } else if (FindAttribute(Tree(), m_source.current, row.keyAttribute) == NodeRef::None) {
+            Report(row, m_source.current,
+                   "the entry has no key, expected the attribute " + std::string(row.keyAttribute));
+            return;
+        }
+        m_object.MergeElement(m_featureID, m_object.*row.map.texts, m_object.*row.member.keyedTexts, m_wrapper,
+                              dcString, key, name);
+    }
+
+    /// A node that asks for more than the default action is left out and reported.
+    bool IsRefused(const FieldRow& row) { return ReportControl(row, m_source.current); }
+
+    bool ReportControl(const FieldRow& row, NodeRef node) {
+        const std::string control = UnsupportedControl(Tree(), node);
+        if (!control.empty()) {
+            Report(row, node, control);
+        }
+        return !control.empty();
+    }
+
+    void Report(const FieldRow& row, NodeRef node, const std::string& what) {
+        const OverridePlace place(&Tree(), node);
+        m_object.SetLastError(-1, "%s: %s", row.name.data(), what.c_str());
+        LogLastError(m_object, m_line);
+    }
+
+    TypedDataContainer& m_object;
+    const FieldTable& m_table;
+    XMLDataWrapper* m_wrapper;
+    WrapperState& m_source;
+    zelString m_featureID;
+    unsigned int m_line;
+    NodeRef m_node = NodeRef::None;
+};
+
+} // namespace
+
+bool Merge(TypedDataContainer& object, const FieldTable& table, XMLDataWrapper* pMergeData, const zelString& sFeatureID,
+           unsigned int line) {
+    try {
+        if (LoadedState(pMergeData) == nullptr) {
+            object.SetLastError(-1, "MergeSource Not Loaded");
+            LogLastError(object, line);
+            return false;
+        }
+        if (table.parent != nullptr) {
+            Merge(object, *table.parent, pMergeData, sFeatureID, line);
+        }
+        MergeWalk(object, table, pMergeData, sFeatureID, line).Run();
+        return true;
+    } catch (...) {
+        ContainerAccess::SetFixedError(object, -1, "Unknown Exception occured in MergeDataMembers");
+        return false;
+    }
+}
+
+} // namespace Framework

@@ -1,0 +1,135 @@
+#include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/FrameworkDataContainers/Walks/Scalars.h"
+#include "Framework/FrameworkDataContainers/Walks/Walks.h"
+#include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/NodeViews.h"
+#include "Framework/XMLSupport/TreeReading.h"
+
+namespace Framework {
+
+namespace {
+
+/// The walk of one class over one element. It is driven by the child nodes: each is tested against every field of the
+/// class, in declared order; what no field names is passed over. Attributes are read afterwards, also when they are
+/// absent.
+class PopulateWalk {
+public:
+    PopulateWalk(TypedDataContainer& object, const FieldTable& table, const XmlTree& tree, NodeRef node)
+        : m_object(object), m_table(table), m_tree(tree), m_node(node) {}
+
+    void Run() {
+        AssignLoadTexts();
+        for (NodeRef child = m_tree.FirstChild(m_node); child != NodeRef::None; child = m_tree.NextSibling(child)) {
+            if (m_tree.Kind(child) == NodeKind::Element) {
+                TakeElement(child);
+            }
+        }
+        TakeAttributes();
+    }
+
+private:
+    /// An enumeration with a load text holds it unless the element is there; a new object does not.
+    void AssignLoadTexts() {
+        for (const FieldRow& row : m_table.rows) {
+            if (!row.loadText.empty()) {
+                row.enumeration->get(m_object) = row.loadText.data();
+            }
+        }
+    }
+
+    void TakeElement(NodeRef child) {
+        const std::string_view name = m_tree.Name(child);
+        for (const FieldRow& row : m_table.rows) {
+            if (row.form != FieldForm::Attribute && row.name == name) {
+                TakeField(row, child);
+            }
+        }
+    }
+
+    void TakeField(const FieldRow& row, NodeRef child) {
+        FaultPoint("Populate");
+        switch (row.form) {
+        case FieldForm::Element:
+            SetScalar(m_object, row, row.cdata ? CDataOf(m_tree, child) : TextOf(m_tree, child));
+            break;
+        case FieldForm::Child:
+            TakeChild(row, child);
+            break;
+        case FieldForm::KeyedList:
+        case FieldForm::PlainList:
+            TakeEntry(row, child);
+            break;
+        case FieldForm::Attribute:
+            break;
+        }
+    }
+
+    /// A child that is there is used again: an element that stands twice fills one object twice.
+    void TakeChild(const FieldRow& row, NodeRef node) {
+        TypedDataContainer* child = row.child->get(m_object);
+        if (child == nullptr) {
+            child = row.child->create();
+            row.child->store(m_object, child);
+        }
+        child->SetContainerName(row.name.data());
+        child->SetFeatureID(m_object.GetFeatureID());
+        ContainerAccess::SetLookup(*child, ContainerAccess::Lookup(m_object));
+        child->SetContainedDataPtr(m_object.GetContainedDataPtr(), m_tree.View(node),
+                                   ContainerAccess::IsReadOnly(m_object), true);
+    }
+
+    void TakeEntry(const FieldRow& row, NodeRef node) {
+        if (row.value == FieldValue::Container) {
+            const zelString key =
+                row.form == FieldForm::KeyedList ? AttributeOf(m_tree, node, row.keyAttribute) : zelString();
+            row.list->addEntry(m_object, m_object.GetContainedDataPtr(), m_tree.View(node), key);
+        } else {
+            row.list->addText(m_object, TextOf(m_tree, node), TextKey(row, node));
+        }
+    }
+
+    zelString TextKey(const FieldRow& row, NodeRef node) {
+        if (row.form != FieldForm::KeyedList) {
+            return {};
+        }
+        if (!row.numberedKeys) {
+            return AttributeOf(m_tree, node, row.keyAttribute);
+        }
+        return SupportFunc::GetStrValue(static_cast<long>((m_object.*row.member.keyedTexts).size() + 1));
+    }
+
+    void TakeAttributes() {
+        for (const FieldRow& row : m_table.rows) {
+            if (row.form == FieldForm::Attribute) {
+                SetScalar(m_object, row, AttributeOf(m_tree, m_node, row.name));
+            }
+        }
+    }
+
+    TypedDataContainer& m_object;
+    const FieldTable& m_table;
+    const XmlTree& m_tree;
+    NodeRef m_node;
+};
+
+} // namespace
+
+bool Populate(TypedDataContainer& object, const FieldTable& table, XalanNode* pNode) {
+    bool bSuccess = false;
+    try {
+        if (table.parent != nullptr) {
+            bSuccess = Populate(object, *table.parent, pNode);
+        }
+        const XmlTree* tree = nullptr;
+        const NodeRef node = NodeViews::Find(pNode, tree);
+        if (tree != nullptr) {
+            PopulateWalk(object, table, *tree, node).Run();
+            bSuccess = true;
+        }
+    } catch (...) {
+        ContainerAccess::SetFixedError(object, -1, "Unknown Exception occured in PopulateDataMembers");
+    }
+    return bSuccess;
+}
+
+} // namespace Framework

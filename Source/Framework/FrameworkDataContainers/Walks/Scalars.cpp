@@ -1,0 +1,103 @@
+#include "Framework/FrameworkDataContainers/Walks/Scalars.h"
+
+#include <algorithm>
+
+#include "Framework/XMLSupport/Utf.h"
+
+namespace Framework {
+
+namespace {
+
+/// Reading gives 0 for what is no number; a zero that was meant has a zero digit and nothing that counts.
+bool IsZero(const zelString& text) {
+    return text.find('0') != std::string::npos && text.find_first_not_of("0.+-eE \t\r\n") == std::string::npos;
+}
+
+} // namespace
+
+void SetScalar(TypedDataContainer& object, const FieldRow& row, const zelString& text) {
+    switch (row.value) {
+    case FieldValue::String:
+        object.*row.member.text = text;
+        break;
+    case FieldValue::Bool:
+        object.*row.member.flag = SupportFunc::GetBoolValue(text);
+        break;
+    case FieldValue::Int:
+        object.*row.member.number = SupportFunc::GetIntValue(text);
+        break;
+    case FieldValue::Double:
+        object.*row.member.real = SupportFunc::GetDoubleValue(text);
+        break;
+    case FieldValue::Enumeration:
+        row.enumeration->get(object) = text.c_str();
+        break;
+    case FieldValue::Container:
+        break;
+    }
+}
+
+bool IsLegalText(const FieldRow& row, const zelString& text) {
+    switch (row.value) {
+    case FieldValue::String:
+        return IsXmlText(text);
+    case FieldValue::Bool:
+        return SupportFunc::GetBoolValue(text) || text == "false";
+    case FieldValue::Int: {
+        const zelString back = SupportFunc::GetStrValue(SupportFunc::GetIntValue(text));
+        return back == text;
+    }
+    case FieldValue::Double:
+        return SupportFunc::GetDoubleValue(text) != 0.0 || IsZero(text);
+    case FieldValue::Enumeration: {
+        std::vector<zelString> words;
+        row.enumeration->words(words);
+        return std::find(words.begin(), words.end(), text) != words.end();
+    }
+    case FieldValue::Container:
+        break;
+    }
+    return false;
+}
+
+zelString ScalarText(TypedDataContainer& object, const FieldRow& row) {
+    switch (row.value) {
+    case FieldValue::String:
+        return object.*row.member.text;
+    case FieldValue::Bool:
+        return SupportFunc::GetStrValue(object.*row.member.flag);
+    case FieldValue::Int:
+        return SupportFunc::GetStrValue(static_cast<long>(object.*row.member.number));
+    case FieldValue::Double:
+        return SupportFunc::GetStrValue(object.*row.member.real);
+    case FieldValue::Enumeration:
+        return row.enumeration->get(object).StringOf();
+    case FieldValue::Container:
+        break;
+    }
+    return {};
+}
+
+void ResetScalar(TypedDataContainer& object, const FieldRow& row) {
+    switch (row.value) {
+    case FieldValue::String:
+        (object.*row.member.text).assign(row.initial.text);
+        break;
+    case FieldValue::Bool:
+        object.*row.member.flag = row.initial.flag;
+        break;
+    case FieldValue::Int:
+        object.*row.member.number = row.initial.number;
+        break;
+    case FieldValue::Double:
+        object.*row.member.real = 0.0;
+        break;
+    case FieldValue::Enumeration:
+        row.enumeration->setNumber(object, 0);
+        break;
+    case FieldValue::Container:
+        break;
+    }
+}
+
+} // namespace Framework

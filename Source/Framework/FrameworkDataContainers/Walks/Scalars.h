@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Framework/FrameworkDataContainers/Walks/FieldTable.h"
+
+namespace Framework {
+
+/// Assigns a text to a scalar by the rules of a load: numbers and bools by SupportFunc, enumerations by their word.
+void SetScalar(TypedDataContainer& object, const FieldRow& row, const zelString& text);
+
+/// Whether the text is one that the field's kind of value has: a whole number, a bool word, a word of the vocabulary. A
+/// load takes any text; this is for those who ask first.
+bool IsLegalText(const FieldRow& row, const zelString& text);
+
+/// The text that a dump writes for a scalar.
+zelString ScalarText(TypedDataContainer& object, const FieldRow& row);
+
+/// Gives a scalar what the constructor gives it.
+void ResetScalar(TypedDataContainer& object, const FieldRow& row);
+
+} // namespace Framework

@@ -1,0 +1,188 @@
+// What a class is by its field table alone: names, defaults, predicates, property lists, reset.
+
+#include "Containers/EveryClass.h"
+
+namespace {
+
+using Pairs = std::vector<std::pair<std::string, std::string>>;
+
+Pairs Contents(ParameterList& list) {
+    Pairs pairs;
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        EXPECT_EQ(list.ItemData(i)->dcType, dcString);
+        pairs.emplace_back(list.ItemData(i)->ElementName, list.ItemData(i)->strValue);
+    }
+    return pairs;
+}
+
+/// A loaded object in which every field holds something.
+std::unique_ptr<TypedDataContainer> MakeFull(CatalogClass type, unsigned seed = 1) {
+    Samples::Random random(seed);
+    const Samples::Sample sample = Samples::Make(type, std::string(type.ElementName()), random, 1, true);
+    std::unique_ptr<TypedDataContainer> object = type.Create(false);
+    EXPECT_TRUE(LoadText(*object, Samples::ToXml(sample, random, false))) << object->GetLastError();
+    return object;
+}
+
+TEST(Anatomy, NewObjectHoldsNamesAndDefaults) {
+    ForEveryClass([](CatalogClass type) {
+        const auto object = type.Create(false);
+        EXPECT_EQ(object->GetBaseType(), type.Name());
+        EXPECT_EQ(object->GetContainerName(), type.ElementName());
+        EXPECT_FALSE(object->Valid());
+        EXPECT_EQ(object->GetContainedDataPtr(), nullptr);
+        EXPECT_EQ(dynamic_cast<StructuralConfigLoader*>(object.get()) != nullptr, type.IsStructuralConfigLoader());
+        for (const CatalogField& field : type.Fields()) {
+            EXPECT_EQ(field.GetText(*object), field.IsScalar() ? field.DefaultText() : zelString()) << field.Name();
+            EXPECT_EQ(field.GetChild(*object), nullptr) << field.Name();
+            EXPECT_EQ(field.Length(*object), 0U) << field.Name();
+        }
+    });
+}
+
+TEST(Anatomy, PredicateHoldsEveryAttributeToTheBlank) {
+    ForEveryClass([](CatalogClass type) {
+        const auto object = MakeFull(type);
+        std::string expected;
+        Pairs expectedPairs;
+        for (const CatalogField& field : type.Fields()) {
+            if (field.GetForm() == CatalogField::Attribute) {
+                const std::string name(field.Name());
+                const std::string value = field.GetText(*object);
+                expected += (expected.empty() ? "@" : " and @") + name + "='" + value + "' ";
+                expectedPairs.emplace_back(name, value);
+            }
+        }
+        EXPECT_EQ(object->GetAttributeList(), expected);
+        const std::unique_ptr<ParameterList> list(object->GetPLAttributeList());
+        EXPECT_EQ(Contents(*list), expectedPairs);
+    });
+}
+
+TEST(Anatomy, PropertiesAreTheClassesOwnScalars) {
+    ForEveryClass([](CatalogClass type) {
+        const auto object = MakeFull(type);
+        Pairs expected{{"kept", "before"}};
+        for (const CatalogField& field : type.OwnFields()) {
+            if (field.IsScalar() && field.GetValue() != CatalogField::Enumeration) {
+                expected.emplace_back(field.Name(), field.GetText(*object));
+            }
+        }
+        ParameterList list;
+        const zelString before = "before";
+        list.Add(&before, dcString, "kept", false);
+        object->GetProperties(list);
+        EXPECT_EQ(Contents(list), expected);
+    });
+}
+
+/// What reset leaves: the lines of a new object, with the children that were there.
+void ExpectReset(TypedDataContainer& object) {
+    const CatalogClass type = ContainerCatalog::ClassOf(object);
+    const auto fresh = type.Create(false);
+    for (const CatalogField& field : type.Fields()) {
+        EXPECT_EQ(field.GetText(object), field.GetText(*fresh)) << field.Name();
+        EXPECT_EQ(field.Length(object), 0U) << field.Name();
+        if (field.GetForm() == CatalogField::Child) {
+            ASSERT_NE(field.GetChild(object), nullptr) << field.Name();
+            ExpectReset(*field.GetChild(object));
+        }
+    }
+}
+
+TEST(Anatomy, ResetEqualsNewAndKeepsChildrenNameFeatureAndData) {
+    ForEveryClass([](CatalogClass type) {
+        const auto object = MakeFull(type);
+        object->SetContainerName("Renamed");
+        object->SetFeatureID("F");
+        object->ResetDataMembers();
+        ExpectReset(*object);
+        EXPECT_EQ(object->GetContainerName(), "Renamed");
+        EXPECT_EQ(object->GetFeatureID(), "F");
+        EXPECT_NE(object->GetContainedDataPtr(), nullptr);
+        EXPECT_TRUE(object->Valid());
+        object->Clear();
+        EXPECT_EQ(object->GetContainedDataPtr(), nullptr);
+        EXPECT_FALSE(object->Valid());
+    });
+}
+
+TEST(Anatomy, CloneEqualsTheDocumentAndStandsAlone) {
+    ForEveryClass([](CatalogClass type) {
+        Samples::Random random(7);
+        const Samples::Sample sample = Samples::Make(type, "Named", random);
+        auto object = type.Create(true);
+        object->SetContainerName("Named");
+        object->SetFeatureID("F");
+        ASSERT_TRUE(LoadText(*object, Samples::ToXml(sample, random, true))) << object->GetLastError();
+        std::unique_ptr<TypedDataContainer> clone(object->Clone());
+        ASSERT_NE(clone, nullptr) << object->GetLastError();
+        object.reset();
+        EXPECT_EQ(Samples::Lines(*clone), Samples::Lines(sample));
+        EXPECT_EQ(clone->GetContainerName(), "Named");
+        EXPECT_EQ(clone->GetFeatureID(), "F");
+        EXPECT_TRUE(clone->Valid());
+    });
+}
+
+/// Clones of everything that hangs below an object equal what they were made from: each stands on its own node of the
+/// document.
+void ExpectEveryEntryClones(TypedDataContainer& object) {
+    const auto check = [](TypedDataContainer& below) {
+        const std::unique_ptr<TypedDataContainer> clone(below.Clone());
+        ASSERT_NE(clone, nullptr);
+        EXPECT_EQ(Samples::Lines(*clone), Samples::Lines(below));
+        ExpectEveryEntryClones(below);
+    };
+    for (const CatalogField& field : ContainerCatalog::ClassOf(object).Fields()) {
+        if (TypedDataContainer* const child = field.GetChild(object)) {
+            check(*child);
+        }
+        for (std::size_t i = 0; i < field.Length(object); ++i) {
+            if (TypedDataContainer* const entry = field.Entry(object, i)) {
+                check(*entry);
+            }
+        }
+    }
+}
+
+TEST(Anatomy, EntriesAndChildrenCloneFromTheirOwnNode) {
+    for (const std::string_view root : ContainerCatalog::Roots()) {
+        SCOPED_TRACE(std::string(root));
+        ExpectEveryEntryClones(*MakeFull(ContainerCatalog::FindRoot(root)));
+    }
+}
+
+TEST(Anatomy, CloneOfWhatWasNeverLoadedTakesTheMembers) {
+    ForEveryClass([](CatalogClass type) {
+        const auto object = type.Create(false);
+        for (const CatalogField& field : type.Fields()) {
+            if (field.GetValue() == CatalogField::String && field.IsScalar()) {
+                ASSERT_TRUE(field.SetText(*object, "it's <\xC3\xA9> & ]]>"));
+            }
+        }
+        const std::unique_ptr<TypedDataContainer> clone(object->Clone());
+        ASSERT_NE(clone, nullptr) << object->GetLastError();
+        EXPECT_EQ(object->GetContainedDataPtr(), nullptr);
+        for (const CatalogField& field : type.Fields()) {
+            if (field.GetValue() == CatalogField::String && field.IsScalar()) {
+                EXPECT_EQ(field.GetText(*clone), "it's <\xC3\xA9> & ]]>") << field.Name();
+            }
+        }
+    });
+}
+
+TEST(Anatomy, ReadOnlyObjectsRefuseCloneAndUpdate) {
+    ForEveryClass([](CatalogClass type) {
+        const auto object = type.Create(false);
+        const std::string name(type.ElementName());
+        ASSERT_TRUE(LoadText(*object, "<" + name + "/>", true));
+        EXPECT_EQ(object->Clone(), nullptr);
+        EXPECT_EQ(object->GetLastError(), "Clone not supported for read only objects");
+        EXPECT_EQ(object->GetLastErrorNum(), -1);
+        EXPECT_FALSE(object->UpdateContainedData());
+        EXPECT_EQ(object->GetLastError(), "Update not supported for read only objects");
+    });
+}
+
+} // namespace

@@ -1,0 +1,191 @@
+// The list operations by form, where what counts is order, keys, ownership and growth.
+
+#include "Containers/EveryClass.h"
+
+#include "FrameworkDataContainers/FrameworkDataContainers.h"
+
+namespace {
+
+/// Counts its living objects; can be told to act up.
+class CountedThread : public ChildThreadType {
+public:
+    explicit CountedThread(const char* name, const char* feature = "") : ChildThreadType(false) {
+        SetUniqueName(name);
+        SetFeatureID(feature);
+        ++alive;
+    }
+    ~CountedThread() override { --alive; }
+    static inline int alive = 0;
+};
+
+TEST(KeyedList, AddNewKeepsBothObjectsAndDestroysEachOnce) {
+    {
+        ThreadChildListType list(false);
+        auto* const first = new CountedThread("k");
+        auto* const second = new CountedThread("k");
+        list.AddNewChildThread(first, "k");
+        list.AddNewChildThread(second, "k");
+        list.AddNewChildThread(second, "other key"); // one object under two keys
+        EXPECT_EQ(list.GetChildThreadLength(), 3);
+        EXPECT_EQ(list.GetChildThread("k"), second);
+        EXPECT_EQ(list.GetChildThread("other key"), second);
+        EXPECT_EQ(list.GetChildThread(0), first);
+        EXPECT_EQ(list.GetChildThread(3), nullptr);
+        EXPECT_EQ(list.GetChildThread("none"), nullptr);
+        EXPECT_EQ(list.GetChildThreadLength(), 3);
+        list.ResetDataMembers();
+        EXPECT_EQ(CountedThread::alive, 0);
+        list.AddNewChildThread(new CountedThread("x"), "x");
+        list.RemoveChildThread("x", "another feature"); // out of the map, still in the list
+        EXPECT_EQ(list.GetChildThreadLength(), 1);
+    }
+    EXPECT_EQ(CountedThread::alive, 0);
+}
+
+TEST(KeyedList, RemoveTakesTheFirstMatchAndAlwaysTheKey) {
+    ThreadChildListType list(false);
+    for (const char* const name : {"a", "b", "c"}) {
+        list.AddNewChildThread(new CountedThread(name, "F"), name);
+    }
+    list.RemoveChildThread("b", "F");
+    ASSERT_EQ(list.GetChildThreadLength(), 2);
+    EXPECT_EQ(list.GetChildThread(0)->GetUniqueName(), "a");
+    EXPECT_EQ(list.GetChildThread(1)->GetUniqueName(), "c");
+    EXPECT_EQ(CountedThread::alive, 2);
+    list.RemoveChildThread("a", "G");
+    EXPECT_EQ(list.GetChildThreadLength(), 2);
+    EXPECT_EQ(list.GetChildThread("a"), nullptr);
+    EXPECT_NE(list.GetChildThread("c"), nullptr);
+}
+
+TEST(KeyedList, IntKeysAreFoundByNumberAndStoredByText) {
+    ActionRespType responses(false);
+    ASSERT_TRUE(LoadText(responses, "<ActionResp><PostActionResp Result='01'/><PostActionResp "
+                                    "Result='1'/><PostActionResp Result='2'/></ActionResp>"));
+    ASSERT_EQ(responses.GetPostActionRespLength(), 3);
+    StateActionRespType* const one = responses.GetPostActionResp("1");
+    EXPECT_EQ(one->GetResult(), 1);
+    EXPECT_NE(responses.GetPostActionResp("01"), one);
+    responses.RemovePostActionResp("1", ""); // destroys the first by number, stored under "01"; the one under "1" lives
+    ASSERT_EQ(responses.GetPostActionRespLength(), 2);
+    EXPECT_EQ(responses.GetPostActionResp("01"), nullptr);
+    EXPECT_EQ(responses.GetPostActionResp("1"), one);
+    responses.RemovePostActionResp("002", "");
+    EXPECT_EQ(responses.GetPostActionRespLength(), 1);
+    EXPECT_EQ(responses.GetPostActionResp("2"), nullptr); // no key may lead to what is destroyed
+}
+
+TEST(KeyedList, AddWithoutXmlNeedsBuildFromScratch) {
+    for (const bool fromScratch : {false, true}) {
+        ThreadChildListType list(fromScratch);
+        list.SetFeatureID("F");
+        list.AddChildThread(nullptr, nullptr, "k");
+        list.AddDataStorageContainer(nullptr, nullptr);
+        EXPECT_EQ(list.GetChildThreadLength(), fromScratch ? 1 : 0);
+        if (fromScratch) {
+            EXPECT_EQ(list.GetChildThread("k")->GetContainerName(), "ChildThread");
+            EXPECT_EQ(list.GetChildThread("k")->GetFeatureID(), "F");
+            EXPECT_EQ(list.GetDataStorageContainerLength(), 1);
+        }
+    }
+}
+
+TEST(KeyedStrings, DuplicatesAreReportedAndAbsenceIsEmpty) {
+    StateProcessingRootType root(false);
+    IssueRecorder recorder;
+    root.AddRevisionHistory("text", "a.xml");
+    root.AddRevisionHistory("other", "a.xml");
+    EXPECT_EQ(root.GetRevisionHistoryLength(), 1);
+    EXPECT_EQ(root.GetRevisionHistory("a.xml"), "text");
+    EXPECT_EQ(root.GetRevisionHistory("b.xml"), "");
+    EXPECT_EQ(root.GetRevisionHistory(1), "");
+    EXPECT_EQ(root.GetLastErrorNum(), -2);
+    EXPECT_EQ(root.GetLastError(), "Duplicate Index for RevisionHistory, Index = a.xml");
+    EXPECT_EQ(recorder.issues.size(), 1U);
+}
+
+TEST(PlainList, GrowsFromTheTemplateOnRead) {
+    CommEventTransformerListType list(false);
+    list.SetFeatureID("F");
+    ASSERT_NE(list.GetEventTransformer(1), nullptr);
+    EXPECT_EQ(list.GetEventTransformerLength(), 2);
+    EXPECT_EQ(list.GetEventTransformer(0)->GetContainerName(), "EventTransformer");
+    EXPECT_EQ(list.GetEventTransformer(0)->GetFeatureID(), "F");
+    ASSERT_TRUE(
+        TypedDataContainer::RegisterTemplate(TypedDataContainer::TDC_BASE_DATA_TEMPLATE, "EventTransformer",
+                                             "<EventTransformer><FactoryName>made</FactoryName></EventTransformer>"));
+    EXPECT_EQ(list.GetEventTransformer(2)->GetFactoryName(), "made");
+    EXPECT_EQ(list.GetEventTransformer(-1), nullptr);
+    ASSERT_TRUE(TypedDataContainer::RegisterTemplate(TypedDataContainer::TDC_BASE_DATA_TEMPLATE, "EventTransformer",
+                                                     "<Other/>"));
+    EXPECT_EQ(list.GetEventTransformer(3), nullptr); // a template that does not fit
+    EXPECT_EQ(list.GetEventTransformerLength(), 3);
+    ASSERT_TRUE(TypedDataContainer::RegisterTemplate(TypedDataContainer::TDC_BASE_DATA_TEMPLATE, "EventTransformer",
+                                                     "<EventTransformer/>"));
+}
+
+TEST(PlainList, StringsAndEnumerationsGrowOnRead) {
+    DataStorageContainerType storage(false);
+    EXPECT_EQ(storage.GetLoadPath(0), "");
+    EXPECT_EQ(storage.GetLoadPathLength(), 1);
+    storage.AddNewLoadPath("p");
+    EXPECT_EQ(storage.GetLoadPath(1), "p");
+    EXPECT_EQ(storage.GetLoadPath(3), "");
+    EXPECT_EQ(storage.GetLoadPathLength(), 4);
+    CaptureConfigSubRuleType rule(false);
+    EXPECT_EQ(rule.GetCaptureLevel(1)->Value(), -1);
+    EXPECT_EQ(rule.GetCaptureLevelLength(), 2);
+    rule.AddNewCaptureLevel(new CaptureLevelType(CaptureLevelType::CAPTURE_LEVEL_DEBUG));
+    rule.AddCaptureLevel("CAPTURE_LEVEL_ERROR");
+    rule.AddCaptureLevel("none such");
+    EXPECT_EQ(rule.GetCaptureLevel(2)->StringOf(), "CAPTURE_LEVEL_DEBUG");
+    EXPECT_EQ(rule.GetCaptureLevel(3)->Value(), CaptureLevelType::CAPTURE_LEVEL_ERROR);
+    EXPECT_EQ(rule.GetCaptureLevel(4)->Value(), -1);
+}
+
+TEST(Child, SetterTakesOverAndStoringTheSameChangesNothing) {
+    StateProcessingRootType root(false);
+    auto* const table = new StateTableType(false);
+    root.SetStateTable(table);
+    table->SetName("kept");
+    root.SetStateTable(table);
+    EXPECT_EQ(root.GetStateTable()->GetName(), "kept");
+    root.SetStateTable(nullptr);
+    EXPECT_EQ(root.GetStateTable(), nullptr);
+}
+
+TEST(DerivedClass, PropertyListLeavesTheParentOut) {
+    ActionItemType item(false);
+    ParameterList list;
+    item.GetProperties(list);
+    ASSERT_EQ(list.size(), 1U);
+    EXPECT_EQ(list.ItemData(0)->ElementName, "Index");
+    EXPECT_EQ(item.GetBaseType(), "ActionItemType");
+    EXPECT_TRUE(item.AutoFillTypeInfo());
+    item.SetAutoFillTypeInfo(true);
+    static_cast<StateActionBasicType&>(item).SetAutoFillTypeInfo(false);
+    const std::unique_ptr<TypedDataContainer> clone(item.Clone());
+    EXPECT_TRUE(static_cast<ActionItemType&>(*clone).GetAutoFillTypeInfo());
+}
+
+TEST(Ownership, AWrapperMayDieOrBeReloadedUnderEverythingThatStandsOnIt) {
+    auto wrapper = std::make_unique<XMLDataWrapper>();
+    ASSERT_TRUE(wrapper->LoadXMLText(
+        "<CommConfig><CommEntry name='a'><Parameters><Port>7</Port></Parameters></CommEntry></CommConfig>", false));
+    CommConfigType object(false);
+    ASSERT_TRUE(object.LoadFromDataPacket(nullptr, wrapper.get(), false));
+    EXPECT_EQ(object.GetContainedDataPtr(), wrapper.get());
+    EXPECT_EQ(object.GetCommEntry(0)->GetParameters()->GetContainedDataPtr(), wrapper.get());
+    ASSERT_TRUE(wrapper->LoadXMLText("<Other/>", false));
+    const std::unique_ptr<TypedDataContainer> clone(object.GetCommEntry(0)->Clone());
+    EXPECT_EQ(static_cast<CommEntryType&>(*clone).GetParameters()->GetPort(), 7);
+    wrapper.reset();
+    XMLDataWrapper* const own = object.GetContainedDataPtr();
+    ASSERT_NE(own, nullptr);
+    EXPECT_EQ(own->GetStringValue("CommEntry/Parameters/Port", false), "7");
+    object.GetCommEntry(0)->Clear(); // its own share only
+    EXPECT_EQ(object.GetCommEntry(0)->GetContainedDataPtr(), nullptr);
+    EXPECT_EQ(object.GetContainedDataPtr(), own);
+}
+
+} // namespace

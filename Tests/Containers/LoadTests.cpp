@@ -1,0 +1,209 @@
+// Loading: every class from orderly and from disorderly documents, and what a load does to an object that is in use.
+
+#include "Containers/EveryClass.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+void LoadsWhatTheSampleSays(bool noise) {
+    ForEveryClass([noise](CatalogClass type) {
+        for (unsigned seed = 1; seed <= 4; ++seed) {
+            Samples::Random random(seed);
+            const Samples::Sample sample = Samples::Make(type, std::string(type.ElementName()), random);
+            const std::string xml = Samples::ToXml(sample, random, noise);
+            const auto object = type.Create(seed % 2 == 0);
+            ASSERT_TRUE(LoadText(*object, xml)) << object->GetLastError();
+            EXPECT_TRUE(object->Valid());
+            ASSERT_EQ(Samples::Lines(*object), Samples::Lines(sample)) << xml;
+        }
+    });
+}
+
+TEST(Load, OrderlyDocuments) {
+    LoadsWhatTheSampleSays(false);
+}
+
+TEST(Load, ShuffledUnknownWrongCasePrefixedCommentedAndCData) {
+    LoadsWhatTheSampleSays(true);
+}
+
+TEST(Load, LaterElementWinsAndChildIsFilledTwice) {
+    ForEveryClass([](CatalogClass type) {
+        Samples::Random random(3);
+        const std::string name(type.ElementName());
+        const Samples::Sample first = Samples::Make(type, name, random, 1);
+        const Samples::Sample second = Samples::Make(type, name, random, 5);
+        // Both contents in one element; attributes cannot stand twice, so those of the first are used.
+        const std::string a = Samples::ToXml(first, random, false);
+        const std::string b = Samples::ToXml(second, random, false);
+        const std::size_t bodyBegin = b.find('>', b.find("<" + name)) + 1;
+        const std::size_t aEnd = a.rfind("</");
+        const std::string both = a.substr(0, aEnd) + b.substr(bodyBegin);
+        const auto object = type.Create(false);
+        const auto one = type.Create(false);
+        const auto two = type.Create(false);
+        ASSERT_TRUE(LoadText(*object, both));
+        ASSERT_TRUE(LoadText(*one, a));
+        ASSERT_TRUE(LoadText(*two, b));
+        for (const CatalogField& field : type.Fields()) {
+            const bool stands = field.StandsInDocument(*two);
+            if (field.GetForm() == CatalogField::Element) {
+                EXPECT_EQ(field.GetText(*object), field.GetText(stands ? *two : *one)) << field.Name();
+            } else if (field.IsList()) {
+                EXPECT_EQ(field.Length(*object), field.Length(*one) + field.Length(*two)) << field.Name();
+            }
+        }
+    });
+}
+
+TEST(Load, SecondLoadStartsFromNothing) {
+    ForEveryClass([](CatalogClass type) {
+        Samples::Random random(5);
+        const std::string name(type.ElementName());
+        const auto object = type.Create(false);
+        ASSERT_TRUE(LoadText(*object, Samples::ToXml(Samples::Make(type, name, random, 1, true), random, false)));
+        const Samples::Sample second = Samples::Make(type, name, random);
+        ASSERT_TRUE(LoadText(*object, Samples::ToXml(second, random, false)));
+        EXPECT_EQ(Samples::Lines(*object), Samples::Lines(second));
+    });
+}
+
+TEST(Load, FailedLoadLeavesTheObjectAsItWas) {
+    ForEveryClass([](CatalogClass type) {
+        Samples::Random random(6);
+        const auto object = type.Create(false);
+        ASSERT_TRUE(LoadText(
+            *object, Samples::ToXml(Samples::Make(type, std::string(type.ElementName()), random), random, false)));
+        const std::vector<std::string> before = Samples::Lines(*object);
+        XMLDataWrapper empty;
+        XMLDataWrapper other;
+        ASSERT_TRUE(other.LoadXMLText("<Other>\n <a/></Other>", false));
+        EXPECT_FALSE(object->LoadFromDataPacket(nullptr, nullptr, false));
+        EXPECT_FALSE(object->LoadFromDataPacket(nullptr, &empty, false));
+        EXPECT_FALSE(object->LoadFromDataPacket(nullptr, &other, false));
+        EXPECT_FALSE(object->LoadFromDOMNode(nullptr, nullptr, false));
+        EXPECT_FALSE(object->LoadFromModel(nullptr, "no such model", "X", false));
+        EXPECT_FALSE(object->LoadFromFile(nullptr, "/nonexistent/file.xml", false));
+        EXPECT_NE(object->GetLastError().find("/nonexistent/file.xml"), std::string::npos) << object->GetLastError();
+        EXPECT_EQ(Samples::Lines(*object), before);
+        EXPECT_TRUE(object->Valid());
+    });
+}
+
+TEST(Load, EverySourceGivesTheSameObject) {
+    const std::filesystem::path file =
+        std::filesystem::temp_directory_path() / ("load-" + std::to_string(getpid()) + ".xml");
+    ForEveryClass([&file](CatalogClass type) {
+        Samples::Random random(8);
+        const Samples::Sample sample = Samples::Make(type, "Somewhere", random);
+        const std::string element = Samples::ToXml(sample, random, false);
+        const std::string body = element.substr(element.find('\n') + 1);
+        // Below another root, which bears the feature: the object is found by its name.
+        const std::string xml = "<Outer FeatureID='Night'><Before/>" + body + "</Outer>";
+        std::ofstream(file) << xml;
+        ASSERT_TRUE(TypedDataContainer::RegisterTemplate("store", "Somewhere", xml));
+        ASSERT_TRUE(TypedDataContainer::RegisterModel("model", "Somewhere", xml));
+        XMLDataWrapper wrapper;
+        ASSERT_TRUE(wrapper.LoadXMLText(xml, false));
+        const auto expectLoaded = [&](const char* how, auto load) {
+            const auto object = type.Create(false);
+            object->SetContainerName("Somewhere");
+            EXPECT_TRUE(load(*object)) << how << ": " << object->GetLastError();
+            EXPECT_EQ(Samples::Lines(*object), Samples::Lines(sample)) << how;
+        };
+        expectLoaded("file", [&](TypedDataContainer& o) {
+            return o.LoadFromFile(nullptr, file.c_str(), false) && o.GetFeatureID() == "Night";
+        });
+        expectLoaded("packet", [&](TypedDataContainer& o) { return o.LoadFromDataPacket(nullptr, &wrapper, false); });
+        expectLoaded("template", [&](TypedDataContainer& o) {
+            o.SetContainerName("Other");
+            return o.LoadFromTemplate(nullptr, "store", "Somewhere", "AnyClass", false);
+        });
+        expectLoaded("model",
+                     [&](TypedDataContainer& o) { return o.LoadFromModel(nullptr, "model", "Somewhere", false); });
+        expectLoaded("DOM node", [&](TypedDataContainer& o) {
+            return o.LoadFromDOMNode(nullptr, wrapper.GetDOMNode("//Somewhere", true), false);
+        });
+        expectLoaded("packet over a DOM",
+                     [&](TypedDataContainer& o) { return o.LoadFromDataPacket(nullptr, &wrapper, false); });
+    });
+    std::filesystem::remove(file);
+}
+
+TEST(Load, FeatureAndReadOnlyReachEverythingBelow) {
+    const auto check = [](auto&& self, TypedDataContainer& object) -> void {
+        EXPECT_EQ(object.GetFeatureID(), "F");
+        EXPECT_EQ(object.Clone(), nullptr); // read only
+        for (const CatalogField& field : ContainerCatalog::ClassOf(object).Fields()) {
+            if (TypedDataContainer* const child = field.GetChild(object)) {
+                self(self, *child);
+            }
+            for (std::size_t i = 0; i < field.Length(object); ++i) {
+                if (TypedDataContainer* const entry = field.Entry(object, i)) {
+                    self(self, *entry);
+                }
+            }
+        }
+    };
+    for (const std::string_view root : ContainerCatalog::Roots()) {
+        Samples::Random random(9);
+        const CatalogClass type = ContainerCatalog::FindRoot(root);
+        const auto object = type.Create(false);
+        object->SetFeatureID("F");
+        ASSERT_TRUE(LoadText(
+            *object, Samples::ToXml(Samples::Make(type, std::string(root), random, 1, true), random, true), true));
+        check(check, *object);
+    }
+}
+
+TEST(Load, DuplicateKeysAreReportedAndTheFirstStays) {
+    ForEveryClass([](CatalogClass type) {
+        for (const CatalogField& field : type.Fields()) {
+            if (field.GetForm() != CatalogField::KeyedList || field.HasNumberedKeys()) {
+                continue;
+            }
+            const std::string name(field.Name());
+            const std::string root(type.ElementName());
+            const std::string key = " " + std::string(field.KeyAttribute());
+            const std::string xml = "<" + root + ">\n<" + name + key + "='7'>one</" + name + ">\n  <" + name + key +
+                                    "='7'>two</" + name + "><" + name + "/><" + name + "/></" + root + ">";
+            const IssueRecorder recorder;
+            const auto object = type.Create(false);
+            object->SetFeatureID("F");
+            EXPECT_TRUE(LoadText(*object, xml));
+            EXPECT_EQ(field.Length(*object), 2U) << name; // "7", and the empty key
+            ASSERT_EQ(recorder.issues.size(), 2U) << name;
+            EXPECT_EQ(recorder.issues[0].ErrorText, "Duplicate Index for " + name + ", Index = 7");
+            EXPECT_EQ(recorder.issues[1].ErrorText, "Duplicate Index for " + name + ", Index = ");
+            EXPECT_EQ(recorder.issues[0].FeatureID, "F");
+            EXPECT_EQ(recorder.issues[0].ContainerName, root);
+            EXPECT_GT(recorder.issues[0].SourceLine, 0U);
+            EXPECT_EQ(object->GetLastErrorNum(), -2);
+            if (field.GetValue() == CatalogField::String) {
+                EXPECT_EQ(field.EntryText(*object, 0), "one");
+            } else {
+                EXPECT_EQ(recorder.issues[0].Line, 3U);
+                EXPECT_EQ(recorder.issues[0].Column, 3U);
+            }
+        }
+    });
+}
+
+TEST(Load, BrokenFileIsRefusedWithItsPlace) {
+    const auto object = ContainerCatalog::FindRoot("StateProcessingRoot").Create(false);
+    ASSERT_TRUE(object->LoadFromFile(nullptr, FRAMEWORK_EXAMPLES "/StateProcessingRoot.xml", false));
+    const std::vector<std::string> before = Samples::Lines(*object);
+    EXPECT_FALSE(object->LoadFromFile(nullptr, FRAMEWORK_EXAMPLES "/StateProcessingRoot.broken.xml", false));
+    EXPECT_NE(object->GetLastError().find("StateProcessingRoot.broken.xml:24:"), std::string::npos)
+        << object->GetLastError();
+    EXPECT_EQ(Samples::Lines(*object), before);
+    EXPECT_FALSE(object->LoadFromFile(nullptr, FRAMEWORK_EXAMPLES "/LoadConfig.xml", false));
+    EXPECT_NE(object->GetLastError().find("no element StateProcessingRoot"), std::string::npos)
+        << object->GetLastError();
+    EXPECT_EQ(Samples::Lines(*object), before);
+}
+
+} // namespace

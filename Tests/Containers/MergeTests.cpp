@@ -1,0 +1,219 @@
+// Merging with the default action, for every class: what the source names is taken over, the rest stays.
+
+#include "Containers/EveryClass.h"
+
+#include <filesystem>
+#include <fstream>
+
+#include "FrameworkDataContainers/FrameworkDataContainers.h"
+
+namespace {
+
+TEST(Merge, ReplacesValuesGrowsListsAndMergesByKey) {
+    ForEveryClass([](CatalogClass type) {
+        for (unsigned seed = 1; seed <= 4; ++seed) {
+            Samples::Random random(seed);
+            const std::string name(type.ElementName());
+            Samples::Sample expected = Samples::Make(type, name, random, 1);
+            const Samples::Sample over = Samples::Make(type, name, random, 2); // shares some keys, brings others
+            const IssueRecorder recorder;
+            const auto object = type.Create(false);
+            ASSERT_TRUE(LoadText(*object, Samples::ToXml(expected, random, true)));
+            ASSERT_TRUE(MergeText(*object, "Night", Samples::ToXml(over, random, false))) << object->GetLastError();
+            Samples::Merge(expected, over);
+            EXPECT_EQ(Samples::Lines(*object), Samples::Lines(expected));
+            EXPECT_TRUE(recorder.issues.empty()) << recorder.issues.at(0).ErrorText;
+        }
+    });
+}
+
+TEST(Merge, EmptySourceChangesNothingAndUnloadedObjectBecomesValid) {
+    ForEveryClass([](CatalogClass type) {
+        Samples::Random random(3);
+        const std::string name(type.ElementName());
+        const Samples::Sample sample = Samples::Make(type, name, random);
+        const auto object = type.Create(false);
+        ASSERT_TRUE(LoadText(*object, Samples::ToXml(sample, random, false)));
+        ASSERT_TRUE(MergeText(*object, "F", "<" + name + "><Unknown/></" + name + ">"));
+        EXPECT_EQ(Samples::Lines(*object), Samples::Lines(sample));
+        const auto fresh = type.Create(false);
+        ASSERT_TRUE(MergeText(*fresh, "F", "<" + name + "/>"));
+        EXPECT_TRUE(fresh->Valid());
+        EXPECT_EQ(fresh->GetContainedDataPtr(), nullptr);
+    });
+}
+
+TEST(Merge, SourceThatCannotBeReadChangesNothing) {
+    ForEveryClass([](CatalogClass type) {
+        Samples::Random random(4);
+        const auto object = type.Create(false);
+        object->SetFeatureID("Base");
+        ASSERT_TRUE(LoadText(
+            *object, Samples::ToXml(Samples::Make(type, std::string(type.ElementName()), random), random, false)));
+        const std::vector<std::string> before = Samples::Lines(*object);
+        IssueRecorder recorder;
+        XMLDataWrapper empty;
+        EXPECT_FALSE(object->MergeDataMembers(&empty, "F"));
+        EXPECT_EQ(object->GetLastError(), "MergeSource Not Loaded");
+        EXPECT_EQ(object->GetLastErrorNum(), -1);
+        EXPECT_FALSE(object->MergeFromDataPacket(nullptr, "F", &empty, true));
+        EXPECT_FALSE(object->MergeFromDataPacket(nullptr, "F", nullptr, false));
+        ASSERT_EQ(recorder.issues.size(), 3U);
+        EXPECT_EQ(recorder.issues[0].FeatureID, "Base");
+        EXPECT_EQ(recorder.issues[0].ContainerName, object->GetContainerName());
+        EXPECT_EQ(recorder.issues[0].ErrorText, "MergeSource Not Loaded");
+        XMLDataWrapper other;
+        ASSERT_TRUE(other.LoadXMLText("<Other/>", false));
+        EXPECT_FALSE(object->MergeFromDataPacket(nullptr, "F", &other, false));
+        EXPECT_FALSE(object->MergeFromFile(nullptr, "/nonexistent/override.xml"));
+        EXPECT_FALSE(object->MergeFromModel(nullptr, "none", "none"));
+        EXPECT_FALSE(object->MergeFromDOMNode(nullptr, "F", nullptr));
+        EXPECT_EQ(Samples::Lines(*object), before);
+        EXPECT_EQ(object->GetMergeAttributes(), "");
+    });
+}
+
+const char* const threads = "<LoadConfig><ThreadChildList UniqueName='A'><ChildThread UniqueName='T'>"
+                            "<LibraryPath>old</LibraryPath></ChildThread></ThreadChildList></LoadConfig>";
+
+TEST(Merge, FeatureOfAnEntryIsTheOneThatAddedIt) {
+    LoadConfigType object(false);
+    object.SetFeatureID("Base");
+    ASSERT_TRUE(LoadText(object, threads));
+    ASSERT_TRUE(MergeText(
+        object, "Night",
+        "<LoadConfig><ThreadChildList UniqueName='A'><ChildThread UniqueName='T'><LibraryPath>new</LibraryPath>"
+        "</ChildThread><ChildThread UniqueName='U'/></ThreadChildList><ThreadChildList UniqueName='B'/></LoadConfig>"));
+    ThreadChildListType& list = *object.GetThreadChildList("A");
+    EXPECT_EQ(list.GetFeatureID(), "Base");
+    EXPECT_EQ(list.GetChildThread("T")->GetFeatureID(), "Base");
+    EXPECT_EQ(list.GetChildThread("T")->GetLibraryPath(), "new");
+    EXPECT_EQ(list.GetChildThread("U")->GetFeatureID(), "Night");
+    EXPECT_EQ(object.GetThreadChildList("B")->GetFeatureID(), "Night");
+    EXPECT_EQ(object.GetThreadChildList("B")->GetContainerName(), "ThreadChildList");
+    EXPECT_EQ(list.GetChildThread("T")->GetMergeAttributes(), " and @FeatureID='Night' ");
+    EXPECT_EQ(object.GetMergeAttributes(), " and @FeatureID='Night' ");
+    const std::unique_ptr<ParameterList> attributes(list.GetPLAttributeList());
+    list.GetPLMergeAttributes(attributes.get());
+    EXPECT_EQ(attributes->ItemData(attributes->size() - 1)->ElementName, "FeatureID");
+}
+
+TEST(Merge, NumberedListTakesIndexOrPosition) {
+    StateActionBasicType object(false);
+    ASSERT_TRUE(LoadText(object, "<StateActionBasic><Doc>a</Doc><Doc>b</Doc></StateActionBasic>"));
+    ASSERT_TRUE(
+        MergeText(object, "F", "<StateActionBasic><Doc>A</Doc><Doc Index='7'>g</Doc><Doc>c</Doc></StateActionBasic>"));
+    EXPECT_EQ(object.GetDoc("1"), "A");
+    EXPECT_EQ(object.GetDoc("2"), "b");
+    EXPECT_EQ(object.GetDoc("7"), "g");
+    EXPECT_EQ(object.GetDoc("3"), "c");
+    EXPECT_EQ(object.GetDocLength(), 4);
+}
+
+TEST(Merge, WhatIsNotTakenOverIsReportedWithItsPlace) {
+    LoadConfigType object(false);
+    ASSERT_TRUE(LoadText(object, threads));
+    const std::vector<std::string> before = Samples::Lines(object);
+    const char* const sources[] = {
+        "<LoadConfig>\n  <ThreadChildList/>\n</LoadConfig>",
+        "<LoadConfig>\n  <ThreadChildList UniqueName='A' MergeAction='Remove'/></LoadConfig>",
+        "<LoadConfig>\n  <ThreadChildList UniqueName='Z' PlacementOrder='First'/></LoadConfig>",
+        "<LoadConfig>\n  <ThreadChildList UniqueName='A' MergeAction='merge'><ChildThread "
+        "UniqueName='X'/></ThreadChildList></LoadConfig>",
+    };
+    for (const char* const source : sources) {
+        IssueRecorder recorder;
+        EXPECT_TRUE(MergeText(object, "F", source));
+        ASSERT_EQ(recorder.issues.size(), 1U) << source;
+        EXPECT_EQ(recorder.issues[0].Line, 2U) << source;
+        EXPECT_EQ(recorder.issues[0].Column, 3U) << source;
+        EXPECT_EQ(Samples::Lines(object), before) << source;
+    }
+    IssueRecorder recorder;
+    EXPECT_FALSE(
+        MergeText(object, "F", "<LoadConfig MergeAction='Replace'><ThreadChildList UniqueName='B'/></LoadConfig>"));
+    EXPECT_EQ(recorder.issues.size(), 1U);
+    EXPECT_EQ(Samples::Lines(object), before);
+}
+
+TEST(Merge, NestedObjectMergesFromWhereToldAndKeepsItsFlag) {
+    StateProcessingRootType root(false);
+    ASSERT_TRUE(LoadText(root, "<StateProcessingRoot><StateTable Name='T' InitialState='a'/></StateProcessingRoot>"));
+    StateTableType& table = *root.GetStateTable();
+    XMLDataWrapper source;
+    ASSERT_TRUE(
+        source.LoadXMLText("<Out><Far><StateTable InitialState='far'/></Far><X InitialState='x'/></Out>", false));
+    ASSERT_NE(source.SelectNode("X", false), nullptr);
+    EXPECT_TRUE(table.MergeFromDataPacket(nullptr, "F", &source, false)); // by name, wherever the source stands
+    EXPECT_EQ(table.GetInitialState(), "far");
+    EXPECT_EQ(source.GetStoredQuery(), "//StateTable");
+    source.SetCurrentNode(nullptr);
+    ASSERT_NE(source.SelectNode("X", false), nullptr);
+    source.SetStoredQuery("//Out");
+    EXPECT_TRUE(table.MergeFromDataPacket(nullptr, "F", &source, true)); // from the node it stands on
+    EXPECT_EQ(table.GetInitialState(), "x");
+    EXPECT_EQ(source.GetStoredQuery(), "//Out");
+    EXPECT_EQ(table.GetName(), "T");
+}
+
+TEST(Merge, EverySourceMergesAlike) {
+    const std::string xml = "<Outer><LoadConfig><ThreadChildList UniqueName='N'/></LoadConfig></Outer>";
+    const std::filesystem::path file =
+        std::filesystem::temp_directory_path() / ("Night-" + std::to_string(getpid()) + ".xml");
+    std::ofstream(file) << xml;
+    ASSERT_TRUE(TypedDataContainer::RegisterTemplate("Nights", "LoadConfig", xml));
+    ASSERT_TRUE(TypedDataContainer::RegisterModel("NightModel", "LoadConfig", xml));
+    EXPECT_FALSE(TypedDataContainer::RegisterModel("NightModel", "LoadConfig", "<open>"));
+    XMLDataWrapper wrapper;
+    ASSERT_TRUE(wrapper.LoadXMLText(xml, false));
+    const auto merged = [](const char* feature, auto merge) {
+        LoadConfigType object(false);
+        EXPECT_TRUE(LoadText(object, threads));
+        EXPECT_TRUE(merge(object)) << feature << ": " << object.GetLastError();
+        ASSERT_EQ(object.GetThreadChildListLength(), 2) << feature;
+        EXPECT_EQ(object.GetThreadChildList("N")->GetFeatureID(), feature);
+    };
+    merged(file.stem().c_str(), [&](LoadConfigType& o) { return o.MergeFromFile(nullptr, file.c_str()); });
+    merged("Nights", [&](LoadConfigType& o) { return o.MergeFromTemplate(nullptr, "Nights", "LoadConfig"); });
+    merged("Nights",
+           [&](LoadConfigType& o) { return o.MergeFromTemplate(nullptr, "Nights", "LoadConfig", "LoadConfigType"); });
+    merged("NightModel", [&](LoadConfigType& o) { return o.MergeFromModel(nullptr, "NightModel", "LoadConfig"); });
+    merged("F", [&](LoadConfigType& o) {
+        return o.MergeFromDOMNode(nullptr, "F", wrapper.GetDOMNode("//LoadConfig", true));
+    });
+    std::filesystem::remove(file);
+}
+
+TEST(Merge, WhatWasAttachedToTheSourceLivesOnWithoutIt) {
+    StateProcessingRootType object(false);
+    ASSERT_TRUE(LoadText(object, "<StateProcessingRoot/>"));
+    auto source = std::make_unique<XMLDataWrapper>();
+    ASSERT_TRUE(source->LoadXMLText(
+        "<StateProcessingRoot><StateTable Name='N'><State Name='S'/></StateTable></StateProcessingRoot>", false));
+    ASSERT_TRUE(object.MergeFromDataPacket(nullptr, "F", source.get(), false));
+    StateTableType& table = *object.GetStateTable();
+    EXPECT_NE(table.GetContainedDataPtr(), source.get());
+    source->SetCurrentNode(nullptr);
+    ASSERT_TRUE(source->LoadXMLText("<Else/>", false)); // the caller goes on with its wrapper, then drops it
+    source.reset();
+    const std::unique_ptr<TypedDataContainer> clone(table.GetState(0)->Clone());
+    ASSERT_NE(clone, nullptr);
+    EXPECT_EQ(static_cast<StateDefinitionType&>(*clone).GetName(), "S");
+}
+
+TEST(Merge, ExampleOverrideOfTheStateTable) {
+    StateProcessingRootType root(false);
+    IssueRecorder recorder;
+    ASSERT_TRUE(root.InitializeConfig(FRAMEWORK_EXAMPLES "/StateProcessingRoot.xml", nullptr)) << root.GetLastError();
+    const int states = root.GetStateTable()->GetStateLength();
+    EXPECT_GE(states, 25);
+    ASSERT_TRUE(root.MergeFromFile(nullptr, FRAMEWORK_EXAMPLES "/StateProcessingRoot.coupons.xml"))
+        << root.GetLastError();
+    EXPECT_TRUE(recorder.issues.empty());
+    EXPECT_EQ(root.GetVersion(), "4.2.1-C3");
+    EXPECT_EQ(root.GetStateTable()->GetStateLength(), states + 2);
+    EXPECT_EQ(root.GetStateTable()->GetState("CouponEntry")->GetFeatureID(), "Coupons");
+    EXPECT_EQ(root.GetStateTable()->GetState("Coupon")->GetBaseState(), "CouponEntry");
+}
+
+} // namespace
