@@ -1,0 +1,284 @@
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <sys/wait.h>
+
+namespace {
+
+const std::string examples = FRAMEWORK_EXAMPLES;
+
+/// Runs the tool in a folder of its own, by shell, so that cases can redirect as people do.
+class Lanedoc : public testing::Test {
+protected:
+    struct Result {
+        int code;
+        std::string out;
+        std::string errors;
+    };
+
+    void SetUp() override {
+        std::string name = testing::TempDir() + "lanedoc-XXXXXX";
+        ASSERT_NE(::mkdtemp(name.data()), nullptr);
+        m_folder = name;
+        std::filesystem::current_path(m_folder);
+        std::filesystem::create_symlink(examples, "examples");
+        Put("base.xml", baseText);
+    }
+
+    void TearDown() override {
+        std::filesystem::current_path(m_folder.parent_path());
+        std::filesystem::remove_all(m_folder);
+    }
+
+    /// `arguments` in the shell's words; redirections of their own win.
+    static Result Run(const std::string& arguments) {
+        const std::string command = "{ '" FRAMEWORK_LANEDOC "' " + arguments + "; } >out.txt 2>errors.txt </dev/null";
+        const int status = std::system(command.c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Get("out.txt"), Get("errors.txt")};
+    }
+
+    static void Put(const std::string& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
+
+    static std::string Get(const std::string& path) {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    static std::string State(const std::string& below) {
+        return "<StateProcessingRoot><StateTable>\n  " + below + "\n</StateTable></StateProcessingRoot>\n";
+    }
+
+    static constexpr const char* baseText = R"(<?xml version="1.0" encoding="UTF-8"?>
+<StateProcessingRoot Version="1">
+  <RevisionHistory fileName="a.xml">first</RevisionHistory>
+  <StateTable Name="T" InitialState="Idle">
+    <State Name="Idle" CacheActions="yes"><Doc>one</Doc><Doc>two &amp; "2"</Doc></State>
+    <State Name="a/b]&quot;c" BaseState="odd"/>
+    <State Name=""/>
+  </StateTable>
+</StateProcessingRoot>
+)";
+
+private:
+    std::filesystem::path m_folder;
+};
+
+bool Holds(const std::string& text, const std::string& part) {
+    return text.find(part) != std::string::npos;
+}
+
+TEST_F(Lanedoc, AnswersEveryUseWithItsCodeAndWord) {
+    Put("broken.xml", "<StateProcessingRoot>\n  <StateTable>\n</StateProcessingRoot>\n");
+    Put("unknown.xml", "<!-- <x> -->\n <StateProcesingRoot/>\n");
+    Put("other.xml", "<?xml version='1.0'?>\n<!-- é --> <CommConfig/>\n");
+    Put("nokey.xml", State("<State Transient='true'/>"));
+    Put("word.xml", State("<State Name='Idle' MergeAction='Sideways'/>"));
+    Put("fine.xml", State("<State Name='Idle' BaseState='New'/>"));
+    Put("twice.xml", State("<State Name='A'/>\n  <State Name='A'/>"));
+    struct Case {
+        const char* arguments;
+        int code;
+        const char* said; ///< on standard error
+    };
+    const std::vector<Case> cases = {
+        {"--version", 0, ""},
+        {"--help", 0, ""},
+        {"merge --help", 0, ""},
+        {"show base.xml StateTable/State[1] --no-defaults", 0, ""},
+        {"get base.xml StateTable/State[Name=Idle]/Transient", 1, R"(its default is "false")"},
+        {"get base.xml 'StateTable/State[Name=Idel]/Transient'", 1, "did you mean Idle?"},
+        {"get base.xml 'StateTable/State[9]/Name'", 1, "the list has 3"},
+        {"get base.xml StateTable/State[1]/StateTriggers", 1, "no StateTriggers in StateTable/State[Name=Idle]"},
+        {"get base.xml StateTable/State[3]/Doc", 1, "empty list"},
+        {"show base.xml 'RevisionHistory[fileName=b.xml]'", 1, "did you mean a.xml?"},
+        {"", 2, "subcommand"},
+        {"mend base.xml", 2, "--help"},
+        {"get base.xml", 2, "PATH"},
+        {"show base.xml --format yaml", 2, "yaml"},
+        {"show base.xml --color sometimes", 2, "sometimes"},
+        {"get base.xml StateTabel/Name", 2, "did you mean StateTable?"},
+        {"get base.xml StateTable", 2, "StateTable/InitialState"},
+        {"get base.xml StateTable/State", 2, "as in State[Name=Idle]/..."},
+        {"get base.xml StateTable/State/Name", 2, "is a list"},
+        {"get base.xml 'StateTable/State[Nam=Idle]/Name'", 2, "State[Name=Idle]"},
+        {"get base.xml 'StateTable[1]/Name'", 2, "is no list"},
+        {"get base.xml Version/x", 2, "nothing below"},
+        {"get base.xml @StateTable", 2, "is no attribute"},
+        {"get base.xml 'StateTable/State[Name=\"a'", 2, "\n                        ^"},
+        {"merge - fine.xml -", 2, "standard input can be one document only"},
+        {"show missing.xml", 3, "missing.xml: error: "},
+        {"show broken.xml", 3, "broken.xml:3:3: error: "},
+        {"show - <broken.xml", 3, "<stdin>:3:3: error: "},
+        {"show unknown.xml", 3, "unknown.xml:2:2: error: "},
+        {"show unknown.xml", 3, "did you mean StateProcessingRoot?"},
+        {"merge base.xml fine.xml other.xml", 3, "other.xml:2:12: error: the root element is CommConfig, expected"},
+        {"merge base.xml fine.xml broken.xml", 3, "broken.xml:3:3: error: "},
+        {"merge base.xml nokey.xml", 4, "nokey.xml:2:3: error: "},
+        {"merge base.xml word.xml", 4, "word.xml:2:3: error: "},
+        {"merge base.xml - <word.xml", 4, "<stdin>:2:3: error: "},
+        {"merge twice.xml fine.xml", 0, "twice.xml:3:3: warning: "},
+        {"merge base.xml fine.xml >/dev/full", 5, "cannot write"},
+        {"show base.xml >/dev/full", 5, "cannot write"},
+        {"get base.xml Version >&-", 5, "cannot write"},
+        {"merge base.xml fine.xml -o missing/out.xml", 5, "missing/out.xml: error: "},
+        {"merge base.xml fine.xml -o /dev/full", 5, "/dev/full: error: "},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.arguments);
+        const Result result = Run(c.arguments);
+        EXPECT_EQ(result.code, c.code);
+        EXPECT_TRUE(Holds(result.errors, c.said)) << result.errors;
+        EXPECT_EQ(result.out.empty(), c.code != 0)
+            << "data on standard output exactly when it went well: " << result.out;
+        EXPECT_EQ(result.errors.empty(), *c.said == '\0') << result.errors;
+        EXPECT_FALSE(Holds(result.out + result.errors, "\x1b")) << "colours in a pipe";
+    }
+}
+
+TEST_F(Lanedoc, EndsWhenItsReaderGoesAway) {
+    // More than a pipe holds, so that the writer meets its closed end.
+    const int status =
+        std::system("bash -c \"'" FRAMEWORK_LANEDOC "' show examples/StateProcessingRoot.xml 2>errors.txt | "
+                    "sleep 0; exit \\${PIPESTATUS[0]}\"");
+    EXPECT_EQ(WEXITSTATUS(status), 5);
+    EXPECT_TRUE(Holds(Get("errors.txt"), "cannot write")) << Get("errors.txt");
+}
+
+TEST_F(Lanedoc, GetsValuesRaw) {
+    struct Case {
+        const char* arguments;
+        std::string out;
+    };
+    const std::vector<Case> cases = {
+        {"base.xml Version", "1\n"},
+        {"base.xml @Version", "1\n"},
+        {"base.xml 'StateTable/State[Name=Idle]/CacheActions'", "true\n"},
+        {"base.xml 'StateTable/State[Name=Idle]/Transient' --defaults", "false\n"},
+        {"base.xml 'StateTable/State[Name=Idle]/Doc'", "one\ntwo & \"2\"\n"},
+        {"base.xml 'StateTable/State[1]/Doc' -0", std::string("one\0two & \"2\"\0", 14)},
+        {"base.xml 'StateTable/State[1]/Doc[Index=2]'", "two & \"2\"\n"},
+        {"base.xml 'StateTable/State[1]/Doc[1]'", "one\n"},
+        {R"(base.xml 'StateTable/State[Name="a/b]""c"]/BaseState')", "odd\n"},
+        {"base.xml 'StateTable/State[Name=]/Name'", "\n"},
+        {"base.xml 'RevisionHistory[fileName=a.xml]'", "first\n"},
+        {"- 'StateTable/@InitialState' <base.xml", "Idle\n"},
+        {"examples/CommConfig.xml 'CommEntry[name=HostTcp]/Parameters/Port'", "7411\n"},
+        {"examples/CommConfig.xml 'CommEntry[1]/EventTransformerList/EventTransformer[2]/TransformerName'", "Trace\n"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.arguments);
+        const Result result = Run(std::string("get ") + c.arguments);
+        EXPECT_EQ(result.code, 0) << result.errors;
+        EXPECT_EQ(result.out, c.out);
+    }
+}
+
+TEST_F(Lanedoc, ShowsTheTreeWithPathsThatLeadBack) {
+    const std::string text = Run("show base.xml").out;
+    for (const char* const line :
+         {"StateProcessingRoot  StateProcessingRootType\n", "  Version                          \"1\"\n",
+          "    State[Name=Idle]  StateDefinitionType\n", "      Doc[Index=2]  \"two & \\\"2\\\"\"\n",
+          "      CacheActions  true\n", "      Transient     false  (default)\n",
+          "    State[Name=\"a/b]\"\"c\"]  StateDefinitionType\n"}) {
+        EXPECT_TRUE(Holds(text, line)) << line << "in\n" << text;
+    }
+    EXPECT_FALSE(Holds(Run("show base.xml --no-defaults").out, "(default)"));
+    EXPECT_TRUE(Holds(Run("--color=always show base.xml").out, "\x1b[1mStateProcessingRoot\x1b[0m"));
+    EXPECT_TRUE(Holds(Run("show base.xml --color always").out, "\x1b["));
+}
+
+TEST_F(Lanedoc, ShowsTheTreeAsJson) {
+    const auto whole = nlohmann::json::parse(Run("show base.xml --format json").out);
+    EXPECT_EQ(whole.at("format"), 1);
+    EXPECT_EQ(whole.at("class"), "StateProcessingRootType");
+    const auto& states = whole.at("value").at("StateTable").at("State");
+    ASSERT_EQ(states.size(), 3U);
+    EXPECT_EQ(states[0].at("CacheActions"), true);
+    EXPECT_EQ(states[0].at("Transient"), false);
+    EXPECT_EQ(states[0].at("Doc")[1], (nlohmann::json{{"key", "2"}, {"value", "two & \"2\""}}));
+    EXPECT_EQ(states[1].at("Name"), "a/b]\"c");
+
+    const auto part = nlohmann::json::parse(Run("show base.xml 'StateTable/State[1]' --format json --no-defaults").out);
+    EXPECT_EQ(part.at("path"), "StateTable/State[Name=Idle]");
+    EXPECT_FALSE(part.at("value").contains("Transient"));
+    const auto port =
+        nlohmann::json::parse(Run("show examples/CommConfig.xml 'CommEntry[1]/Parameters/Port' --format json").out);
+    EXPECT_EQ(port.at("value"), 7411);
+}
+
+TEST_F(Lanedoc, MergesIntoAFileAndToStandardOutput) {
+    const std::string arguments =
+        "merge examples/StateProcessingRoot.xml Coupons=examples/StateProcessingRoot.coupons.xml";
+    const Result toFile = Run(arguments + " -o merged.xml");
+    EXPECT_EQ(toFile.code, 0) << toFile.errors;
+    EXPECT_EQ(toFile.out + toFile.errors, "");
+    const Result toOutput = Run(arguments + " -o -");
+    EXPECT_EQ(toOutput.out, Get("merged.xml"));
+    EXPECT_EQ(Run("get merged.xml Version").out, "4.2.1-C3\n");
+    EXPECT_EQ(Run("get merged.xml 'StateTable/State[Name=CouponEntry]/BaseState'").out, "LaneBase\n");
+    EXPECT_EQ(Run("get merged.xml 'StateTable/InitialState'").out, "StartUp\n") << "what no override names stays";
+
+    // Merged a second time, the same override finds all it brings, but for lists without a key, which grow.
+    const Result again = Run("merge merged.xml examples/StateProcessingRoot.coupons.xml -o again.xml --summary");
+    EXPECT_TRUE(Holds(again.errors, "\n  2 added\n")) << again.errors;
+    EXPECT_TRUE(Holds(again.errors, "ActionData/Data[Name=Coupons]/VarInput/InputSource[2]")) << again.errors;
+}
+
+TEST_F(Lanedoc, WritesNothingWhenAnythingIsWrong) {
+    Put("nokey.xml", State("<State Transient='true'/>\n  <State Name='New'/>"));
+    Put("broken.xml", "<StateProcessingRoot>");
+    Put("out.xml", "as it was");
+    for (const char* const arguments :
+         {"merge base.xml nokey.xml -o out.xml", "merge base.xml broken.xml -o out.xml",
+          "merge broken.xml nokey.xml -o out.xml", "merge base.xml missing.xml -o out.xml"}) {
+        SCOPED_TRACE(arguments);
+        EXPECT_NE(Run(arguments).code, 0);
+        EXPECT_EQ(Get("out.xml"), "as it was");
+    }
+    EXPECT_EQ(Run("merge base.xml nokey.xml -o out.xml --keep-going").code, 4) << "written, and still refused in part";
+    EXPECT_EQ(Run("get out.xml 'StateTable/State[Name=New]/Name'").out, "New\n");
+    EXPECT_EQ(Run("merge base.xml broken.xml -o out.xml --keep-going").code, 3);
+
+    // The base may be the output: it was read before.
+    EXPECT_EQ(Run("merge out.xml nokey.xml -o out.xml --keep-going").code, 4);
+    EXPECT_EQ(Run("get out.xml Version").out, "1\n");
+}
+
+TEST_F(Lanedoc, TellsWhatEachFeatureDid) {
+    Put("one.xml",
+        "<StateProcessingRoot Version='2' FeatureID='Own'><StateTable ActionMap='M'>"
+        "<State Name='Idle'><Doc Index='1'>new</Doc><Doc Index='3'>third</Doc><PostStateTrigger><ActionRef>Go"
+        "</ActionRef></PostStateTrigger></State><State Name='Late' BaseState='Idle'/></StateTable>"
+        "</StateProcessingRoot>");
+    Put("two.xml", "<StateProcessingRoot><StateTable InitialState='Late'/></StateProcessingRoot>");
+    Put("a=b.xml", "<StateProcessingRoot/>");
+    const Result result = Run("merge base.xml one.xml two.xml a=b.xml X=two.xml --summary - <two.xml");
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(result.errors, R"(Feature Own
+  StateTable/State[Name=Idle]
+    ~ Doc[Index=1]  "one" -> "new"
+    + Doc[Index=3]  "third"
+    + PostStateTrigger  1 value
+  + StateTable/State[Name=Late]  2 values
+  ~ StateTable/ActionMap  (not set) -> "M"
+  ~ Version  "1" -> "2"
+  3 added, 3 changed
+Feature two
+  ~ StateTable/InitialState  "Idle" -> "Late"
+  1 changed
+Feature a=b
+  changes nothing
+Feature X
+  changes nothing
+Feature stdin
+  changes nothing
+)");
+}
+
+} // namespace

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <functional>
+
+#include <CLI/CLI.hpp>
+
+#include "Failure.h"
+#include "Output.h"
+
+namespace Lanedoc {
+
+/// What the command line asks for, once it is read.
+struct Request {
+    ColorMode color = ColorMode::Auto;
+    std::function<ExitCode()> run;
+};
+
+// Each adds its command to the tool; chosen, the command leaves its work in `request.run`.
+void AddMergeCommand(CLI::App& tool, Request& request);
+void AddShowCommand(CLI::App& tool, Request& request);
+void AddGetCommand(CLI::App& tool, Request& request);
+
+} // namespace Lanedoc

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "Framework/ContainerCatalog.h"
+#include "Framework/XMLDataWrapper.h"
+
+namespace Lanedoc {
+
+/// A document as the person named it: read and parsed, its class known.
+class Source {
+public:
+    /// From a file, or from standard input when the path is "-". Throws a Failure when it cannot be read or is not
+    /// well-formed.
+    explicit Source(const std::string& path);
+
+    /// The path, or "<stdin>"; what messages begin with.
+    const std::string& Name() const { return m_name; }
+    XMLDataWrapper& Document() { return m_document; }
+    /// Name of the root element.
+    const std::string& RootName() const { return m_rootName; }
+    /// `file:line:col` of the root element; the file alone when the text is not in an encoding that begins like ASCII.
+    std::string RootPlace();
+    /// The root's FeatureID attribute, else the file's stem; "stdin" for standard input.
+    std::string Feature();
+    /// The class of the root element; throws a Failure that names the nearest ones when there is none.
+    CatalogClass Class();
+    /// A new tree, loaded from the document; throws a Failure when that fails.
+    std::unique_ptr<TypedDataContainer> Load();
+
+private:
+    std::string m_path;
+    std::string m_name;
+    XMLDataWrapper m_document;
+    std::string m_rootName;
+};
+
+/// A library's `file:line:col: text` or `file: text` with the severity set behind the place; `name` takes the place of
+/// "<text>", which documents that came by standard input have as their file.
+std::string WithSeverity(const std::string& text, const std::string& severity, const std::string& name);
+
+} // namespace Lanedoc

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Output.h"
+#include "TreeDiff.h"
+
+namespace Lanedoc {
+
+/// What a feature did, for people: a title, the differences in groups by the entry they stand in, and the counts.
+std::string SummaryOf(const std::string& feature, const std::vector<Difference>& differences, const Style& style);
+
+} // namespace Lanedoc
