@@ -1,8 +1,5 @@
 #include "Framework/XMLDataWrapper.h"
 
-#include "Framework/XMLSupport/Attachment.h"
-#include "Framework/XMLSupport/WrapperState.h"
-
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -224,6 +221,7 @@ TEST(Wrapper, AskingForADomNodeMakesTheDomTheMaster) {
     wrapper->SetCurrentNode(before);
     EXPECT_EQ(Value(*wrapper, ""), "c2");
 
+    EXPECT_FALSE(wrapper->NodeExists("//new", true));
     DOMDocument& document = *b->getOwnerDocument();
     b->appendChild(document.createElement(u"new"))->setTextContent(u"\u00E9 <");
     static_cast<DOMElement*>(b)->setAttribute(u"k", u"v");
@@ -231,6 +229,7 @@ TEST(Wrapper, AskingForADomNodeMakesTheDomTheMaster) {
     wrapper->SetCurrentNode(b);
     EXPECT_EQ(Value(*wrapper, "new") + Value(*wrapper, "@k"), "\xC3\xA9 <v");
     EXPECT_FALSE(wrapper->NodeExists("a", false));
+    EXPECT_TRUE(wrapper->NodeExists("//new", true));
     EXPECT_EQ(Value(*wrapper, "//b[@k='v' ]/new", true), "\xC3\xA9 <");
     EXPECT_EQ(Value(*wrapper, "*[last()]"), "\xC3\xA9 <"); // by XPath
     EXPECT_FALSE(wrapper->LoadNodeList("a", "list", 0));
@@ -273,12 +272,12 @@ TEST(Wrapper, ForeignNodesLeaveNoneCurrent) {
 
 TEST(Wrapper, XPathErrorsAreErrorsAndNoExceptions) {
     for (const bool hasDom : {false, true}) {
-        const auto wrapper = Loaded();
-        if (hasDom) {
-            wrapper->GetDOMNode(true, false);
-        }
+        const auto wrapper = std::make_unique<XMLDataWrapper>();
         for (const char* query : {"a[", "count(a)", "$v", "a[@k='x' and @l=' and @m='y' ]", "\xFF|a"}) {
-            wrapper->LoadXMLText(kXml, false);
+            EXPECT_TRUE(wrapper->LoadXMLText(kXml, false));
+            if (hasDom) {
+                wrapper->GetDOMNode(true, false);
+            }
             EXPECT_FALSE(wrapper->NodeExists(query, true)) << query;
             EXPECT_EQ(wrapper->GetLastErrorNum(), -1) << query;
             EXPECT_EQ(wrapper->SelectNode(query, false), nullptr) << query;
@@ -361,101 +360,6 @@ TEST_F(WrapperFiles, AnOutputDocumentMayBeginWithoutARoot) {
         EXPECT_TRUE(wrapper.AppendElementValue(wrapper.GetOutputDocument(), "Root", "x", true));
         EXPECT_EQ(Value(wrapper, "", true), "x");
     }
-}
-
-TEST(Attachments, OutliveTheWrapperAndTheDocumentItIsGivenNext) {
-    const struct {
-        const char* how;
-        void (*leave)(std::unique_ptr<FullFunctionXMLDataWrapper>& wrapper);
-    } cases[] = {
-        {"death", [](auto& wrapper) { wrapper.reset(); }},
-        {"load", [](auto& wrapper) { EXPECT_TRUE(wrapper->LoadXMLText("<s/>", false)); }},
-        {"output", [](auto& wrapper) { EXPECT_TRUE(wrapper->CreateOutputDocument("s")); }},
-        {"failed load, death",
-         [](auto& wrapper) {
-             EXPECT_FALSE(wrapper->LoadXMLText("<s", false));
-             EXPECT_EQ(Value(*wrapper, "a", true), "12<3>456");
-             wrapper.reset();
-         }},
-    };
-    for (const auto& row : cases) {
-        for (const bool hasDom : {false, true}) {
-            auto wrapper = std::make_unique<FullFunctionXMLDataWrapper>();
-            ASSERT_TRUE(wrapper->LoadXMLText(kXml, false));
-            if (hasDom) {
-                wrapper->GetDOMNode(true, false);
-            }
-            const std::shared_ptr<Attachment> attachment = Attachment::Of(*wrapper);
-            EXPECT_EQ(Attachment::Of(*wrapper), attachment);
-            EXPECT_EQ(attachment->Wrapper(), wrapper.get());
-            row.leave(wrapper);
-            XMLDataWrapper& left = *attachment->Wrapper();
-            EXPECT_NE(&left, wrapper.get());
-            EXPECT_EQ(Value(left, "a", true), "12<3>456") << row.how;
-            EXPECT_EQ(Attachment::Of(left), attachment) << row.how;
-            // It belongs to the objects that stand on it: nobody loads another document under them.
-            EXPECT_FALSE(left.LoadXMLText("<t/>", false)) << row.how;
-            EXPECT_EQ(Value(left, "b/a", true), "inner") << row.how;
-            if (wrapper != nullptr) {
-                EXPECT_FALSE(wrapper->NodeExists("//a", true)) << row.how;
-                EXPECT_NE(Attachment::Of(*wrapper), attachment) << row.how;
-            }
-        }
-    }
-}
-
-TEST(Attachments, AnOwnedWrapperGoesWithTheLastOfThem) {
-    std::shared_ptr<Attachment> attachment = Attachment::Owning(Loaded());
-    EXPECT_TRUE(attachment->IsPrivate());
-    EXPECT_EQ(Attachment::Of(*attachment->Wrapper()), attachment);
-    EXPECT_FALSE(attachment->Wrapper()->LoadXMLText("<t/>", false));
-    EXPECT_EQ(Value(*attachment->Wrapper(), "b/a"), "inner");
-    const std::weak_ptr<const Document> document = WrapperAccess::State(*attachment->Wrapper()).document;
-    attachment.reset();
-    EXPECT_TRUE(document.expired());
-}
-
-TEST(Attachments, AScopeMovesWhatCameInBetween) {
-    auto wrapper = Loaded();
-    const std::shared_ptr<Attachment> before = Attachment::Of(*wrapper);
-    std::shared_ptr<Attachment> during;
-    {
-        const AttachmentScope scope(*wrapper);
-        during = Attachment::Of(*wrapper);
-        EXPECT_NE(during, before);
-        EXPECT_EQ(during->Wrapper(), wrapper.get());
-        wrapper->SelectNode("b", false);
-    }
-    EXPECT_EQ(Attachment::Of(*wrapper), before);
-    EXPECT_EQ(before->Wrapper(), wrapper.get());
-    XMLDataWrapper& moved = *during->Wrapper();
-    ASSERT_NE(&moved, wrapper.get());
-    EXPECT_FALSE(moved.HasCurrentNode()); // and the caller's still stands where it stood
-    EXPECT_EQ(Value(*wrapper, "a"), "inner");
-    // One document under both, until one of them turns it into a DOM, whose edits are its own.
-    EXPECT_EQ(WrapperAccess::State(moved).document, WrapperAccess::State(*wrapper).document);
-    moved.SetCurrentNode(wrapper->GetXalanNode("", false));
-    EXPECT_EQ(Value(moved, "a"), "inner");
-    wrapper->GetDOMNode("a", false)->setTextContent(u"edited");
-    EXPECT_EQ(Value(*wrapper, "a") + Value(moved, "a"), "editedinner");
-    EXPECT_EQ(moved.GetXMLText(), kXml);
-    wrapper.reset();
-    EXPECT_EQ(Value(*before->Wrapper(), "a"), "edited"); // on the node where the wrapper died
-    EXPECT_EQ(Value(moved, "a"), "inner");
-}
-
-TEST(Attachments, AScopeEndsWellWhenNothingOrALoadCameInBetween) {
-    const auto wrapper = Loaded();
-    { const AttachmentScope scope(*wrapper); }
-    EXPECT_TRUE(WrapperAccess::State(*wrapper).attachment.expired());
-    std::shared_ptr<Attachment> during;
-    {
-        const AttachmentScope scope(*wrapper);
-        during = Attachment::Of(*wrapper);
-        EXPECT_TRUE(wrapper->LoadXMLText("<s/>", false));
-    }
-    EXPECT_EQ(Value(*during->Wrapper(), "b/a"), "inner");
-    EXPECT_TRUE(wrapper->NodeExists("//s", true));
 }
 
 } // namespace
