@@ -35,6 +35,7 @@ install(
     COMPONENT Development
     FILES_MATCHING
     PATTERN "*.h"
+    PATTERN "FieldTableIndex.h" EXCLUDE # of the library alone
 )
 
 if(TARGET lanedoc)

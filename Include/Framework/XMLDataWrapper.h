@@ -40,7 +40,9 @@ struct WrapperAccess;
 ///
 /// **Queries** start at the document: `//Name` is the first element of that name, `//Name/Child[@k='v']` a path below
 /// it. A predicate compares attributes with texts in quotes, joined by "and", or counts from 1; `[@k=v]` without quotes
-/// takes all up to the last bracket as the text. Any other query is given to an XPath engine.
+/// takes all up to the last bracket as the text. Values are not escaped: of several ways to read a query the
+/// one with the most quoted values counts, and a tie finds nothing, with an error. Any other query is given to an XPath
+/// engine.
 ///
 /// **DOM.** Whoever calls GetDOMNode on a loaded, not read-only document turns it over to a DOM: from then on reads see
 /// the DOM, and the text of the document is written from it; content is kept exactly, formatting is not. On a read-only

@@ -53,8 +53,8 @@ void WriteClass(CodeText& code, const Vocabulary& vocabulary) {
     code.Line("zelString StringOf() const override;");
     code.Line();
     code.Line("int Value() const noexcept { return m_Value; }");
-    code.Line("operator int() const noexcept { return m_Value; }");
-    code.Line("operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }");
+    code.Line("operator const int() const noexcept { return m_Value; }");
+    code.Line("operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }");
     code.Line();
     code.Line("/// Appends every word, in order.");
     code.Line("static void GetContainedValueList(std::vector<zelString>& pList);");
@@ -128,9 +128,15 @@ std::string WriteEnumHeader(const Model& model) {
     code.Line("// The enumeration classes. A default constructed object is VALUE_UNKNOWN; numbers are taken unchecked, "
               "and one outside");
     code.Line("// of the vocabulary has the empty text.");
+    code.Line();
+    // Callers name these conversions, and a function of another type would be another name.
+    code.Line("#pragma GCC diagnostic push");
+    code.Line("#pragma GCC diagnostic ignored \"-Wignored-qualifiers\" // conversions to const types");
     for (const Vocabulary& vocabulary : model.vocabularies) {
         WriteClass(code, vocabulary);
     }
+    code.Line();
+    code.Line("#pragma GCC diagnostic pop");
     return code.Text();
 }
 

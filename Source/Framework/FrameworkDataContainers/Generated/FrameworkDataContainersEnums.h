@@ -8,6 +8,9 @@
 // The enumeration classes. A default constructed object is VALUE_UNKNOWN; numbers are taken unchecked, and one outside
 // of the vocabulary has the empty text.
 
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wignored-qualifiers" // conversions to const types
+
 /// How far an action has come.
 class FRAMEWORK_API ActionStatusDefinition : public TypedDataEnumeration {
 public:
@@ -47,8 +50,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -94,8 +97,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -157,8 +160,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -211,8 +214,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -257,8 +260,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -303,8 +306,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -350,8 +353,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -399,8 +402,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -449,8 +452,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -502,8 +505,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -552,8 +555,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -606,8 +609,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -664,8 +667,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -714,8 +717,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -762,8 +765,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -809,8 +812,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -859,8 +862,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -906,8 +909,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -954,8 +957,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -1001,8 +1004,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -1048,8 +1051,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -1095,8 +1098,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -1143,8 +1146,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -1189,8 +1192,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -1243,8 +1246,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -1293,8 +1296,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -1340,8 +1343,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -1398,8 +1401,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -1447,8 +1450,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -1497,8 +1500,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -1547,8 +1550,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -1558,3 +1561,5 @@ protected:
 
     int m_Value = VALUE_UNKNOWN;
 };
+
+#pragma GCC diagnostic pop

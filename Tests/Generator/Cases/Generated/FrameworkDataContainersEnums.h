@@ -8,6 +8,9 @@
 // The enumeration classes. A default constructed object is VALUE_UNKNOWN; numbers are taken unchecked, and one outside
 // of the vocabulary has the empty text.
 
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wignored-qualifiers" // conversions to const types
+
 /// Begins at 0 and has a gap.
 class FRAMEWORK_API ShadeType : public TypedDataEnumeration {
 public:
@@ -43,8 +46,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -88,8 +91,8 @@ public:
     zelString StringOf() const override;
 
     int Value() const noexcept { return m_Value; }
-    operator int() const noexcept { return m_Value; }
-    operator ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
 
     /// Appends every word, in order.
     static void GetContainedValueList(std::vector<zelString>& pList);
@@ -99,3 +102,5 @@ protected:
 
     int m_Value = VALUE_UNKNOWN;
 };
+
+#pragma GCC diagnostic pop
