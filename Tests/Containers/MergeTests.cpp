@@ -153,6 +153,9 @@ TEST(Merge, NestedObjectMergesFromWhereToldAndKeepsItsFlag) {
     EXPECT_TRUE(table.MergeFromDataPacket(nullptr, "F", &source, true)); // from the node it stands on
     EXPECT_EQ(table.GetInitialState(), "x");
     EXPECT_EQ(source.GetStoredQuery(), "//Out");
+    source.SetStoredQuery("");
+    EXPECT_TRUE(table.MergeFromDataPacket(nullptr, "F", &source, true));
+    EXPECT_EQ(source.GetStoredQuery(), "/StateTable"); // there was nothing to put back
     EXPECT_EQ(table.GetName(), "T");
 }
 

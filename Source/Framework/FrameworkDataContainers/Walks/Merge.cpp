@@ -35,7 +35,7 @@ public:
         for (const FieldRow& row : m_table.rows) {
             TakeField(row);
         }
-        if (isNested) {
+        if (isNested && !storedQuery.Empty()) {
             m_source.query = storedQuery;
         }
     }
