@@ -22,12 +22,15 @@ fi
 
 title() { printf '\n%s== %s%s\n' "$bold" "$*" "$plain"; }
 
-# Prints a command as a person would type it, runs it with its two outputs in one order, and checks its exit code.
+# An argument as a person would type it.
+quoted() { [[ $1 =~ ^[=A-Za-z0-9_./-]+$ ]] && printf '%s' "$1" || printf "'%s'" "$1"; }
+
+# Prints a command, runs it with its two outputs in one order, and checks its exit code.
 run() {
-    local expected=$1 code=0
+    local expected=$1 code=0 argument
     shift
     printf '%s$ lanedoc' "$dim"
-    printf ' %q' "$@" | sed 's/\\\([]=[]\)/\1/g'
+    for argument in "$@"; do printf ' %s' "$(quoted "$argument")"; done
     printf '%s\n' "$plain"
     "$lanedoc" "$@" 2>&1 || code=$?
     if [[ $code -ne $expected ]]; then

@@ -81,6 +81,11 @@ TEST_F(Lanedoc, AnswersEveryUseWithItsCodeAndWord) {
     Put("word.xml", State("<State Name='Idle' MergeAction='Sideways'/>"));
     Put("fine.xml", State("<State Name='Idle' BaseState='New'/>"));
     Put("twice.xml", State("<State Name='A'/>\n  <State Name='A'/>"));
+    std::string wide = "\xFF\xFE"; // UTF-16
+    for (const char character : std::string("<!-- <a> --><?b <c> ?>\r<CommConfig/>")) {
+        wide.append(1, character).append(1, '\0');
+    }
+    Put("wide.xml", wide);
     struct Case {
         const char* arguments;
         int code;
@@ -104,7 +109,7 @@ TEST_F(Lanedoc, AnswersEveryUseWithItsCodeAndWord) {
         {"show base.xml --color sometimes", 2, "sometimes"},
         {"get base.xml StateTabel/Name", 2, "did you mean StateTable?"},
         {"get base.xml StateTable", 2, "StateTable/InitialState"},
-        {"get base.xml StateTable/State", 2, "as in State[Name=Idle]/..."},
+        {"get base.xml StateTable/State", 2, "as in StateTable/State[Name=Idle]/..."},
         {"get base.xml StateTable/State/Name", 2, "is a list"},
         {"get base.xml 'StateTable/State[Nam=Idle]/Name'", 2, "State[Name=Idle]"},
         {"get base.xml 'StateTable[1]/Name'", 2, "is no list"},
@@ -118,6 +123,7 @@ TEST_F(Lanedoc, AnswersEveryUseWithItsCodeAndWord) {
         {"show unknown.xml", 3, "unknown.xml:2:2: error: "},
         {"show unknown.xml", 3, "did you mean StateProcessingRoot?"},
         {"merge base.xml fine.xml other.xml", 3, "other.xml:2:12: error: the root element is CommConfig, expected"},
+        {"merge base.xml wide.xml", 3, "wide.xml:2:1: error: the root element is CommConfig, expected"},
         {"merge base.xml fine.xml broken.xml", 3, "broken.xml:3:3: error: "},
         {"merge base.xml nokey.xml", 4, "nokey.xml:2:3: error: "},
         {"merge base.xml word.xml", 4, "word.xml:2:3: error: "},
@@ -261,12 +267,13 @@ TEST_F(Lanedoc, TellsWhatEachFeatureDid) {
     const Result result = Run("merge base.xml one.xml two.xml a=b.xml X=two.xml --summary - <two.xml");
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.errors, R"(Feature Own
-  StateTable/State[Name=Idle]
-    ~ Doc[Index=1]  "one" -> "new"
-    + Doc[Index=3]  "third"
-    + PostStateTrigger  1 value
-  + StateTable/State[Name=Late]  2 values
-  ~ StateTable/ActionMap  (not set) -> "M"
+  StateTable
+    State[Name=Idle]
+      ~ Doc[Index=1]  "one" -> "new"
+      + Doc[Index=3]  "third"
+      + PostStateTrigger  1 value
+    + State[Name=Late]  2 values
+    ~ ActionMap  (not set) -> "M"
   ~ Version  "1" -> "2"
   3 added, 3 changed
 Feature two

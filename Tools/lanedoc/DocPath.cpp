@@ -52,7 +52,7 @@ private:
         if (end == m_at) {
             Fail(std::string("expected ") + what);
         }
-        const std::string name(m_text.substr(m_at, end - m_at));
+        std::string name(m_text.substr(m_at, end - m_at));
         m_at = end;
         return name;
     }
@@ -112,7 +112,7 @@ private:
 
     std::string ReadPlain() {
         const std::size_t end = std::min(m_text.find_first_of("]/\"", m_at), m_text.size());
-        const std::string key(m_text.substr(m_at, end - m_at));
+        std::string key(m_text.substr(m_at, end - m_at));
         m_at = end;
         if (Next() == '/' || Next() == '"') {
             Fail("a key with '/', ']' or '\"' stands in double quotes, doubled inside");

@@ -55,9 +55,10 @@ std::vector<zelString> ValuesOf(const TreeNode& node, const GetOptions& options)
                       "lanedoc: " + Printable(node.path) + " is an empty list in " + Printable(options.file));
     }
     if (HoldsContainers(field)) {
+        const std::string parent = node.path.substr(0, node.path.size() - field.Name().size());
         throw Failure(ExitCode::WrongUse, "lanedoc: error: " + Printable(node.path) + " is a list of " +
                                               std::string(field.ClassName()) + "; name a field of an entry, as in " +
-                                              Printable(EntryStep(field, object, 0)) + "/...");
+                                              Printable(parent + EntryStep(field, object, 0)) + "/...");
     }
     std::vector<zelString> texts;
     for (std::size_t i = 0; i < length; ++i) {

@@ -147,11 +147,7 @@ void AddMergeCommand(CLI::App& tool, Request& request) {
     CLI::App* const command = tool.add_subcommand("merge", "Merge override documents into a base, feature by feature");
     const auto options = std::make_shared<MergeOptions>();
     command->add_option("BASE", options->base, "The document to merge into, \"-\" for standard input")->required();
-    command
-        ->add_option(
-            "OVERRIDE", options->overrides,
-            "Overrides in the order in which they are merged, each as FILE or FEATURE=FILE. Without FEATURE it is "
-            "the FeatureID of the root element, else the name of the file")
+    command->add_option("OVERRIDE", options->overrides, "What is merged into it, in this order; see below")
         ->required()
         ->type_name("[FEATURE=]FILE");
     command
@@ -165,6 +161,7 @@ void AddMergeCommand(CLI::App& tool, Request& request) {
   lanedoc merge StateProcessingRoot.xml coupons.xml > merged.xml
   lanedoc merge StateProcessingRoot.xml Coupons=coupons.xml Store12=store.xml -o merged.xml --summary
 
+FEATURE is what the override is merged as: without it the FeatureID of its root element, else the name of the file.
 All documents are read before anything is written. Problems are reported as file:line:column: error: text.
 
 Exit codes: 0 written, 2 wrong use, 3 bad input, 4 refused (nothing is written without --keep-going), 5 output failed)");

@@ -7,8 +7,6 @@
 #include <system_error>
 
 #include <unistd.h>
-#include <xalanc/XalanDOM/XalanDOMString.hpp>
-#include <xalanc/XalanDOM/XalanNode.hpp>
 
 #include "Failure.h"
 #include "Framework/LoadLimits.h"
@@ -44,27 +42,6 @@ zelString ReadStandardInput(const std::string& name) {
     }
 }
 
-std::string RootNameOf(XMLDataWrapper& document) {
-    const XalanNode* const root = document.GetXalanNode("", false);
-    if (root == nullptr) {
-        return {};
-    }
-    const auto& name = root->getNodeName();
-    const std::basic_string<XalanDOMChar> text(name.begin(), name.begin() + name.length());
-    return XMLDataWrapper::zelStringFromXalanDOMChar(text.c_str());
-}
-
-/// Offset of the first start tag of a well-formed text without a DOCTYPE, or npos.
-std::size_t FindRoot(std::string_view text) {
-    std::size_t at = text.find('<');
-    while (at != std::string_view::npos && at + 1 < text.size() && (text[at + 1] == '!' || text[at + 1] == '?')) {
-        const std::string_view close = text[at + 1] == '!' ? "-->" : "?>";
-        const std::size_t end = text.find(close, at + 2);
-        at = end == std::string_view::npos ? end : text.find('<', end);
-    }
-    return at;
-}
-
 } // namespace
 
 std::string WithSeverity(const std::string& text, const std::string& severity, const std::string& name) {
@@ -94,25 +71,11 @@ Source::Source(const std::string& path) : m_path(path), m_name(path == "-" ? "<s
     if (!loaded) {
         throw Failure(ExitCode::BadInput, WithSeverity(m_document.GetLastError(), "error", m_name));
     }
-    m_rootName = RootNameOf(m_document);
+    m_root = FindRootElement(std::string(m_document.GetXMLText()));
 }
 
-std::string Source::RootPlace() {
-    const zelString text = m_document.GetXMLText();
-    const std::size_t at = FindRoot(text);
-    if (at == std::string::npos || text.find('\0') != std::string::npos) {
-        return Printable(m_name);
-    }
-    std::size_t lines = 1;
-    std::size_t lineStart = text.starts_with("\xEF\xBB\xBF") ? 3 : 0;
-    for (std::size_t i = 0; i < at; ++i) {
-        if (text[i] == '\n' || (text[i] == '\r' && text[i + 1] != '\n')) {
-            ++lines;
-            lineStart = i + 1;
-        }
-    }
-    const std::size_t column = Width(text.substr(lineStart, at - lineStart)) + 1;
-    return Printable(m_name) + ":" + std::to_string(lines) + ":" + std::to_string(column);
+std::string Source::RootPlace() const {
+    return Printable(m_name) + ":" + std::to_string(m_root.line) + ":" + std::to_string(m_root.column);
 }
 
 std::string Source::Feature() {
@@ -123,15 +86,15 @@ std::string Source::Feature() {
 }
 
 CatalogClass Source::Class() {
-    const CatalogClass known = ContainerCatalog::FindRoot(m_rootName);
+    const CatalogClass known = ContainerCatalog::FindRoot(m_root.name);
     if (!known) {
         std::vector<std::string> roots;
         for (const std::string_view root : ContainerCatalog::Roots()) {
             roots.emplace_back(root);
         }
-        const std::vector<std::string> nearest = NearestNames(m_rootName, roots);
+        const std::vector<std::string> nearest = NearestNames(m_root.name, roots);
         throw Failure(ExitCode::BadInput,
-                      RootPlace() + ": error: no document has the root element " + Printable(m_rootName) + "; " +
+                      RootPlace() + ": error: no document has the root element " + Printable(m_root.name) + "; " +
                           (nearest.empty() ? "expected one of " + JoinNames(roots, 100) : DidYouMean(nearest)));
     }
     return known;

@@ -5,6 +5,7 @@
 
 #include "Framework/ContainerCatalog.h"
 #include "Framework/XMLDataWrapper.h"
+#include "RootElement.h"
 
 namespace Lanedoc {
 
@@ -19,9 +20,9 @@ public:
     const std::string& Name() const { return m_name; }
     XMLDataWrapper& Document() { return m_document; }
     /// Name of the root element.
-    const std::string& RootName() const { return m_rootName; }
-    /// `file:line:col` of the root element; the file alone when the text is not in an encoding that begins like ASCII.
-    std::string RootPlace();
+    const std::string& RootName() const { return m_root.name; }
+    /// `file:line:col` of the root element.
+    std::string RootPlace() const;
     /// The root's FeatureID attribute, else the file's stem; "stdin" for standard input.
     std::string Feature();
     /// The class of the root element; throws a Failure that names the nearest ones when there is none.
@@ -33,7 +34,7 @@ private:
     std::string m_path;
     std::string m_name;
     XMLDataWrapper m_document;
-    std::string m_rootName;
+    RootElement m_root;
 };
 
 /// A library's `file:line:col: text` or `file: text` with the severity set behind the place; `name` takes the place of

@@ -20,16 +20,16 @@ std::string JoinSteps(const std::vector<std::string>& path, std::size_t from, st
     return Printable(joined);
 }
 
-/// Steps up to the outermost entry of a list, by which differences are grouped; 0 when none is on the way.
-std::size_t GroupLength(const Difference& difference) {
-    const auto isEntry = [](const std::string& step) { return step.find('[') != std::string::npos; };
-    const auto entry = std::find_if(difference.path.begin(), difference.path.end(), isEntry);
-    return entry == difference.path.end() ? 0 : static_cast<std::size_t>(entry - difference.path.begin()) + 1;
-}
-
-/// Whether the difference stands below the entry that the group is named after.
-bool IsInGroup(const Difference& difference, const std::vector<std::string>& group) {
-    return difference.path.size() > group.size() && std::equal(group.begin(), group.end(), difference.path.begin());
+/// How many steps all differences from `begin` to `end` share, one of each left over.
+std::size_t SharedSteps(const Difference* begin, const Difference* end) {
+    std::size_t shared = begin->path.size() - 1;
+    for (const Difference* other = begin + 1; other != end; ++other) {
+        const std::size_t most = std::min(shared, other->path.size() - 1);
+        const auto differing = std::mismatch(
+            begin->path.begin(), begin->path.begin() + static_cast<std::ptrdiff_t>(most), other->path.begin());
+        shared = static_cast<std::size_t>(differing.first - begin->path.begin());
+    }
+    return shared;
 }
 
 std::string Plural(std::size_t count, const std::string& noun) {
@@ -42,27 +42,37 @@ public:
 
     std::string Print(const std::string& feature, const std::vector<Difference>& differences) {
         m_text = m_style.Bold("Feature " + Printable(feature)) + "\n";
-        std::vector<std::string> group;
-        for (const Difference& difference : differences) {
-            if (group.empty() || !IsInGroup(difference, group)) {
-                const auto length = static_cast<std::ptrdiff_t>(GroupLength(difference));
-                group.assign(difference.path.begin(), difference.path.begin() + length);
-                if (IsInGroup(difference, group) && !group.empty()) {
-                    m_text += "  " + m_style.Bold(JoinSteps(group, 0, group.size())) + "\n";
-                } else {
-                    group.clear();
-                }
-            }
-            PrintDifference(difference, group.size());
-        }
+        PrintGroup(differences.data(), differences.data() + differences.size(), 0, 1);
         PrintCounts(differences);
         return std::move(m_text);
     }
 
 private:
-    void PrintDifference(const Difference& difference, std::size_t skipped) {
+    /// Differences that share their first `skipped` steps. Two or more in a row that share the next one too become a
+    /// group of their own, titled with all that they share.
+    void PrintGroup(const Difference* begin, const Difference* end, std::size_t skipped, std::size_t depth) {
+        while (begin != end) {
+            const Difference* next = begin + 1;
+            if (begin->path.size() > skipped + 1) {
+                next = std::find_if(next, end, [&](const Difference& other) {
+                    return other.path.size() <= skipped + 1 || other.path[skipped] != begin->path[skipped];
+                });
+            }
+            if (next - begin < 2) {
+                PrintDifference(*begin, skipped, depth);
+            } else {
+                const std::size_t shared = SharedSteps(begin, next);
+                m_text.append(2 * depth, ' ');
+                m_text += m_style.Bold(JoinSteps(begin->path, skipped, shared)) + "\n";
+                PrintGroup(begin, next, shared, depth + 1);
+            }
+            begin = next;
+        }
+    }
+
+    void PrintDifference(const Difference& difference, std::size_t skipped, std::size_t depth) {
         const std::string path = JoinSteps(difference.path, skipped, difference.path.size());
-        const std::string indent(skipped == 0 ? 2 : 4, ' ');
+        const std::string indent(2 * depth, ' ');
         switch (difference.kind) {
         case Difference::Kind::Added:
             m_text += indent + m_style.Green("+ " + path) + "  " + Content(difference, difference.after);

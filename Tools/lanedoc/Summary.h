@@ -8,7 +8,7 @@
 
 namespace Lanedoc {
 
-/// What a feature did, for people: a title, the differences in groups by the entry they stand in, and the counts.
+/// What a feature did, for people: a title, the differences in groups by the steps they share, and the counts.
 std::string SummaryOf(const std::string& feature, const std::vector<Difference>& differences, const Style& style);
 
 } // namespace Lanedoc

@@ -88,14 +88,16 @@ private:
 
     void PrintBlock(TypedDataContainer& object, const std::vector<CatalogField>& fields, std::size_t depth) {
         const std::size_t width = NameWidth(object, fields);
+        // The object's own values first: behind long lists nobody would see whose they are.
         for (const CatalogField& field : fields) {
-            if (field.IsScalar()) {
-                if (IsShown(field, object)) {
-                    PrintLine(std::string(field.Name()), Scalar(field, object), width, depth);
-                }
-            } else if (field.IsList()) {
+            if (field.IsScalar() && IsShown(field, object)) {
+                PrintLine(std::string(field.Name()), Scalar(field, object), width, depth);
+            }
+        }
+        for (const CatalogField& field : fields) {
+            if (field.IsList()) {
                 PrintList(field, object, width, depth);
-            } else if (TypedDataContainer* const child = field.GetChild(object)) {
+            } else if (TypedDataContainer* const child = field.IsScalar() ? nullptr : field.GetChild(object)) {
                 PrintContainer(std::string(field.Name()), *child, depth);
             }
         }
