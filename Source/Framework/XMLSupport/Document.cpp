@@ -35,7 +35,7 @@ std::string_view Document::Value(NodeRef node, std::string& /*room*/) const {
     case ValueHolder::Written:
         break;
     }
-    return m_data.changes.values[leaf.valueBegin];
+    return m_data.changes.values[leaf.valueBegin].text;
 }
 
 XALAN_CPP_NAMESPACE::XalanNode* Document::View(NodeRef node) const {

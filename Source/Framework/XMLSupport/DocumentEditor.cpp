@@ -3,6 +3,7 @@
 #include "Framework/XMLSupport/NodeViews.h"
 #include "Framework/XMLSupport/XmlWriter.h"
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -24,7 +25,7 @@ template <typename Items> void MakeRoom(Items& items, std::size_t count) {
 std::string_view Text(const DocumentData& data, const NodeRecord& record) {
     const NodeRecord::Leaf& leaf = record.leaf;
     if (leaf.holder == ValueHolder::Written) {
-        return data.changes.values[leaf.valueBegin];
+        return data.changes.values[leaf.valueBegin].text;
     }
     const std::string& holder = leaf.holder == ValueHolder::Pool ? data.pool : data.source.text;
     return std::string_view(holder).substr(leaf.valueBegin, leaf.valueLength);
@@ -80,18 +81,33 @@ DocumentEditor::Region DocumentEditor::TextRegion(Number element, TextForm form)
     return region;
 }
 
+void DocumentEditor::Touch(Number element) {
+    std::vector<Number>& touched = m_changes.touched;
+    if (touched.size() == touched.capacity()) {
+        std::sort(touched.begin(), touched.end());
+        touched.erase(std::unique(touched.begin(), touched.end()), touched.end());
+        touched.reserve(std::max<std::size_t>(64, touched.size() * 2));
+    }
+    touched.push_back(element);
+}
+
 void DocumentEditor::RememberTexts(Number element) {
-    if (element >= m_changes.parsedNodes || m_changes.texts.contains(element)) {
+    if (element >= m_changes.parsedNodes) {
         return;
     }
-    DocumentChanges::ElementText before;
+    Touch(element);
+    if (m_changes.texts.contains(element)) {
+        return;
+    }
+    DocumentChanges::ElementText texts;
     for (Number child = Record(element).inner.firstChild; child != 0; child = Record(child).next) {
         if (Record(child).IsText() && child < m_changes.parsedNodes) {
-            before.parsed.push_back({child, Record(child)});
+            texts.parsed.push_back(child);
         }
     }
-    m_changes.touched.insert(element);
-    m_changes.texts.emplace(element, std::move(before));
+    if (texts.parsed.size() != 1) {
+        m_changes.texts.emplace(element, std::move(texts));
+    }
 }
 
 void DocumentEditor::SetText(NodeRef node, std::string_view text, TextForm form) {
@@ -108,13 +124,15 @@ void DocumentEditor::SetText(NodeRef node, std::string_view text, TextForm form)
         }
         return;
     }
-    Write(Record(region.first), text);
+    for (const Number other : region.others) {
+        Keep(other);
+    }
+    Write(region.first, text);
     Record(region.first).kind = kind;
     TakeOverBlanks(element, region.first);
     for (const Number other : region.others) {
         Unlink(other);
         if (other < m_changes.parsedNodes) {
-            ReleaseValue(Record(other));
             Record(other).kind = NodeKind::None;
         } else {
             ReleaseNode(other);
@@ -124,42 +142,70 @@ void DocumentEditor::SetText(NodeRef node, std::string_view text, TextForm form)
 
 /// Blanks that came with added elements count as text of the element they stand in as soon as that gets one.
 void DocumentEditor::TakeOverBlanks(Number element, Number first) noexcept {
+    const auto change = m_changes.texts.find(element);
+    if (m_changes.elements.empty() && change == m_changes.texts.end()) {
+        return;
+    }
     for (Number child = Record(element).inner.firstChild; child != 0; child = Record(child).next) {
         if (const auto added = m_changes.elements.find(child); added != m_changes.elements.end()) {
             added->second = {};
         }
     }
-    const auto change = m_changes.texts.find(element);
     if (first >= m_changes.parsedNodes && change != m_changes.texts.end()) {
         change->second.added = first;
     }
 }
 
-void DocumentEditor::RestoreText(Number element) {
-    const auto change = m_changes.texts.find(element);
-    if (change == m_changes.texts.end()) {
-        return;
+/// The texts of an element as they were parsed, in order.
+std::vector<DocumentEditor::Number> DocumentEditor::ParsedTexts(Number element) const {
+    if (const auto change = m_changes.texts.find(element); change != m_changes.texts.end()) {
+        return change->second.parsed;
     }
-    if (const Number added = change->second.added; added != 0) {
-        Unlink(added);
-        ReleaseNode(added);
+    for (Number child = Record(element).inner.firstChild; child != 0; child = Record(child).next) {
+        if (Record(child).IsText() && child < m_changes.parsedNodes) {
+            return {child};
+        }
+    }
+    return {};
+}
+
+const NodeRecord& DocumentEditor::ParsedRecord(Number number) const {
+    const NodeRecord& record = Record(number);
+    return record.leaf.holder == ValueHolder::Written ? m_changes.values[record.leaf.valueBegin].parsed : record;
+}
+
+void DocumentEditor::RestoreText(Number element) {
+    const std::vector<Number> parsed = ParsedTexts(element);
+    const auto change = m_changes.texts.find(element);
+    if (change != m_changes.texts.end() && change->second.added != 0) {
+        Unlink(change->second.added);
+        ReleaseNode(change->second.added);
     }
     // Parsed nodes are in the order of the text; what was added at the same place stands before them.
     Number next = Record(element).inner.firstChild;
-    for (const DocumentChanges::ParsedNode& parsed : change->second.parsed) {
-        NodeRecord& record = Record(parsed.number);
-        const bool wasUnlinked = record.kind == NodeKind::None;
-        ReleaseValue(record);
-        record.kind = parsed.record.kind;
-        record.leaf = parsed.record.leaf;
+    for (const Number number : parsed) {
+        const bool wasUnlinked = Record(number).kind == NodeKind::None;
+        RestoreLeaf(number);
         if (wasUnlinked) {
-            while (next != 0 && Record(next).begin <= record.begin) {
+            while (next != 0 && Record(next).begin <= Record(number).begin) {
                 next = Record(next).next;
             }
-            LinkBefore(parsed.number, next);
+            LinkBefore(number, next);
         }
     }
-    m_changes.texts.erase(change);
+    if (change != m_changes.texts.end()) {
+        m_changes.texts.erase(change);
+    }
+}
+
+void DocumentEditor::RestoreLeaf(Number number) noexcept {
+    NodeRecord& record = Record(number);
+    if (record.leaf.holder == ValueHolder::Written) {
+        const NodeRecord parsed = m_changes.values[record.leaf.valueBegin].parsed;
+        ReleaseValue(record);
+        record.kind = parsed.kind;
+        record.leaf = parsed.leaf;
+    }
 }
 
 // --- attributes
@@ -167,10 +213,9 @@ void DocumentEditor::RestoreText(Number element) {
 void DocumentEditor::SetValue(NodeRef node, std::string_view value) {
     const Number attribute = NumberOf(node);
     if (attribute < m_changes.parsedNodes) {
-        m_changes.touched.insert(Record(attribute).parent);
-        m_changes.attributes.try_emplace(attribute, Record(attribute));
+        Touch(Record(attribute).parent);
     }
-    Write(Record(attribute), value);
+    Write(attribute, value);
 }
 
 void DocumentEditor::AddAttribute(NodeRef node, std::string_view name, std::string_view value) {
@@ -181,7 +226,7 @@ void DocumentEditor::AddAttribute(NodeRef node, std::string_view name, std::stri
         last = each;
     }
     if (element < m_changes.parsedNodes) {
-        m_changes.touched.insert(element);
+        Touch(element);
     }
     const Number added = NewText(value, NodeKind::Attribute, element, Record(element).begin);
     NodeRecord& record = Record(added);
@@ -199,7 +244,7 @@ void DocumentEditor::AddElement(const ElementPlace& place, std::string_view name
     const Number begin = PlaceBefore(parent, next);
     const Number named = m_data.names.Intern(name) & NodeRecord::kNameMask;
     if (parent < m_changes.parsedNodes) {
-        m_changes.touched.insert(parent);
+        Touch(parent);
     }
     const Number element = NewNode(NodeKind::Element, parent, begin);
     DocumentChanges::AddedElement& added = m_changes.elements[element];
@@ -227,48 +272,34 @@ void DocumentEditor::AddElement(const ElementPlace& place, std::string_view name
 
 std::optional<std::string> DocumentEditor::Parsed(NodeRef node, TextForm form) const {
     const Number number = NumberOf(node);
-    if (Record(number).kind == NodeKind::Attribute) {
-        const auto found = m_changes.attributes.find(number);
-        return found == m_changes.attributes.end() ? std::nullopt
-                                                   : std::optional<std::string>(Text(m_data, found->second));
-    }
-    const auto found = m_changes.texts.find(number);
-    if (found == m_changes.texts.end()) {
+    if (number >= m_changes.parsedNodes) {
         return std::nullopt;
     }
-    const std::vector<DocumentChanges::ParsedNode>& parsed = found->second.parsed;
-    std::size_t begin = 0;
-    std::size_t end = parsed.size();
+    if (Record(number).kind == NodeKind::Attribute) {
+        return std::string(Text(m_data, ParsedRecord(number)));
+    }
+    const std::vector<Number> parsed = ParsedTexts(number);
+    auto begin = parsed.begin();
+    auto end = parsed.end();
     if (form == TextForm::CData) {
-        const auto isSection = [&](std::size_t at) { return parsed[at].record.kind == NodeKind::CData; };
-        std::size_t first = 0;
-        while (first < end && !isSection(first)) {
-            ++first;
-        }
-        if (first < end) {
+        const auto isSection = [this](Number each) { return ParsedRecord(each).kind == NodeKind::CData; };
+        const auto first = std::find_if(begin, end, isSection);
+        if (first != end) {
             begin = first;
-            while (!isSection(end - 1)) {
-                --end;
-            }
+            end = std::find_if(parsed.rbegin(), parsed.rend(), isSection).base();
         }
     }
     std::string text;
-    for (std::size_t at = begin; at < end; ++at) {
-        text.append(Text(m_data, parsed[at].record));
-    }
+    std::for_each(begin, end, [&](Number each) { text.append(Text(m_data, ParsedRecord(each))); });
     return text;
 }
 
 void DocumentEditor::Restore(NodeRef node) {
     const Number number = NumberOf(node);
-    if (Record(number).kind != NodeKind::Attribute) {
+    if (Record(number).kind == NodeKind::Attribute) {
+        RestoreLeaf(number);
+    } else {
         RestoreText(number);
-        return;
-    }
-    if (const auto found = m_changes.attributes.find(number); found != m_changes.attributes.end()) {
-        ReleaseValue(Record(number));
-        Record(number).leaf = found->second.leaf;
-        m_changes.attributes.erase(found);
     }
 }
 
@@ -305,7 +336,7 @@ DocumentEditor::Number DocumentEditor::NewNode(NodeKind kind, Number parent, Num
         }
         number = static_cast<Number>(m_data.nodes.size());
         m_data.nodes.emplace_back();
-        MakeRoom(m_changes.freeNodes, m_data.nodes.size() - m_changes.parsedNodes); // so that releasing cannot fail
+        MakeRoom(m_changes.freeNodes, m_data.nodes.size() - m_changes.parsedNodes);
     }
     NodeRecord& record = Record(number);
     record = NodeRecord();
@@ -320,7 +351,7 @@ DocumentEditor::Number DocumentEditor::NewNode(NodeKind kind, Number parent, Num
 }
 
 DocumentEditor::Number DocumentEditor::NewText(std::string_view text, NodeKind kind, Number parent, Number begin) {
-    const Number value = NewValue(text);
+    const Number value = NewValue(text, NodeRecord());
     const Number number = NewNode(kind, parent, begin);
     NodeRecord::Leaf& leaf = Record(number).leaf;
     leaf.holder = ValueHolder::Written;
@@ -329,31 +360,37 @@ DocumentEditor::Number DocumentEditor::NewText(std::string_view text, NodeKind k
     return number;
 }
 
-DocumentEditor::Number DocumentEditor::NewValue(std::string_view text) {
+DocumentEditor::Number DocumentEditor::NewValue(std::string_view text, const NodeRecord& parsed) {
     if (!m_changes.freeValues.empty()) {
         const Number value = m_changes.freeValues.back();
-        m_changes.values[value].assign(text);
+        m_changes.values[value] = {std::string(text), parsed};
         m_changes.freeValues.pop_back();
         return value;
     }
-    MakeRoom(m_changes.freeValues, m_changes.values.size() + 1);
-    m_changes.values.emplace_back(text);
+    MakeRoom(m_changes.freeValues, m_changes.values.size() + 1); // so that releasing cannot fail
+    m_changes.values.push_back({std::string(text), parsed});
     return static_cast<Number>(m_changes.values.size() - 1);
 }
 
-void DocumentEditor::Write(NodeRecord& record, std::string_view text) {
-    if (record.leaf.holder == ValueHolder::Written) {
-        std::string written(text);
-        m_changes.values[record.leaf.valueBegin].swap(written);
-        return;
+/// Moves the node's value to where values can change, with what it was.
+void DocumentEditor::Keep(Number number) {
+    NodeRecord& record = Record(number);
+    if (record.leaf.holder != ValueHolder::Written) {
+        const Number value = NewValue(Text(m_data, record), record);
+        record.leaf.valueBegin = value;
+        record.leaf.holder = ValueHolder::Written;
     }
-    record.leaf.valueBegin = NewValue(text);
-    record.leaf.holder = ValueHolder::Written;
+}
+
+void DocumentEditor::Write(Number number, std::string_view text) {
+    std::string written(text);
+    Keep(number);
+    m_changes.values[Record(number).leaf.valueBegin].text.swap(written);
 }
 
 void DocumentEditor::ReleaseValue(NodeRecord& record) noexcept {
     if (record.leaf.holder == ValueHolder::Written) {
-        std::string().swap(m_changes.values[record.leaf.valueBegin]);
+        std::string().swap(m_changes.values[record.leaf.valueBegin].text);
         m_changes.freeValues.push_back(record.leaf.valueBegin);
         record.leaf = {};
     }

@@ -31,14 +31,19 @@ private:
     NodeRecord& Record(Number number) { return m_data.nodes[number]; }
     const NodeRecord& Record(Number number) const { return m_data.nodes[number]; }
     Region TextRegion(Number element, TextForm form) const;
+    void Touch(Number element);
     void RememberTexts(Number element);
     void TakeOverBlanks(Number element, Number first) noexcept;
+    std::vector<Number> ParsedTexts(Number element) const;
+    const NodeRecord& ParsedRecord(Number number) const;
     void RestoreText(Number element);
+    void RestoreLeaf(Number number) noexcept;
 
     Number NewNode(NodeKind kind, Number parent, Number begin);
     Number NewText(std::string_view text, NodeKind kind, Number parent, Number begin);
-    Number NewValue(std::string_view text);
-    void Write(NodeRecord& record, std::string_view text);
+    Number NewValue(std::string_view text, const NodeRecord& parsed);
+    void Keep(Number number);
+    void Write(Number number, std::string_view text);
     void ReleaseValue(NodeRecord& record) noexcept;
     void ReleaseNode(Number number) noexcept;
     Number PlaceBefore(Number parent, Number next) const;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 namespace Framework {
 
@@ -34,10 +35,13 @@ public:
         : m_data(data), m_lineEnd(LineEndOf(data.source.text)), m_characters(data.source.encoding) {}
 
     std::vector<Patch> Make() {
-        for (const std::uint32_t element : m_data.changes.touched) {
+        std::vector<std::uint32_t> touched = m_data.changes.touched;
+        std::sort(touched.begin(), touched.end());
+        touched.erase(std::unique(touched.begin(), touched.end()), touched.end());
+        for (const std::uint32_t element : touched) {
             PatchAttributes(element);
-            PatchTexts(element);
-            PatchAdded(element);
+            PatchRemoved(element);
+            PatchChildren(element);
         }
         std::sort(m_patches.begin(), m_patches.end(), [](const Patch& left, const Patch& right) {
             return std::tie(left.begin, left.end) < std::tie(right.begin, right.end);
@@ -48,7 +52,9 @@ public:
 private:
     const NodeRecord& Record(std::uint32_t number) const { return m_data.nodes[number]; }
     bool IsAdded(std::uint32_t number) const { return number >= m_data.changes.parsedNodes; }
-    std::string_view Value(const NodeRecord& record) const { return m_data.changes.values[record.leaf.valueBegin]; }
+    std::string_view Value(const NodeRecord& record) const {
+        return m_data.changes.values[record.leaf.valueBegin].text;
+    }
 
     void PatchAttributes(std::uint32_t element) {
         const std::string_view source = m_data.source.text;
@@ -92,51 +98,52 @@ private:
         return blanks.substr(line);
     }
 
-    void PatchTexts(std::uint32_t element) {
-        const auto change = m_data.changes.texts.find(element);
-        if (change == m_data.changes.texts.end()) {
+    /// Texts that went when another took their place.
+    void PatchRemoved(std::uint32_t element) {
+        const auto texts = m_data.changes.texts.find(element);
+        if (texts == m_data.changes.texts.end()) {
             return;
         }
-        for (const DocumentChanges::ParsedNode& parsed : change->second.parsed) {
-            const NodeRecord& record = Record(parsed.number);
-            std::string text;
-            if (record.kind != NodeKind::None) {
-                if (record.leaf.holder != ValueHolder::Written) {
-                    continue; // stands beside the sections that were changed
-                }
-                AppendLeaf(text, record);
+        for (const std::uint32_t number : texts->second.parsed) {
+            if (Record(number).kind == NodeKind::None) {
+                m_patches.push_back({Record(number).begin, Record(number).end, {}});
             }
-            m_patches.push_back({record.begin, record.end, WithLineEnds(text)});
         }
     }
 
-    /// Every run of added children becomes one insertion.
-    void PatchAdded(std::uint32_t element) {
+    /// Texts that were changed, and every run of added children as one insertion.
+    void PatchChildren(std::uint32_t element) {
         const NodeRecord& parent = Record(element);
-        const bool isClosed = parent.end == parent.inner.startTagEnd; // <a/>
         std::uint32_t at = parent.inner.startTagEnd;
         std::string run;
-        const auto flush = [&] {
-            if (run.empty()) {
-                return;
-            }
-            std::string text = WithLineEnds(run);
-            if (isClosed) {
-                text.insert(0, 1, '>');
-                text.append("</").append(m_data.names.Name(parent.name)).append(1, '>');
-            }
-            m_patches.push_back({isClosed ? at - 2 : at, at, std::move(text)});
-            run.clear();
-        };
         for (std::uint32_t child = parent.inner.firstChild; child != 0; child = Record(child).next) {
+            const NodeRecord& record = Record(child);
             if (IsAdded(child)) {
                 AppendAdded(run, child);
-            } else {
-                flush();
-                at = Record(child).end;
+                continue;
+            }
+            Insert(parent, at, run);
+            at = record.end;
+            if (record.IsText() && record.leaf.holder == ValueHolder::Written) {
+                std::string text;
+                AppendLeaf(text, record);
+                m_patches.push_back({record.begin, record.end, WithLineEnds(std::move(text))});
             }
         }
-        flush();
+        Insert(parent, at, run);
+    }
+
+    void Insert(const NodeRecord& parent, std::uint32_t at, std::string& run) {
+        if (run.empty()) {
+            return;
+        }
+        std::string text = WithLineEnds(std::exchange(run, {}));
+        const bool isClosed = parent.end == parent.inner.startTagEnd; // <a/>
+        if (isClosed) {
+            text.insert(0, 1, '>');
+            text.append("</").append(m_data.names.Name(parent.name)).append(1, '>');
+        }
+        m_patches.push_back({isClosed ? at - 2 : at, at, std::move(text)});
     }
 
     void AppendAdded(std::string& xml, std::uint32_t number) {
@@ -191,7 +198,7 @@ private:
         append(text);
     }
 
-    std::string WithLineEnds(const std::string& text) const {
+    std::string WithLineEnds(std::string text) const {
         if (m_lineEnd == "\n") {
             return text;
         }

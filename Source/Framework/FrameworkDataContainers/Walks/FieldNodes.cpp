@@ -94,6 +94,7 @@ void KeyedTextNodes::IndexKeys() {
         }
     }
     std::string room;
+    m_byKey.reserve(m_nodes.size());
     for (const NodeRef node : m_nodes) {
         const NodeRef key = FindAttribute(m_tree, node, m_row.keyAttribute);
         if (key != NodeRef::None) {
