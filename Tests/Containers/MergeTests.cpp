@@ -1,4 +1,5 @@
-// Merging with the default action, for every class: what the source names is taken over, the rest stays.
+// Merging with the default action, for every class: what the source names is taken over, the rest stays. The other
+// actions stand in MergeControlTests.cpp.
 
 #include "Containers/EveryClass.h"
 
@@ -73,6 +74,11 @@ TEST(Merge, SourceThatCannotBeReadChangesNothing) {
     });
 }
 
+CatalogField FirstList(TypedDataContainer& object) {
+    const std::vector<CatalogField> fields = ContainerCatalog::ClassOf(object).Fields();
+    return *std::find_if(fields.begin(), fields.end(), [](const CatalogField& field) { return field.IsList(); });
+}
+
 const char* const threads = "<LoadConfig><ThreadChildList UniqueName='A'><ChildThread UniqueName='T'>"
                             "<LibraryPath>old</LibraryPath></ChildThread></ThreadChildList></LoadConfig>";
 
@@ -116,8 +122,7 @@ TEST(Merge, WhatIsNotTakenOverIsReportedWithItsPlace) {
     const std::vector<std::string> before = Samples::Lines(object);
     const char* const sources[] = {
         "<LoadConfig>\n  <ThreadChildList/>\n</LoadConfig>",
-        "<LoadConfig>\n  <ThreadChildList UniqueName='A' MergeAction='Remove'/></LoadConfig>",
-        "<LoadConfig>\n  <ThreadChildList UniqueName='Z' PlacementOrder='First'/></LoadConfig>",
+        "<LoadConfig>\n  <ThreadChildList UniqueName='Z' MergeAction='Remove'/></LoadConfig>",
         "<LoadConfig>\n  <ThreadChildList UniqueName='A' MergeAction='merge'><ChildThread "
         "UniqueName='X'/></ThreadChildList></LoadConfig>",
     };
@@ -131,7 +136,7 @@ TEST(Merge, WhatIsNotTakenOverIsReportedWithItsPlace) {
     }
     IssueRecorder recorder;
     EXPECT_FALSE(
-        MergeText(object, "F", "<LoadConfig MergeAction='Replace'><ThreadChildList UniqueName='B'/></LoadConfig>"));
+        MergeText(object, "F", "<LoadConfig MergeAction='Remove'><ThreadChildList UniqueName='B'/></LoadConfig>"));
     EXPECT_EQ(recorder.issues.size(), 1U);
     EXPECT_EQ(Samples::Lines(object), before);
 }
@@ -157,6 +162,30 @@ TEST(Merge, NestedObjectMergesFromWhereToldAndKeepsItsFlag) {
     EXPECT_TRUE(table.MergeFromDataPacket(nullptr, "F", &source, true));
     EXPECT_EQ(source.GetStoredQuery(), "/StateTable"); // there was nothing to put back
     EXPECT_EQ(table.GetName(), "T");
+}
+
+TEST(Merge, SourceIsLeftInOrder) {
+    StateActionDefType root(false);
+    ASSERT_TRUE(LoadText(root, "<StateActionDef/>"));
+    XMLDataWrapper source;
+    ASSERT_TRUE(source.LoadXMLText("<StateActionDef><A/></StateActionDef>", false));
+    const std::string list = "//StateActionDef/" + std::string(FirstList(root).Name());
+    ASSERT_TRUE(source.LoadNodeList("A", list, 0)); // where the walk keeps its own, which is not in this source
+    ASSERT_TRUE(source.LoadNodeList("A", "other", 0));
+    EXPECT_TRUE(root.MergeFromDataPacket(nullptr, "F", &source, false));
+    EXPECT_EQ(source.GetNodeListLength(list), 0);
+    EXPECT_EQ(source.GetNodeListLength("other"), 1);
+    // Parent and class walk one after the other; each puts back what it found.
+    ActionItemType item(false);
+    ASSERT_TRUE(LoadText(item, "<ActionItem Index='1'/>"));
+    ASSERT_TRUE(source.LoadXMLText("<ActionItem ActionRef='r'><ActionData/><ActionResp/></ActionItem>", false));
+    source.SetCurrentNode(source.GetXalanNode("", false));
+    source.SetStoredQuery("//X");
+    EXPECT_TRUE(item.MergeFromDataPacket(nullptr, "F", &source, true));
+    EXPECT_EQ(source.GetStoredQuery(), "//X");
+    EXPECT_EQ(item.GetIndex(), "1");
+    EXPECT_NE(item.GetActionData(), nullptr);
+    EXPECT_NE(item.GetActionResp(), nullptr);
 }
 
 TEST(Merge, EverySourceMergesAlike) {

@@ -117,4 +117,7 @@ inline WrapperState* LoadedState(XMLDataWrapper* wrapper) {
 /// its class's fields, which stands above this layer.
 void MakeEmpty(TypedDataContainer& object);
 
+/// Resets an object but for its attributes: children stay, with reset members of their own.
+void ResetButAttributes(TypedDataContainer& object);
+
 } // namespace Framework

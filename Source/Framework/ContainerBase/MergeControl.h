@@ -13,8 +13,38 @@ inline constexpr const char* placementFeatureAttribute = "PlacementFeature";
 inline constexpr const char* placementIndexAttribute = "PlacementIndex";
 inline constexpr const char* placementOrderAttribute = "PlacementOrder";
 
-/// What the node asks for beyond the default action, ready for an error text; empty when it asks for nothing else. Such
-/// a node is refused: merging it as if it had not asked would be wrong in silence.
-std::string UnsupportedControl(const XmlTree& tree, NodeRef node);
+/// What a node of an override is to the tree it is merged into: not every word has a meaning everywhere.
+enum class ControlSite {
+    Root,
+    Child,
+    KeyedEntry,
+    PlainEntry,
+    NewPart, ///< below a node that is loaded as a whole: nothing is there yet that a word could act on
+    Value,   ///< an element with one value, which is taken whatever it carries
+};
+
+enum class MergeAction { Merge, Add, Replace, Remove, Clear };
+enum class PlacementOrder { Unsaid, First, Last, Before, After };
+
+/// What a node asks for. With a problem it asks for what cannot be done at its site, and the rest means nothing.
+struct MergeControl {
+    MergeAction action = MergeAction::Merge;
+    PlacementOrder order = PlacementOrder::Unsaid;
+    std::string neighbour;        ///< key of the entry to stand before or behind
+    std::string neighbourFeature; ///< the feature it must belong to, in the form of FeatureOrBase; empty: any
+    std::string problem;          ///< names the word and the words that exist; empty when all is well
+
+    bool NeedsNeighbour() const { return order == PlacementOrder::Before || order == PlacementOrder::After; }
+};
+
+MergeControl ReadControl(const XmlTree& tree, NodeRef node, ControlSite site);
+
+/// Why the action cannot be done with what is there; empty when it can. `what` names it: "entry", "child".
+std::string ActionProblem(MergeAction action, bool isThere, const char* what);
+
+/// What belongs to no feature belongs to the base.
+inline std::string FeatureOrBase(const std::string& feature) {
+    return feature.empty() ? "Base" : feature;
+}
 
 } // namespace Framework

@@ -26,21 +26,26 @@ private:
     bool m_before;
 };
 
-/// Whether an outer merge may start at all; else nothing is changed.
-bool MayStart(TypedDataContainer& object, const WrapperState& source) {
+/// The node of the source that an outer merge starts from; None, with an error, when there is none.
+NodeRef StartOfMerge(TypedDataContainer& object, const WrapperState& source, bool nested) {
+    if (nested) {
+        return source.Here();
+    }
     const XmlTree& tree = *source.Tree();
     const NodeRef node = FirstDescendantNamed(tree, tree.Root(), object.GetContainerName());
     if (node == NodeRef::None) {
         SetNoElementError(object, source, object.GetContainerName());
-        return false;
     }
-    if (const std::string control = UnsupportedControl(tree, node); !control.empty()) {
-        const OverridePlace place(&tree, node);
-        object.SetLastError(-1, "%s: %s", object.GetContainerName().c_str(), control.c_str());
-        LogLastError(object, __LINE__);
-        return false;
+    return node;
+}
+
+/// Empties the object as far as the action asks for it. What stays is merged into: an object keeps its own wrapper.
+void Prepare(TypedDataContainer& object, MergeAction action) {
+    if (action == MergeAction::Replace) {
+        MakeEmpty(object);
+    } else if (action == MergeAction::Clear) {
+        ResetButAttributes(object);
     }
-    return true;
 }
 
 bool MergeOwn(TypedDataContainer& object, ValueLookupBase* lookup, const std::unique_ptr<XMLDataWrapper>& source,
@@ -86,7 +91,17 @@ bool TypedDataContainer::MergeFromDataPacket(ValueLookupBase* pLookup, zelString
         if (source == nullptr) {
             return MergeDataMembers(pMergeData, sFeatureID); // which says so
         }
-        if (!bNested && !MayStart(*this, *source)) {
+        const XmlTree& tree = *source->Tree();
+        const NodeRef node = StartOfMerge(*this, *source, bNested);
+        if (node == NodeRef::None && !bNested) {
+            return false;
+        }
+        // The words of a node that a walk hands down were obeyed by that walk.
+        const bool isRoot = node != NodeRef::None && (!bNested || !OverridePlace::IsAt(tree, node));
+        const OverridePlace place(&tree, node, &sFeatureID);
+        const MergeControl control = isRoot ? ReadControl(tree, node, ControlSite::Root) : MergeControl();
+        if (!control.problem.empty()) {
+            ReportOverride(*this, {tree, node, sFeatureID}, control.problem, __LINE__);
             return false;
         }
         const NestedScope nested(*this, bNested);
@@ -98,6 +113,7 @@ bool TypedDataContainer::MergeFromDataPacket(ValueLookupBase* pLookup, zelString
             ContainerAccess::SetLookup(*this, pLookup);
         }
         ContainerAccess::SetMergeFeature(*this, sFeatureID);
+        Prepare(*this, control.action);
         const bool success = MergeDataMembers(pMergeData, sFeatureID);
         ContainerAccess::SetValid(*this, success || m_bValid);
         return success;

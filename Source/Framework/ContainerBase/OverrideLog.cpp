@@ -40,12 +40,22 @@ void PrintIssue(const OverrideIssue& issue) {
 
 } // namespace
 
-OverridePlace::OverridePlace(const XmlTree* tree, NodeRef node) : m_tree(tree), m_node(node), m_outer(innermostPlace) {
+OverridePlace::OverridePlace(const XmlTree* tree, NodeRef node, const zelString* feature)
+    : m_tree(tree), m_node(node), m_feature(feature), m_outer(innermostPlace) {
     innermostPlace = this;
 }
 
 OverridePlace::~OverridePlace() {
     innermostPlace = m_outer;
+}
+
+bool OverridePlace::IsAt(const XmlTree& tree, NodeRef node) {
+    return innermostPlace != nullptr && innermostPlace->m_feature != nullptr && innermostPlace->m_tree == &tree &&
+           innermostPlace->m_node == node;
+}
+
+const zelString* OverridePlace::FeatureIn(const XmlTree& tree) {
+    return innermostPlace != nullptr && innermostPlace->m_tree == &tree ? innermostPlace->m_feature : nullptr;
 }
 
 void OverridePlace::Describe(OverrideIssue& issue) {
@@ -63,6 +73,16 @@ void OverridePlace::Describe(OverrideIssue& issue) {
 void LogLastError(TypedDataContainer& object, unsigned int line) {
     TypedDataContainer::LogFeatureOverrideIssue(object.GetFeatureID(), object.GetContainerName(), object.GetLastError(),
                                                 line);
+}
+
+void ReportOverride(TypedDataContainer& object, const OverrideNode& where, const std::string& what, unsigned int line) {
+    const OverridePlace place(&where.tree, where.node, &where.feature);
+    std::string name(where.tree.Name(where.node));
+    if (where.key != nullptr) {
+        name += "[" + *where.key + "]";
+    }
+    object.SetLastError(-1, "%s of feature \"%s\": %s", name.c_str(), where.feature.c_str(), what.c_str());
+    LogLastError(object, line);
 }
 
 } // namespace Framework

@@ -4,21 +4,13 @@
 #include <unordered_set>
 
 #include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/ContainerBase/ListEdit.h"
 #include "Framework/ContainerBase/OverrideLog.h"
-#include "Framework/ContainerBase/Storing.h"
 #include "Framework/XMLSupport/NodeViews.h"
 
 namespace Framework {
 
 namespace {
-
-/// A destructor that throws must not keep the rest of a list alive.
-template <typename Entry> void DeleteQuietly(Entry* entry) noexcept {
-    try {
-        delete entry;
-    } catch (...) { // nobody is left to be told
-    }
-}
 
 bool IsAt(std::size_t size, int Index) {
     return Index >= 0 && static_cast<std::size_t>(Index) < size;
@@ -26,6 +18,7 @@ bool IsAt(std::size_t size, int Index) {
 
 /// Empties both halves. An entry under two keys, or in one half only, is destroyed once.
 template <typename Entry> void ClearBoth(Zelvon::SyncMap<zelString, Entry*>& map, std::vector<Entry*>& entries) {
+    ListEdit<Entry>::Settle(entries);
     std::vector<Entry*> strays; // entries of the vector that the map does not lead to
     if (map.contents().size() != entries.size()) {
         std::unordered_set<Entry*> reached;
@@ -76,7 +69,9 @@ TypedDataContainer* EntryByKey(EntryMap& map, const zelString& sName) {
 }
 
 void AddNewKeyed(EntryMap& map, EntryVector& entries, TypedDataContainer* szNew, const zelString& sName) {
-    StoreKeyed(map, entries, std::unique_ptr<TypedDataContainer>(szNew), sName);
+    std::unique_ptr<TypedDataContainer> entry(szNew);
+    ListEdit<TypedDataContainer>::Settle(entries);
+    StoreKeyed(map, entries, std::move(entry), sName);
 }
 
 void AddKeyed(TypedDataContainer& object, const FieldRow& row, XMLDataWrapper* pData, XalanNode* spNode,
@@ -86,6 +81,7 @@ void AddKeyed(TypedDataContainer& object, const FieldRow& row, XMLDataWrapper* p
         return;
     }
     EntryMap& map = object.*row.map.entries;
+    ListEdit<TypedDataContainer>::Settle(object.*row.member.entries);
     if (EntryByKey(map, sName) != nullptr) {
         DeleteQuietly(entry.release());
         const XmlTree* tree = nullptr;
@@ -100,6 +96,7 @@ void AddKeyed(TypedDataContainer& object, const FieldRow& row, XMLDataWrapper* p
 void RemoveKeyed(TypedDataContainer& object, const FieldRow& row, const zelString& sName, const zelString& sFeatureId) {
     EntryVector& entries = object.*row.member.entries;
     EntryMap& map = object.*row.map.entries;
+    ListEdit<TypedDataContainer>::Settle(entries);
     const auto found = std::find_if(entries.begin(), entries.end(), [&](TypedDataContainer* entry) {
         return entry != nullptr && row.list->keyEquals(*entry, sName) && entry->GetFeatureID() == sFeatureId;
     });
@@ -131,7 +128,8 @@ void ClearKeyed(EntryMap& map, EntryVector& entries) {
 }
 
 zelString TextAt(const TextVector& texts, int Index) {
-    return IsAt(texts.size(), Index) ? texts[static_cast<std::size_t>(Index)]->strValue : zelString();
+    const bool isThere = IsAt(texts.size(), Index) && texts[static_cast<std::size_t>(Index)] != nullptr;
+    return isThere ? texts[static_cast<std::size_t>(Index)]->strValue : zelString();
 }
 
 zelString TextByKey(TextMap& map, const zelString& sName) {
@@ -142,6 +140,7 @@ zelString TextByKey(TextMap& map, const zelString& sName) {
 void AddKeyedText(TypedDataContainer& object, const FieldRow& row, const zelString& pData, const zelString& sName,
                   unsigned int line) {
     TextMap& map = object.*row.map.texts;
+    ListEdit<TypedDataContainer::SimpleDataContainer>::Settle(object.*row.member.keyedTexts);
     TypedDataContainer::SimpleDataContainer* present = nullptr;
     if (map.getValue(sName, present, true)) {
         ReportDuplicate(object, row, sName, line);

@@ -1,5 +1,5 @@
 #include "Framework/ContainerBase/ContainerAccess.h"
-#include "Framework/ContainerBase/MergeControl.h"
+#include "Framework/ContainerBase/ListEdit.h"
 #include "Framework/ContainerBase/OverrideLog.h"
 #include "Framework/FrameworkDataContainers/Walks/Scalars.h"
 #include "Framework/FrameworkDataContainers/Walks/Walks.h"
@@ -20,11 +20,18 @@ public:
         : m_object(object), m_table(table), m_wrapper(pMergeData), m_source(WrapperAccess::State(*pMergeData)),
           m_featureID(sFeatureID), m_line(line) {}
 
+    ~MergeWalk() {
+        if (!m_storedQuery.Empty()) {
+            m_source.query = m_storedQuery; // also after a failure: the parent's walk goes on from its own
+        }
+    }
+    MergeWalk(const MergeWalk&) = delete;
+    MergeWalk& operator=(const MergeWalk&) = delete;
+
     void Run() {
-        const bool isNested = ContainerAccess::IsNested(m_object) && m_source.current != NodeRef::None;
-        const QueryChain storedQuery = m_source.query;
-        if (isNested) {
-            m_source.query = storedQuery.Below(m_object.GetContainerName());
+        if (ContainerAccess::IsNested(m_object) && m_source.current != NodeRef::None) {
+            m_storedQuery = m_source.query;
+            m_source.query = m_storedQuery.Below(m_object.GetContainerName());
             m_node = m_source.current;
         } else {
             const zelString query = "//" + m_object.GetContainerName();
@@ -34,9 +41,6 @@ public:
         Reposition();
         for (const FieldRow& row : m_table.rows) {
             TakeField(row);
-        }
-        if (isNested && !storedQuery.Empty()) {
-            m_source.query = storedQuery;
         }
     }
 
@@ -61,7 +65,7 @@ private:
             if (const NodeRef node = LastChildNamed(Tree(), m_source.Here(), row.name); node != NodeRef::None) {
                 SetScalar(m_object, row,
                           row.cdata ? m_object.GetCDataValue(m_wrapper, row.name.data()) : TextOf(Tree(), node));
-                ReportControl(row, node); // a single value is taken as always
+                IsPossible(node, ControlSite::Value); // else reported; the value is taken as always
             }
             break;
         case FieldForm::Child:
@@ -80,11 +84,15 @@ private:
 
     /// Merges into a child that holds data; loads one that does not, or that is not there yet.
     void TakeChild(const FieldRow& row) {
-        if (IsRefused(row)) {
-            return;
-        }
+        const OverridePlace place(&Tree(), m_source.current, &m_featureID);
         TypedDataContainer* child = row.child->get(m_object);
-        if (child != nullptr && child->Valid()) {
+        const MergeControl control = ReadControl(Tree(), m_source.current, ControlSite::Child);
+        if (control.action != MergeAction::Merge || !control.problem.empty()) {
+            if (!PrepareChild(row, child, control)) {
+                return;
+            }
+        }
+        if (child != nullptr && child->Valid() && control.action != MergeAction::Replace) {
             child->SetContainerName(row.name.data());
             child->MergeFromDataPacket(ContainerAccess::Lookup(m_object), m_featureID, m_wrapper, true);
             return;
@@ -101,7 +109,48 @@ private:
         ContainerAccess::SetMergeFeature(*child, m_featureID);
     }
 
+    /// Does what the child's node asks for beyond the usual steps. False when these are not to follow.
+    bool PrepareChild(const FieldRow& row, TypedDataContainer* child, const MergeControl& control) {
+        const std::string problem =
+            control.problem.empty() ? ActionProblem(control.action, child != nullptr, "child") : control.problem;
+        if (!problem.empty()) {
+            Report(m_source.current, problem);
+            return false;
+        }
+        switch (control.action) {
+        case MergeAction::Remove:
+            row.child->store(m_object, nullptr);
+            DeleteQuietly(child);
+            return false;
+        case MergeAction::Replace:
+            MakeEmpty(*child);
+            ContainerAccess::SetValid(*child, false);
+            return true;
+        case MergeAction::Clear:
+            ResetButAttributes(*child);
+            return true;
+        case MergeAction::Merge:
+        case MergeAction::Add:
+            break;
+        }
+        return true;
+    }
+
+    /// What MergeElement changes in the order of a keyed list is put in place once, behind the last entry.
     void TakeList(const FieldRow& row) {
+        if (row.form == FieldForm::PlainList) {
+            TakeEntries(row);
+        } else if (row.value == FieldValue::Container) {
+            const ListEdit<TypedDataContainer> edit(m_object.*row.map.entries, m_object.*row.member.entries);
+            TakeEntries(row);
+        } else {
+            const ListEdit<TypedDataContainer::SimpleDataContainer> edit(m_object.*row.map.texts,
+                                                                         m_object.*row.member.keyedTexts);
+            TakeEntries(row);
+        }
+    }
+
+    void TakeEntries(const FieldRow& row) {
         const NodeRef here = m_source.Here();
         std::vector<NodeRef> nodes;
         for (NodeRef child = Tree().FirstChild(here); child != NodeRef::None; child = Tree().NextSibling(child)) {
@@ -115,13 +164,16 @@ private:
             m_source.current = here;
         }
         Reposition();
+        if (!m_source.lists.empty()) { // a list that someone keeps under the query of this one goes with the merge
+            m_source.lists.erase(m_source.query.Text() + "/" + row.name.data());
+        }
     }
 
     void TakeEntry(const FieldRow& row, std::size_t position) {
-        const OverridePlace place(&Tree(), m_source.current);
+        const OverridePlace place(&Tree(), m_source.current, &m_featureID);
         if (row.form == FieldForm::KeyedList) {
             MergeKeyed(row, position);
-        } else if (IsRefused(row)) {
+        } else if (!IsPossible(m_source.current, ControlSite::PlainEntry)) {
             return;
         } else if (row.value == FieldValue::Container) {
             AddContainer(row);
@@ -151,29 +203,24 @@ private:
         if (row.numberedKeys && key.empty()) {
             key = SupportFunc::GetStrValue(static_cast<long>(position));
         } else if (FindAttribute(Tree(), m_source.current, row.keyAttribute) == NodeRef::None) {
-            Report(row, m_source.current,
-                   "the entry has no key, expected the attribute " + std::string(row.keyAttribute));
+            Report(m_source.current, "the entry has no key, expected the attribute " + std::string(row.keyAttribute));
             return;
         }
         m_object.MergeElement(m_featureID, m_object.*row.map.texts, m_object.*row.member.keyedTexts, m_wrapper,
                               dcString, key, name);
     }
 
-    /// A node that asks for more than the default action is left out and reported.
-    bool IsRefused(const FieldRow& row) { return ReportControl(row, m_source.current); }
-
-    bool ReportControl(const FieldRow& row, NodeRef node) {
-        const std::string control = UnsupportedControl(Tree(), node);
-        if (!control.empty()) {
-            Report(row, node, control);
+    /// Whether what the node asks for can be done at such a site; else that is reported.
+    bool IsPossible(NodeRef node, ControlSite site) {
+        const MergeControl control = ReadControl(Tree(), node, site);
+        if (!control.problem.empty()) {
+            Report(node, control.problem);
         }
-        return !control.empty();
+        return control.problem.empty();
     }
 
-    void Report(const FieldRow& row, NodeRef node, const std::string& what) {
-        const OverridePlace place(&Tree(), node);
-        m_object.SetLastError(-1, "%s: %s", row.name.data(), what.c_str());
-        LogLastError(m_object, m_line);
+    void Report(NodeRef node, const std::string& what) {
+        ReportOverride(m_object, {Tree(), node, m_featureID}, what, m_line);
     }
 
     TypedDataContainer& m_object;
@@ -183,6 +230,7 @@ private:
     zelString m_featureID;
     unsigned int m_line;
     NodeRef m_node = NodeRef::None;
+    QueryChain m_storedQuery; ///< of a nested object, to be put back
 };
 
 } // namespace

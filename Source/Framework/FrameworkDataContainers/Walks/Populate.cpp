@@ -1,4 +1,6 @@
 #include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/ContainerBase/MergeControl.h"
+#include "Framework/ContainerBase/OverrideLog.h"
 #include "Framework/FrameworkDataContainers/Walks/Scalars.h"
 #include "Framework/FrameworkDataContainers/Walks/Walks.h"
 #include "Framework/XMLSupport/FaultPoint.h"
@@ -12,10 +14,13 @@ namespace {
 /// The walk of one class over one element. It is driven by the child nodes: each is tested against every field of the
 /// class, in declared order; what no field names is passed over. Attributes are read afterwards, also when they are
 /// absent.
+///
+/// Below something new that an override brings in, merge control has nothing to act on: an element that asks for more
+/// than to be merged or added is left out and reported, as everywhere when a word cannot be obeyed.
 class PopulateWalk {
 public:
     PopulateWalk(TypedDataContainer& object, const FieldTable& table, const XmlTree& tree, NodeRef node)
-        : m_object(object), m_table(table), m_tree(tree), m_node(node) {}
+        : m_object(object), m_table(table), m_tree(tree), m_node(node), m_feature(OverridePlace::FeatureIn(tree)) {}
 
     void Run() {
         AssignLoadTexts();
@@ -48,6 +53,9 @@ private:
 
     void TakeField(const FieldRow& row, NodeRef child) {
         FaultPoint("Populate");
+        if (m_feature != nullptr && !IsTaken(row, child)) {
+            return;
+        }
         switch (row.form) {
         case FieldForm::Element:
             SetScalar(m_object, row, row.cdata ? CDataOf(m_tree, child) : TextOf(m_tree, child));
@@ -62,6 +70,16 @@ private:
         case FieldForm::Attribute:
             break;
         }
+    }
+
+    bool IsTaken(const FieldRow& row, NodeRef child) {
+        const bool isValue = row.form == FieldForm::Element;
+        const std::string problem =
+            ReadControl(m_tree, child, isValue ? ControlSite::Value : ControlSite::NewPart).problem;
+        if (!problem.empty()) {
+            ReportOverride(m_object, {m_tree, child, *m_feature}, problem, __LINE__);
+        }
+        return isValue || problem.empty();
     }
 
     /// A child that is there is used again: an element that stands twice fills one object twice.
@@ -120,6 +138,7 @@ private:
     const FieldTable& m_table;
     const XmlTree& m_tree;
     NodeRef m_node;
+    const zelString* m_feature; ///< of the merge that this load is part of, null when it is none
 };
 
 } // namespace

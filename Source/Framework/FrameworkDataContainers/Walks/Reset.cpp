@@ -45,4 +45,43 @@ void MakeEmpty(TypedDataContainer& object) {
     object.ResetDataMembers();
 }
 
+namespace {
+
+/// Moves the values of all attributes, the parent's too, out of an object or back into it.
+class AttributeKeeper {
+public:
+    explicit AttributeKeeper(TypedDataContainer& object) : m_object(object) {
+        for (const FieldTable* table = TableOf(object); table != nullptr; table = table->parent) {
+            for (const FieldRow& row : table->rows) {
+                if (row.form == FieldForm::Attribute) {
+                    m_kept.emplace_back(&row, ScalarText(object, row));
+                }
+            }
+        }
+    }
+
+    /// Allocates nothing: a text changes places with the one that is there.
+    void PutBack() {
+        for (auto& [row, text] : m_kept) {
+            if (row->value == FieldValue::String) {
+                (m_object.*row->member.text).swap(text);
+            } else {
+                SetScalar(m_object, *row, text);
+            }
+        }
+    }
+
+private:
+    TypedDataContainer& m_object;
+    std::vector<std::pair<const FieldRow*, zelString>> m_kept;
+};
+
+} // namespace
+
+void ResetButAttributes(TypedDataContainer& object) {
+    AttributeKeeper attributes(object);
+    object.ResetDataMembers();
+    attributes.PutBack();
+}
+
 } // namespace Framework
