@@ -74,11 +74,6 @@ TEST(Merge, SourceThatCannotBeReadChangesNothing) {
     });
 }
 
-CatalogField FirstList(TypedDataContainer& object) {
-    const std::vector<CatalogField> fields = ContainerCatalog::ClassOf(object).Fields();
-    return *std::find_if(fields.begin(), fields.end(), [](const CatalogField& field) { return field.IsList(); });
-}
-
 const char* const threads = "<LoadConfig><ThreadChildList UniqueName='A'><ChildThread UniqueName='T'>"
                             "<LibraryPath>old</LibraryPath></ChildThread></ThreadChildList></LoadConfig>";
 
@@ -165,11 +160,11 @@ TEST(Merge, NestedObjectMergesFromWhereToldAndKeepsItsFlag) {
 }
 
 TEST(Merge, SourceIsLeftInOrder) {
-    StateActionDefType root(false);
-    ASSERT_TRUE(LoadText(root, "<StateActionDef/>"));
+    LoadConfigType root(false);
+    ASSERT_TRUE(LoadText(root, threads));
     XMLDataWrapper source;
-    ASSERT_TRUE(source.LoadXMLText("<StateActionDef><A/></StateActionDef>", false));
-    const std::string list = "//StateActionDef/" + std::string(FirstList(root).Name());
+    ASSERT_TRUE(source.LoadXMLText("<LoadConfig><A/></LoadConfig>", false));
+    const zelString list = "//LoadConfig/ThreadChildList";
     ASSERT_TRUE(source.LoadNodeList("A", list, 0)); // where the walk keeps its own, which is not in this source
     ASSERT_TRUE(source.LoadNodeList("A", "other", 0));
     EXPECT_TRUE(root.MergeFromDataPacket(nullptr, "F", &source, false));
@@ -178,7 +173,7 @@ TEST(Merge, SourceIsLeftInOrder) {
     // Parent and class walk one after the other; each puts back what it found.
     ActionItemType item(false);
     ASSERT_TRUE(LoadText(item, "<ActionItem Index='1'/>"));
-    ASSERT_TRUE(source.LoadXMLText("<ActionItem ActionRef='r'><ActionData/><ActionResp/></ActionItem>", false));
+    ASSERT_TRUE(source.LoadXMLText("<ActionItem><ActionData/><ActionResp/></ActionItem>", false));
     source.SetCurrentNode(source.GetXalanNode("", false));
     source.SetStoredQuery("//X");
     EXPECT_TRUE(item.MergeFromDataPacket(nullptr, "F", &source, true));
