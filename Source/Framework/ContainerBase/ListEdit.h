@@ -1,12 +1,11 @@
 #pragma once
 
 #include <algorithm>
-#include <list>
 #include <mutex>
-#include <unordered_map>
 #include <unordered_set>
 
 #include "Framework/ContainerBase/MergeControl.h"
+#include "Framework/ContainerBase/SlotChain.h"
 #include "Framework/ContainerBase/Storing.h"
 
 namespace Framework {
@@ -53,57 +52,42 @@ public:
     Entry* Find(const zelString& key) {
         Entry* entry = nullptr;
         m_map.getValue(key, entry, true);
-        return m_buried.contains(entry) ? nullptr : entry;
+        return m_lingering.contains(entry) ? nullptr : entry;
     }
 
     Entry* Append(std::unique_ptr<Entry> fresh, const zelString& key) {
         Entry* const entry = fresh.get();
-        if (!m_isSetUp) {
-            StoreKeyed(m_map, m_entries, std::move(fresh), key);
-            return entry;
+        if (m_isSetUp) {
+            SetUp();
+            m_chain.Reserve(1);
         }
-        TakeUpNewcomers();
-        Order last; // first what may fail
-        last.push_back({entry, m_entries.size()});
-        const auto known = m_slots.emplace(entry, last.begin());
-        try {
-            StoreKeyed(m_map, m_entries, std::move(fresh), key);
-        } catch (...) {
-            m_slots.erase(known);
-            throw;
+        StoreKeyed(m_map, m_entries, std::move(fresh), key);
+        if (m_isSetUp) {
+            m_chain.Append(entry);
         }
-        m_order.splice(m_order.end(), last);
-        m_size = m_entries.size();
         return entry;
     }
 
     /// The new entry takes the place of the old one in both halves.
     Entry* Replace(Entry* old, std::unique_ptr<Entry> fresh, const zelString& key) {
         SetUp();
-        m_buried.insert(old); // from here on nothing fails
-        Entry* const entry = fresh.release();
-        m_map.setValue(key, entry, nullptr);
-        for (auto known = m_slots.extract(old); !known.empty(); known = m_slots.extract(old)) {
-            known.mapped()->entry = entry;
-            m_entries[known.mapped()->position] = entry;
-            known.key() = entry;
-            m_slots.insert(std::move(known));
+        for (const Number slot : Bury(old)) {
+            m_chain.Replace(slot, fresh.get());
+            m_entries[slot - 1] = fresh.get();
         }
-        return entry;
+        m_map.setValue(key, fresh.get(), nullptr);
+        return fresh.release();
     }
 
     void Remove(Entry* old, const zelString& key) {
         SetUp();
-        m_buried.insert(old);
-        {
-            m_map.writeLock();
-            const std::unique_lock guard(m_map, std::adopt_lock);
-            m_map.contents().erase(key);
+        for (const Number slot : Bury(old)) {
+            m_chain.Remove(slot);
+            m_entries[slot - 1] = nullptr;
         }
-        for (auto known = m_slots.extract(old); !known.empty(); known = m_slots.extract(old)) {
-            m_entries[known.mapped()->position] = nullptr;
-            m_order.erase(known.mapped());
-        }
+        m_map.writeLock();
+        const std::unique_lock guard(m_map, std::adopt_lock);
+        m_map.contents().erase(key);
     }
 
     /// `neighbour` is looked at for Before and After only, and is another entry.
@@ -112,10 +96,10 @@ public:
             return;
         }
         SetUp();
-        const auto [begin, end] = m_slots.equal_range(entry);
-        const auto where = Where(order, neighbour);
-        for (auto known = begin; known != end; ++known) {
-            m_order.splice(where, m_order, known->second);
+        const Number beside = neighbour == nullptr ? 0 : m_chain.Find(neighbour);
+        for (const Number slot : m_chain.FindAll(entry)) {
+            const bool isBehind = order == PlacementOrder::First || order == PlacementOrder::After;
+            m_chain.Move(slot, isBehind ? m_chain.Next(beside) : beside);
         }
     }
 
@@ -123,69 +107,66 @@ public:
         if (!m_isSetUp) {
             return;
         }
+        m_isSetUp = false;
         Reorder();
-        {
+        if (!m_lingering.empty()) {
             m_map.writeLock();
             const std::unique_lock guard(m_map, std::adopt_lock);
-            std::erase_if(m_map.contents(), [this](const auto& item) { return m_buried.contains(item.second); });
+            std::erase_if(m_map.contents(), [this](const auto& item) { return m_lingering.contains(item.second); });
         }
         std::for_each(m_buried.begin(), m_buried.end(), &DeleteQuietly<Entry>);
         m_buried.clear();
-        m_slots.clear();
-        m_order.clear();
-        m_isSetUp = false;
+        m_lingering.clear();
+        m_chain.Clear();
     }
 
 private:
-    struct Slot {
-        Entry* entry;
-        std::size_t position; ///< in the vector, as long as that is not reordered
-    };
-    using Order = std::list<Slot>;
+    using Number = typename SlotChain<Entry>::Number;
 
+    /// Slot n of the chain is position n - 1 of the vector.
     void SetUp() {
-        if (!m_isSetUp) {
-            m_order.clear(); // of an earlier try that failed
-            m_slots.clear();
-            m_size = 0;
+        if (m_entries.size() < m_chain.Last()) {
+            Finish(); // others took entries out of the vector
         }
-        TakeUpNewcomers();
+        if (!m_isSetUp) {
+            m_chain.Clear(); // of an earlier try that failed
+        }
+        m_chain.Reserve(m_entries.size() - m_chain.Last());
+        while (m_chain.Last() < m_entries.size()) { // what is there, and then what others append
+            m_chain.Append(m_entries[m_chain.Last()]);
+        }
         m_isSetUp = true;
     }
 
-    /// What stands in the vector behind what is known, appended by others.
-    void TakeUpNewcomers() {
-        for (; m_size < m_entries.size(); ++m_size) {
-            Order last;
-            last.push_back({m_entries[m_size], m_size});
-            m_slots.emplace(m_entries[m_size], last.begin());
-            m_order.splice(m_order.end(), last);
+    /// Marks an entry as one to be destroyed; its slots, of which it is to be taken out. When this throws, nothing has
+    /// happened.
+    std::vector<Number> Bury(Entry* old) {
+        std::vector<Number> slots = m_chain.FindAll(old);
+        m_chain.Reserve(slots.size());
+        m_buried.push_back(old);
+        // Whoever stands twice has two keys, and so may others when there are more keys than entries.
+        if (slots.size() != 1 || m_map.contents().size() > m_entries.size()) {
+            try {
+                m_lingering.insert(old);
+            } catch (...) {
+                m_buried.pop_back();
+                throw;
+            }
         }
-    }
-
-    typename Order::iterator Where(PlacementOrder order, Entry* neighbour) {
-        if (order == PlacementOrder::First) {
-            return m_order.begin();
-        }
-        const auto known = order == PlacementOrder::Last ? m_slots.end() : m_slots.find(neighbour);
-        if (known == m_slots.end()) {
-            return m_order.end();
-        }
-        return order == PlacementOrder::Before ? known->second : std::next(known->second);
+        return slots;
     }
 
     void Reorder() noexcept {
-        if (m_entries.size() < m_size) { // others took entries out: what they left counts, in their order
-            std::erase_if(m_entries, [this](Entry* entry) { return entry == nullptr || m_buried.contains(entry); });
+        const std::size_t known = m_chain.Last();
+        if (m_entries.size() < known) { // others took entries out: what they left counts, in their order
+            std::erase(m_entries, nullptr);
             return;
         }
-        const std::size_t count = m_order.size(); // at most m_size: nothing is allocated, and newcomers stay
-        std::size_t position = 0;
-        for (const Slot& slot : m_order) {
-            m_entries[position++] = slot.entry;
+        auto into = m_entries.begin();
+        for (Number slot = known == 0 ? 0 : m_chain.Next(0); slot != 0; slot = m_chain.Next(slot)) {
+            *into++ = m_chain.At(slot); // no more than there were: nothing is allocated
         }
-        m_entries.erase(m_entries.begin() + static_cast<std::ptrdiff_t>(count),
-                        m_entries.begin() + static_cast<std::ptrdiff_t>(m_size));
+        m_entries.erase(into, m_entries.begin() + static_cast<std::ptrdiff_t>(known)); // newcomers stay
     }
 
     static inline thread_local ListEdit* innermost = nullptr;
@@ -194,10 +175,9 @@ private:
     Vector& m_entries;
     ListEdit* m_outer;
     bool m_isSetUp = false;
-    std::size_t m_size = 0; ///< how much of the vector is known
-    Order m_order;
-    std::unordered_multimap<Entry*, typename Order::iterator> m_slots;
-    std::unordered_set<Entry*> m_buried;
+    SlotChain<Entry> m_chain;
+    std::vector<Entry*> m_buried;           ///< to be destroyed
+    std::unordered_set<Entry*> m_lingering; ///< of these, what other keys may still lead to
 };
 
 } // namespace Framework
