@@ -181,10 +181,16 @@ TEST(Merge, SourceIsLeftInOrder) {
     EXPECT_EQ(item.GetIndex(), "1");
     EXPECT_NE(item.GetActionData(), nullptr);
     EXPECT_NE(item.GetActionResp(), nullptr);
+    IssueRecorder recorder;
+    ASSERT_TRUE(
+        MergeText(item, "F", "<ActionItem><ActionResp MergeAction='x'/><ActionData MergeAction='y'/></ActionItem>"));
+    ASSERT_EQ(recorder.issues.size(), 2U);
+    EXPECT_EQ(recorder.issues[0].ErrorText.find("ActionData"), 0U); // the parent's fields come first
 }
 
 TEST(Merge, EverySourceMergesAlike) {
-    const std::string xml = "<Outer><LoadConfig><ThreadChildList UniqueName='N'/></LoadConfig></Outer>";
+    const std::string xml = "<Outer><LoadConfig><ThreadChildList UniqueName='N'><ChildThread "
+                            "UniqueName='C'/></ThreadChildList></LoadConfig></Outer>";
     const std::filesystem::path file =
         std::filesystem::temp_directory_path() / ("Night-" + std::to_string(getpid()) + ".xml");
     std::ofstream(file) << xml;
@@ -199,16 +205,40 @@ TEST(Merge, EverySourceMergesAlike) {
         EXPECT_TRUE(merge(object)) << feature << ": " << object.GetLastError();
         ASSERT_EQ(object.GetThreadChildListLength(), 2) << feature;
         EXPECT_EQ(object.GetThreadChildList("N")->GetFeatureID(), feature);
+        // A nested object takes what bears its own name.
+        ThreadChildListType& nested = *object.GetThreadChildList("A");
+        EXPECT_TRUE(merge(nested)) << feature << ": " << nested.GetLastError();
+        EXPECT_EQ(nested.GetUniqueName(), "N");
+        ASSERT_EQ(nested.GetChildThreadLength(), 2) << feature;
+        EXPECT_EQ(nested.GetChildThread("C")->GetFeatureID(), feature);
     };
-    merged(file.stem().c_str(), [&](LoadConfigType& o) { return o.MergeFromFile(nullptr, file.c_str()); });
-    merged("Nights", [&](LoadConfigType& o) { return o.MergeFromTemplate(nullptr, "Nights", "LoadConfig"); });
-    merged("Nights",
-           [&](LoadConfigType& o) { return o.MergeFromTemplate(nullptr, "Nights", "LoadConfig", "LoadConfigType"); });
-    merged("NightModel", [&](LoadConfigType& o) { return o.MergeFromModel(nullptr, "NightModel", "LoadConfig"); });
-    merged("F", [&](LoadConfigType& o) {
+    merged(file.stem().c_str(), [&](TypedDataContainer& o) { return o.MergeFromFile(nullptr, file.c_str()); });
+    merged("Nights", [&](TypedDataContainer& o) { return o.MergeFromTemplate(nullptr, "Nights", "LoadConfig"); });
+    merged("Nights", [&](TypedDataContainer& o) {
+        return o.MergeFromTemplate(nullptr, "Nights", "LoadConfig", "LoadConfigType");
+    });
+    merged("NightModel", [&](TypedDataContainer& o) { return o.MergeFromModel(nullptr, "NightModel", "LoadConfig"); });
+    merged("F", [&](TypedDataContainer& o) {
         return o.MergeFromDOMNode(nullptr, "F", wrapper.GetDOMNode("//LoadConfig", true));
     });
     std::filesystem::remove(file);
+}
+
+TEST(Merge, WhatEveryClassTookFromTheSourceLivesOnWithoutIt) {
+    ForEveryClass([](CatalogClass type) {
+        Samples::Random random(7);
+        const auto object = type.Create(false);
+        const Samples::Sample sample = Samples::Make(type, std::string(type.ElementName()), random, 1, true);
+        ASSERT_TRUE(MergeText(*object, "F", Samples::ToXml(sample, random, false)));
+        for (const CatalogField& field : type.Fields()) {
+            TypedDataContainer* const part = field.IsList() ? field.Entry(*object, 0) : field.GetChild(*object);
+            if (part != nullptr) {
+                const std::unique_ptr<TypedDataContainer> clone(part->Clone());
+                ASSERT_NE(clone, nullptr) << part->GetLastError();
+                EXPECT_EQ(Samples::Lines(*clone), Samples::Lines(*part)) << field.Name();
+            }
+        }
+    });
 }
 
 TEST(Merge, WhatWasAttachedToTheSourceLivesOnWithoutIt) {
