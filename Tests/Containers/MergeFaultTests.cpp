@@ -33,6 +33,15 @@ void FailAtStep(const char* where) {
     throw std::bad_alloc();
 }
 
+// A sanitizer brings its own of these otherwise, which must not meet our delete.
+[[gnu::noinline]] void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    try {
+        return operator new(size);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
 [[gnu::noinline]] void operator delete(void* memory) noexcept {
     std::free(memory);
 }
