@@ -377,7 +377,7 @@ TEST(MergeControl, SingleValueIsTakenAndItsWordReported) {
     });
 }
 
-/// A host's class that does something of its own to the list while a merge walks it.
+/// A host's class that does something of its own to list and source while a merge walks them.
 class MeddlingList : public ThreadChildListType {
     using EntryMap = Zelvon::SyncMap<zelString, TypedDataContainer*>;
     using Entries = std::vector<TypedDataContainer*>;
@@ -389,6 +389,7 @@ public:
         const bool success =
             ThreadChildListType::MergeElement(feature, map, entries, source, fresh, key, keyName, name);
         if (key == "B") {
+            EXPECT_NE(source->GetDOMNode(false, false), nullptr); // from here on the source is a DOM
             RemoveChildThread("C", "");
             auto* const own = new ChildThreadType(false);
             own->SetUniqueName("Own");
@@ -402,12 +403,12 @@ TEST(MergeControl, ListThatIsChangedByOthersDuringTheWalkStaysWhole) {
     MeddlingList list;
     ASSERT_TRUE(LoadText(list, "<ThreadChildList>" + Thread("'A'") + Thread("'B'") + Thread("'C'") + Thread("'D'") +
                                    "</ThreadChildList>"));
-    ASSERT_TRUE(MergeText(list, "F",
-                          "<ThreadChildList>" + Thread("'D' PlacementOrder='First'") +
-                              Thread("'B' MergeAction='Remove'") +
-                              Thread("'A' PlacementOrder='After' PlacementIndex='Own'") +
-                              Thread("'E' PlacementOrder='Before' PlacementIndex='A'") + "</ThreadChildList>"));
-    EXPECT_EQ(Threads(list), "D Own E A");
+    ASSERT_TRUE(MergeText(
+        list, "F",
+        "<ThreadChildList>" + Thread("'D' PlacementOrder='First'") + Thread("'B' MergeAction='Remove'") +
+            Thread("'E' PlacementOrder='Before' PlacementIndex='Own'") + "<DataStorageContainer/></ThreadChildList>"));
+    EXPECT_EQ(Threads(list), "D A E Own");
+    EXPECT_EQ(list.GetDataStorageContainerLength(), 1);
 }
 
 TEST(MergeControl, EntryUnderTwoKeysGoesOnceAndWithBoth) {

@@ -13,12 +13,15 @@ namespace {
 /// The walk of one class over the merge source. It is driven by the fields: what the source holds is taken over, what
 /// it does not hold keeps its value. The wrapper stands on the container's node between two fields, and on the entry or
 /// child while that is merged.
+///
+/// A host's MergeElement may ask the source for a DOM, and so make that the wrapper's master in mid-walk. The walk goes
+/// on reading the tree it began with, and translates where it stands the wrapper.
 class MergeWalk {
 public:
     MergeWalk(TypedDataContainer& object, const FieldTable& table, XMLDataWrapper* pMergeData,
               const zelString& sFeatureID, unsigned int line)
         : m_object(object), m_table(table), m_wrapper(pMergeData), m_source(WrapperAccess::State(*pMergeData)),
-          m_featureID(sFeatureID), m_line(line) {}
+          m_tree(*m_source.Tree()), m_featureID(sFeatureID), m_line(line) {}
 
     ~MergeWalk() {
         if (!m_storedQuery.Empty()) {
@@ -39,17 +42,21 @@ public:
             m_node = m_source.Find(query, true);
         }
         Reposition();
+        m_here = m_source.Here();
         for (const FieldRow& row : m_table.rows) {
             TakeField(row);
         }
     }
 
 private:
-    const XmlTree& Tree() const { return *m_source.Tree(); }
+    void Stand(NodeRef node) {
+        const bool isTranslated = m_source.domIsMaster && m_source.document.get() == &m_tree;
+        m_source.current = isTranslated ? m_source.Translate(node) : node;
+    }
 
     void Reposition() {
         if (m_node != NodeRef::None) {
-            m_source.current = m_node;
+            Stand(m_node);
         }
     }
 
@@ -57,21 +64,22 @@ private:
         FaultPoint("Merge");
         switch (row.form) {
         case FieldForm::Attribute:
-            if (const NodeRef node = FindAttribute(Tree(), m_source.Here(), row.name); node != NodeRef::None) {
-                SetScalar(m_object, row, TextOf(Tree(), node));
+            if (const NodeRef node = FindAttribute(m_tree, m_here, row.name); node != NodeRef::None) {
+                SetScalar(m_object, row, TextOf(m_tree, node));
             }
             break;
         case FieldForm::Element:
-            if (const NodeRef node = LastChildNamed(Tree(), m_source.Here(), row.name); node != NodeRef::None) {
+            if (const NodeRef node = LastChildNamed(m_tree, m_here, row.name); node != NodeRef::None) {
                 SetScalar(m_object, row,
-                          row.cdata ? m_object.GetCDataValue(m_wrapper, row.name.data()) : TextOf(Tree(), node));
+                          row.cdata ? m_object.GetCDataValue(m_wrapper, row.name.data()) : TextOf(m_tree, node));
                 IsPossible(node, ControlSite::Value); // else reported; the value is taken as always
             }
             break;
         case FieldForm::Child:
-            if (const NodeRef node = LastChildNamed(Tree(), m_source.Here(), row.name); node != NodeRef::None) {
-                m_source.current = node;
-                TakeChild(row);
+            if (const NodeRef node = LastChildNamed(m_tree, m_here, row.name); node != NodeRef::None) {
+                Stand(node);
+                TakeChild(row, node);
+                m_here = m_node == NodeRef::None ? node : m_node; // a container that is not found stays where it is
                 Reposition();
             }
             break;
@@ -83,12 +91,12 @@ private:
     }
 
     /// Merges into a child that holds data; loads one that does not, or that is not there yet.
-    void TakeChild(const FieldRow& row) {
-        const OverridePlace place(&Tree(), m_source.current, &m_featureID);
+    void TakeChild(const FieldRow& row, NodeRef node) {
+        const OverridePlace place(m_source.Tree(), m_source.current, &m_featureID);
         TypedDataContainer* child = row.child->get(m_object);
-        const MergeControl control = ReadControl(Tree(), m_source.current, ControlSite::Child);
+        const MergeControl control = ReadControl(m_tree, node, ControlSite::Child);
         if (control.action != MergeAction::Merge || !control.problem.empty()) {
-            if (!PrepareChild(row, child, control)) {
+            if (!PrepareChild(row, node, child, control)) {
                 return;
             }
         }
@@ -104,17 +112,16 @@ private:
         child->SetContainerName(row.name.data());
         child->SetFeatureID(m_object.GetFeatureID());
         ContainerAccess::SetLookup(*child, ContainerAccess::Lookup(m_object));
-        child->SetContainedDataPtr(m_wrapper, Tree().View(m_source.current), ContainerAccess::IsReadOnly(m_object),
-                                   true);
+        child->SetContainedDataPtr(m_wrapper, m_tree.View(node), ContainerAccess::IsReadOnly(m_object), true);
         ContainerAccess::SetMergeFeature(*child, m_featureID);
     }
 
     /// Does what the child's node asks for beyond the usual steps. False when these are not to follow.
-    bool PrepareChild(const FieldRow& row, TypedDataContainer* child, const MergeControl& control) {
+    bool PrepareChild(const FieldRow& row, NodeRef node, TypedDataContainer* child, const MergeControl& control) {
         const std::string problem =
             control.problem.empty() ? ActionProblem(control.action, child != nullptr, "child") : control.problem;
         if (!problem.empty()) {
-            Report(m_source.current, problem);
+            Report(node, problem);
             return false;
         }
         switch (control.action) {
@@ -151,17 +158,16 @@ private:
     }
 
     void TakeEntries(const FieldRow& row) {
-        const NodeRef here = m_source.Here();
         std::vector<NodeRef> nodes;
-        for (NodeRef child = Tree().FirstChild(here); child != NodeRef::None; child = Tree().NextSibling(child)) {
-            if (Tree().Kind(child) == NodeKind::Element && Tree().Name(child) == row.name) {
+        for (NodeRef child = m_tree.FirstChild(m_here); child != NodeRef::None; child = m_tree.NextSibling(child)) {
+            if (m_tree.Kind(child) == NodeKind::Element && m_tree.Name(child) == row.name) {
                 nodes.push_back(child);
             }
         }
         for (std::size_t i = 0; i < nodes.size(); ++i) {
-            m_source.current = nodes[i];
-            TakeEntry(row, i + 1);
-            m_source.current = here;
+            Stand(nodes[i]);
+            TakeEntry(row, nodes[i], i + 1);
+            Stand(m_here);
         }
         Reposition();
         if (!m_source.lists.empty()) { // a list that someone keeps under the query of this one goes with the merge
@@ -169,16 +175,16 @@ private:
         }
     }
 
-    void TakeEntry(const FieldRow& row, std::size_t position) {
-        const OverridePlace place(&Tree(), m_source.current, &m_featureID);
+    void TakeEntry(const FieldRow& row, NodeRef node, std::size_t position) {
+        const OverridePlace place(m_source.Tree(), m_source.current, &m_featureID);
         if (row.form == FieldForm::KeyedList) {
-            MergeKeyed(row, position);
-        } else if (!IsPossible(m_source.current, ControlSite::PlainEntry)) {
+            MergeKeyed(row, node, position);
+        } else if (!IsPossible(node, ControlSite::PlainEntry)) {
             return;
         } else if (row.value == FieldValue::Container) {
             AddContainer(row);
         } else {
-            row.list->addText(m_object, TextOf(Tree(), m_source.current), {});
+            row.list->addText(m_object, TextOf(m_tree, node), {});
         }
     }
 
@@ -192,9 +198,9 @@ private:
     }
 
     /// Hands the entry to MergeElement, which decides.
-    void MergeKeyed(const FieldRow& row, std::size_t position) {
+    void MergeKeyed(const FieldRow& row, NodeRef node, std::size_t position) {
         const zelString name(row.name.data());
-        zelString key = AttributeOf(Tree(), m_source.current, row.keyAttribute);
+        zelString key = AttributeOf(m_tree, node, row.keyAttribute);
         if (row.value == FieldValue::Container) {
             m_object.MergeElement(m_featureID, m_object.*row.map.entries, m_object.*row.member.entries, m_wrapper,
                                   row.list->newEntry(false), key, row.keyAttribute.data(), name);
@@ -202,8 +208,8 @@ private:
         }
         if (row.numberedKeys && key.empty()) {
             key = SupportFunc::GetStrValue(static_cast<long>(position));
-        } else if (FindAttribute(Tree(), m_source.current, row.keyAttribute) == NodeRef::None) {
-            Report(m_source.current, "the entry has no key, expected the attribute " + std::string(row.keyAttribute));
+        } else if (FindAttribute(m_tree, node, row.keyAttribute) == NodeRef::None) {
+            Report(node, "the entry has no key, expected the attribute " + std::string(row.keyAttribute));
             return;
         }
         m_object.MergeElement(m_featureID, m_object.*row.map.texts, m_object.*row.member.keyedTexts, m_wrapper,
@@ -212,7 +218,7 @@ private:
 
     /// Whether what the node asks for can be done at such a site; else that is reported.
     bool IsPossible(NodeRef node, ControlSite site) {
-        const MergeControl control = ReadControl(Tree(), node, site);
+        const MergeControl control = ReadControl(m_tree, node, site);
         if (!control.problem.empty()) {
             Report(node, control.problem);
         }
@@ -220,17 +226,19 @@ private:
     }
 
     void Report(NodeRef node, const std::string& what) {
-        ReportOverride(m_object, {Tree(), node, m_featureID}, what, m_line);
+        ReportOverride(m_object, {m_tree, node, m_featureID}, what, m_line);
     }
 
     TypedDataContainer& m_object;
     const FieldTable& m_table;
     XMLDataWrapper* m_wrapper;
     WrapperState& m_source;
+    const XmlTree& m_tree;
     zelString m_featureID;
     unsigned int m_line;
-    NodeRef m_node = NodeRef::None;
-    QueryChain m_storedQuery; ///< of a nested object, to be put back
+    NodeRef m_node = NodeRef::None; ///< the container's own
+    NodeRef m_here = NodeRef::None; ///< what names are relative to
+    QueryChain m_storedQuery;       ///< of a nested object, to be put back
 };
 
 } // namespace
