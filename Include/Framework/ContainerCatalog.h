@@ -51,6 +51,8 @@ public:
     /// Sets a scalar from text by the rules of a load. False, and nothing changed, when the text is none of that kind
     /// (a number, a bool, a word of the vocabulary) or the field is no scalar.
     bool SetText(TypedDataContainer& object, const zelString& sText) const;
+    /// Sets an entry of a list of strings or enumerations from text, as SetText does a scalar.
+    bool SetEntryText(TypedDataContainer& object, std::size_t position, const zelString& sText) const;
     /// The child, null when there is none; lent.
     TypedDataContainer* GetChild(TypedDataContainer& object) const;
     /// Number of entries of a list, without making any.
@@ -63,6 +65,11 @@ public:
     zelString EntryKey(TypedDataContainer& object, std::size_t position) const;
     /// Whether the XML that the object was loaded from holds the field: false for a value that is only a default.
     bool StandsInDocument(TypedDataContainer& object) const;
+    /// Writes the field, and nothing else, into the XML that the object stands on, by the rules of UpdateContainedData.
+    /// True when it stands there now.
+    bool WriteBack(TypedDataContainer& object) const;
+    /// The same for one entry of a list of strings or enumerations; false when the entry has no node.
+    bool WriteBack(TypedDataContainer& object, std::size_t position) const;
 
 private:
     const Framework::FieldRow* m_pRow;
