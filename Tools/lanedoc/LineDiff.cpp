@@ -122,13 +122,14 @@ private:
             single.push_back({oldEnd - (step.takesOut ? 1U : 0U), oldEnd, newEnd - (step.takesOut ? 0U : 1U), newEnd});
             taken -= step.takesOut ? 1U : 0U;
         }
-        for (auto change = single.rbegin(); change != single.rend(); ++change) {
-            if (!m_changes.empty() && m_changes.back().oldEnd == change->oldBegin &&
-                m_changes.back().newEnd == change->newBegin) {
-                m_changes.back().oldEnd = change->oldEnd;
-                m_changes.back().newEnd = change->newEnd;
+        std::reverse(single.begin(), single.end());
+        for (const LineChange& change : single) {
+            LineChange* const last = m_changes.empty() ? nullptr : &m_changes.back();
+            if (last != nullptr && last->oldEnd == change.oldBegin && last->newEnd == change.newBegin) {
+                last->oldEnd = change.oldEnd;
+                last->newEnd = change.newEnd;
             } else {
-                m_changes.push_back(*change);
+                m_changes.push_back(change);
             }
         }
         m_oldAt = oldReached;

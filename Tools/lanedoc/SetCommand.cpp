@@ -73,7 +73,7 @@ std::string ExpectedWord(const CatalogField& field, const std::string& value) {
         expected = "expected true or false";
         break;
     case CatalogField::Int:
-        expected = "expected a whole number from -2147483648 to 2147483647";
+        expected = "expected a whole number in plain digits, from -2147483648 to 2147483647";
         break;
     case CatalogField::Double:
         expected = "expected a number";
