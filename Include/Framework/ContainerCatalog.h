@@ -53,6 +53,12 @@ public:
     bool SetText(TypedDataContainer& object, const zelString& sText) const;
     /// Sets an entry of a list of strings or enumerations from text, as SetText does a scalar.
     bool SetEntryText(TypedDataContainer& object, std::size_t position, const zelString& sText) const;
+    /// Writes a scalar, and nothing else, into the XML that the object stands on, by the rules of UpdateContainedData.
+    /// True when it stands there now, or its absence says the same. False when the object is read only, stands on no
+    /// document, or the text cannot stand in it; the last error of the object's wrapper tells which.
+    bool WriteBack(TypedDataContainer& object) const;
+    /// The same for one entry of a list of strings or enumerations; false also when the entry has no node there.
+    bool WriteBack(TypedDataContainer& object, std::size_t position) const;
     /// The child, null when there is none; lent.
     TypedDataContainer* GetChild(TypedDataContainer& object) const;
     /// Number of entries of a list, without making any.
@@ -65,11 +71,6 @@ public:
     zelString EntryKey(TypedDataContainer& object, std::size_t position) const;
     /// Whether the XML that the object was loaded from holds the field: false for a value that is only a default.
     bool StandsInDocument(TypedDataContainer& object) const;
-    /// Writes the field, and nothing else, into the XML that the object stands on, by the rules of UpdateContainedData.
-    /// True when it stands there now.
-    bool WriteBack(TypedDataContainer& object) const;
-    /// The same for one entry of a list of strings or enumerations; false when the entry has no node.
-    bool WriteBack(TypedDataContainer& object, std::size_t position) const;
 
 private:
     const Framework::FieldRow* m_pRow;

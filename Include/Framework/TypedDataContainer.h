@@ -53,6 +53,12 @@ public:
     class FRAMEWORK_API SimpleDataContainer : public ParameterList::ParameterDataType {
     public:
         zelString FeatureID{"Base"}; ///< the feature that added the entry
+
+    private:
+        friend struct Framework::ContainerAccess;
+        std::weak_ptr<Framework::Attachment> m_pContainedData; // the document of the entry's node
+        std::uintptr_t m_uNode = 0;
+        zelString m_sWritten; // what was loaded from that node or written there last
     };
 
     /// The template store that always answers: an XML name that is not registered in it gives an empty element of that
@@ -132,7 +138,8 @@ public:
     virtual zelString GetAttributeList();
     /// The attributes of the object as a new list, which the caller owns.
     virtual ParameterList* GetPLAttributeList();
-    /// The query of an entry relative to this object's node.
+    /// The query of an entry relative to this object's node: `Name[identity attributes]` when that finds the entry's
+    /// own node, else `Name[n]` by its position; the former also for an entry that has no node here.
     virtual zelString BuildUpdateQuery(zelString sXMLName, TypedDataContainer* pEntry);
     /// CDATA text of the child `sXMLName` of the node that the wrapper stands on.
     virtual zelString GetCDataValue(XMLDataWrapper* pData, zelString sXMLName);
@@ -172,6 +179,12 @@ public:
                                    bool bIncludeMergeAttributes);
     virtual bool DumpMergeContentsII(DOMNode* pParentNode, FullFunctionXMLDataWrapper* pOutput,
                                      DOMNode*& pPassedCurrent, bool bIncludeMergeAttributes);
+    /// Writes the members of the object and of all that hangs below it back into the XML that each stands on: only what
+    /// reads otherwise there, and exactly where a load reads it. An absent element or attribute is made only for a
+    /// value that its absence does not give. Children and entries without a node are passed over. The result is that of
+    /// the last single value or text of a plain list; the wrapper's GetLastError tells why one could not be written.
+    /// False, with "Update not supported for read only objects", for a read-only object; true when it stands on no
+    /// document.
     virtual bool UpdateContainedData();
     /// The walk of a load over the child nodes of `pNode`, not null. Adds to what the object holds.
     virtual bool PopulateDataMembers(XalanNode* pNode);
@@ -231,6 +244,7 @@ private:
         nullptr;                // a literal that stands for m_sLastError, so that reporting a failure cannot fail
     std::uintptr_t m_uNode = 0; // the node of the wrapper's document that the object stands on
     zelString m_sMergeFeature;  // the feature of the last merge that touched the object
+    std::unique_ptr<std::vector<std::uintptr_t>> m_pEarlierNodes; // it was populated from these before, and not reset
 };
 
 /// Base of most document roots.

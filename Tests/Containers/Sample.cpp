@@ -6,6 +6,8 @@ namespace Samples {
 
 namespace {
 
+enum class Noise { None, Strangers, Repeats };
+
 bool Chance(Random& random, unsigned percent) {
     return random() % 100 < percent;
 }
@@ -78,19 +80,27 @@ std::string Absent(const CatalogField& field) {
     return field.LoadText().empty() ? std::string(field.DefaultText()) : std::string(field.LoadText());
 }
 
-std::string WriteText(const std::string& text, Random& random, bool noise) {
+std::string WriteText(const std::string& text, Random& random, Noise noise) {
     const bool canBeSection = text.find("]]>") == std::string::npos;
-    if (noise && canBeSection && Chance(random, 30)) {
+    if (noise != Noise::None && canBeSection && Chance(random, 30)) {
         const std::size_t half = text.find('&') == std::string::npos ? text.size() : text.find('&');
         return "<![CDATA[" + text.substr(0, half) + "]]>" + Escaped(text.substr(half));
     }
     return Escaped(text);
 }
 
-std::string WriteElement(const Sample& sample, Random& random, bool noise);
+std::string WriteElement(const Sample& sample, Random& random, Noise noise);
 
-void WriteField(const FieldSample& sample, Random& random, bool noise, std::vector<std::string>& parts) {
+void WriteField(const FieldSample& sample, Random& random, Noise noise, std::vector<std::string>& parts) {
     const std::string name(sample.field.Name());
+    if (noise == Noise::Repeats && Chance(random, 50)) {
+        const FieldSample& field = sample;
+        if (field.child != nullptr) {
+            parts.push_back(WriteElement(Make(field.child->type, name, random, 50), random, noise));
+        } else if (field.field.IsScalar()) {
+            parts.push_back("<" + name + ">" + Escaped(MakeScalar(field.field, random)) + "</" + name + ">");
+        }
+    }
     if (sample.child != nullptr) {
         parts.push_back(WriteElement(*sample.child, random, noise));
     } else if (sample.field.IsScalar() && sample.present) {
@@ -99,7 +109,7 @@ void WriteField(const FieldSample& sample, Random& random, bool noise, std::vect
 }
 
 /// The entries of one list in their order: a list keeps the order of the document.
-void WriteEntries(const FieldSample& sample, Random& random, bool noise, std::vector<std::string>& parts) {
+void WriteEntries(const FieldSample& sample, Random& random, Noise noise, std::vector<std::string>& parts) {
     const std::string name(sample.field.Name());
     int misleading = 90;
     for (const EntrySample& entry : sample.entries) {
@@ -108,7 +118,7 @@ void WriteEntries(const FieldSample& sample, Random& random, bool noise, std::ve
             continue;
         }
         const bool numbered = sample.field.HasNumberedKeys();
-        const std::string key = numbered && noise ? std::to_string(misleading--) : entry.key;
+        const std::string key = numbered && noise != Noise::None ? std::to_string(misleading--) : entry.key;
         const std::string attribute =
             sample.field.KeyAttribute().empty()
                 ? ""
@@ -131,7 +141,7 @@ std::string Stranger(Random& random, const std::string& name) {
     return strangers[random() % std::size(strangers)];
 }
 
-std::string WriteElement(const Sample& sample, Random& random, bool noise) {
+std::string WriteElement(const Sample& sample, Random& random, Noise noise) {
     std::string text = "<" + sample.name;
     std::vector<std::vector<std::string>> fields; // what may change places as a whole
     for (const FieldSample& field : sample.fields) {
@@ -150,12 +160,14 @@ std::string WriteElement(const Sample& sample, Random& random, bool noise) {
         fields.push_back(std::move(parts));
     }
     text += ">";
-    if (noise) {
+    if (noise != Noise::None) {
         std::shuffle(fields.begin(), fields.end(), random);
     }
     for (const std::vector<std::string>& parts : fields) {
         for (const std::string& part : parts) {
-            text += noise && Chance(random, 40) ? Stranger(random, std::string(sample.fields[0].field.Name())) : "";
+            text += noise != Noise::None && Chance(random, 40)
+                        ? Stranger(random, std::string(sample.fields[0].field.Name()))
+                        : "";
             text += part;
         }
     }
@@ -280,7 +292,12 @@ void Merge(Sample& base, const Sample& over) {
 }
 
 std::string ToXml(const Sample& sample, Random& random, bool noise) {
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + WriteElement(sample, random, noise) + "\n";
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" +
+           WriteElement(sample, random, noise ? Noise::Strangers : Noise::None) + "\n";
+}
+
+std::string ToXmlWithRepeats(const Sample& sample, Random& random) {
+    return WriteElement(sample, random, Noise::Repeats);
 }
 
 std::vector<std::string> Lines(const Sample& sample) {

@@ -48,6 +48,9 @@ void Merge(Sample& base, const Sample& over);
 /// partly as CDATA, and numbered lists carry numbers that mean nothing.
 std::string ToXml(const Sample& sample, Random& random, bool noise);
 
+/// The same with elements that should stand once standing twice, with other content in the first.
+std::string ToXmlWithRepeats(const Sample& sample, Random& random);
+
 /// One line for each value, in the order of the class's fields: what the sample says a loaded object must hold.
 std::vector<std::string> Lines(const Sample& sample);
 

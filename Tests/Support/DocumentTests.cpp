@@ -179,7 +179,7 @@ TEST(Document, ReadsOddButWellFormedDocuments) {
         SCOPED_TRACE(each.source);
         const auto document = Parse(std::string(each.source));
         EXPECT_EQ(Dump(*document, document->DocumentNode(), true), each.tree);
-        EXPECT_EQ(document->OriginalBytes(), each.source);
+        EXPECT_EQ(document->Bytes(), each.source);
         CheckTree(*document);
     }
 }
@@ -272,7 +272,7 @@ TEST(Document, ReadsEveryEncodingAndKeepsItsBytes) {
         EXPECT_EQ(document->EncodingName(), each.encoding);
         EXPECT_EQ(document->HasByteOrderMark(), each.mark);
         EXPECT_EQ(Dump(*document, document->Root(), false), "a( k='" + each.text + "'|\"" + each.text + "\")");
-        EXPECT_EQ(document->OriginalBytes(), bytes);
+        EXPECT_EQ(document->Bytes(), bytes);
         EXPECT_EQ(EncodeDocument(document->Source(), document->EncodingName(), document->HasByteOrderMark()), bytes);
         EXPECT_EQ(document->PlaceOf(document->Root()), (Place{each.declared.empty() ? 1U : 2U, 1}));
     }

@@ -30,30 +30,81 @@ struct ContainerAccess {
 
     /// Stands the object on a node of the tree that the wrapper reads from at this moment.
     static void Attach(TypedDataContainer& object, std::shared_ptr<Attachment> attachment, NodeRef node) {
-        const bool isDomNode = WrapperAccess::State(*attachment->Wrapper()).domIsMaster;
+        object.m_pEarlierNodes.reset();
+        object.m_uNode = Mark(*attachment, node);
         object.m_pContainedData = std::move(attachment);
-        object.m_uNode = (static_cast<std::uintptr_t>(node) << 1) | (isDomNode ? 1U : 0U);
     }
+
+    /// The same for an object that is populated once more without being reset: what the new node lacks was read from
+    /// the ones before.
+    static void AttachAgain(TypedDataContainer& object, std::shared_ptr<Attachment> attachment, NodeRef node) {
+        if (object.m_pContainedData != attachment) {
+            Attach(object, std::move(attachment), node);
+            return;
+        }
+        if (object.m_pEarlierNodes == nullptr) {
+            object.m_pEarlierNodes = std::make_unique<std::vector<std::uintptr_t>>();
+        }
+        object.m_pEarlierNodes->push_back(object.m_uNode);
+        object.m_uNode = Mark(*attachment, node);
+    }
+
+    /// The members were reset: they no longer hold anything of earlier nodes.
+    static void ForgetEarlierNodes(TypedDataContainer& object) { object.m_pEarlierNodes.reset(); }
 
     static void Detach(TypedDataContainer& object) {
         object.m_pContainedData.reset();
+        object.m_pEarlierNodes.reset();
         object.m_uNode = 0;
     }
 
     /// The node the object stands on, in the tree that its wrapper reads from now; None when it stands on none.
     static NodeRef Node(const TypedDataContainer& object) {
-        const XMLDataWrapper* const wrapper = Wrapper(object);
-        if (wrapper == nullptr) {
-            return NodeRef::None;
-        }
-        const NodeRef node{object.m_uNode >> 1};
-        return (object.m_uNode & 1U) != 0 ? node : WrapperAccess::State(*wrapper).Translate(node);
+        return object.m_pContainedData == nullptr ? NodeRef::None : Unmark(*object.m_pContainedData, object.m_uNode);
     }
+
+    /// The nodes it was populated from before that one, since it was reset.
+    static std::vector<NodeRef> EarlierNodes(const TypedDataContainer& object) {
+        std::vector<NodeRef> nodes;
+        if (object.m_pEarlierNodes != nullptr) {
+            for (const std::uintptr_t mark : *object.m_pEarlierNodes) {
+                nodes.push_back(Unmark(*object.m_pContainedData, mark));
+            }
+        }
+        return nodes;
+    }
+
+    using TextEntry = TypedDataContainer::SimpleDataContainer;
+
+    /// An entry of a list of strings was loaded from, or written to, a node of the document that `object` stands on.
+    static void AttachText(TextEntry& entry, const TypedDataContainer& object, NodeRef node, const zelString& text) {
+        entry.m_sWritten = text;
+        entry.m_pContainedData = object.m_pContainedData;
+        entry.m_uNode = Mark(*object.m_pContainedData, node);
+    }
+    /// Its node, None when it has none in the document that `object` stands on.
+    static NodeRef TextNode(const TextEntry& entry, const TypedDataContainer& object) {
+        const auto& own = object.m_pContainedData;
+        const bool isSame = !entry.m_pContainedData.owner_before(own) && !own.owner_before(entry.m_pContainedData);
+        return own == nullptr || !isSame ? NodeRef::None : Unmark(*own, entry.m_uNode);
+    }
+    static const zelString& WrittenText(const TextEntry& entry) { return entry.m_sWritten; }
 
     /// Keeps a literal as the error: allocates nothing, cannot fail.
     static void SetFixedError(TypedDataContainer& object, int number, const char* text) noexcept {
         object.m_iLastError = number;
         object.m_pFixedError = text;
+    }
+
+private:
+    // A node is kept with a mark that tells its tree: a DOM may take over from the reading tree at any time.
+    static std::uintptr_t Mark(const Attachment& attachment, NodeRef node) {
+        const bool isDomNode = WrapperAccess::State(*attachment.Wrapper()).domIsMaster;
+        return (static_cast<std::uintptr_t>(node) << 1) | (isDomNode ? 1U : 0U);
+    }
+    static NodeRef Unmark(const Attachment& attachment, std::uintptr_t mark) {
+        const NodeRef node{mark >> 1};
+        return (mark & 1U) != 0 ? node : WrapperAccess::State(*attachment.Wrapper()).Translate(node);
     }
 };
 

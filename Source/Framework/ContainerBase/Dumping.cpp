@@ -62,15 +62,6 @@ bool TypedDataContainer::DumpMergeContentsII(DOMNode*, FullFunctionXMLDataWrappe
     return true;
 }
 
-bool TypedDataContainer::UpdateContainedData() {
-    return true;
-}
-
-zelString TypedDataContainer::BuildUpdateQuery(zelString sXMLName, TypedDataContainer* pEntry) {
-    const zelString attributes = pEntry == nullptr ? zelString() : pEntry->GetAttributeList();
-    return attributes.empty() ? sXMLName : zelString(sXMLName + "[" + attributes + "]");
-}
-
 zelString TypedDataContainer::GetCDataValue(XMLDataWrapper* pData, zelString sXMLName) {
     const WrapperState* const state = LoadedState(pData);
     if (state == nullptr) {

@@ -110,7 +110,7 @@ bool TypedDataContainer::SetContainedDataPtr(XMLDataWrapper* pData, XalanNode* s
             tree = state->Tree();
             node = state->Here();
         } else if (state != nullptr && tree != state->Tree()) {
-            node = tree == state->document.get() ? state->Translate(node) : NodeRef::None;
+            node = state->HeldDocument(tree) ? state->Translate(node) : NodeRef::None;
             tree = state->Tree();
         }
         if (state == nullptr || node == NodeRef::None || tree->Kind(node) != NodeKind::Element) {
@@ -119,7 +119,7 @@ bool TypedDataContainer::SetContainedDataPtr(XMLDataWrapper* pData, XalanNode* s
         }
         ContainerAccess::SetReadOnly(*this, bReadOnly);
         ContainerAccess::SetNested(*this, bNested);
-        ContainerAccess::Attach(*this, Attachment::Of(*pData), node);
+        ContainerAccess::AttachAgain(*this, Attachment::Of(*pData), node);
         const bool success = PopulateDataMembers(tree->View(node));
         ContainerAccess::SetValid(*this, success);
         return success;

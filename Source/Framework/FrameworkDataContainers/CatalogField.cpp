@@ -1,8 +1,12 @@
+#include <algorithm>
+
 #include "Framework/ContainerBase/ContainerAccess.h"
 #include "Framework/ContainerCatalog.h"
 #include "Framework/FrameworkDataContainers/Walks/Scalars.h"
 #include "Framework/FrameworkDataContainers/Walks/TableIndex.h"
+#include "Framework/FrameworkDataContainers/Walks/Walks.h"
 #include "Framework/XMLSupport/TreeReading.h"
+#include "Framework/XMLSupport/Utf.h"
 
 using namespace Framework;
 
@@ -73,21 +77,7 @@ bool CatalogField::IsList() const {
 }
 
 zelString CatalogField::DefaultText() const {
-    switch (m_pRow->value) {
-    case FieldValue::String:
-        return zelString(m_pRow->initial.text);
-    case FieldValue::Bool:
-        return SupportFunc::GetStrValue(m_pRow->initial.flag);
-    case FieldValue::Int:
-        return SupportFunc::GetStrValue(static_cast<long>(m_pRow->initial.number));
-    case FieldValue::Double:
-        return SupportFunc::GetStrValue(0.0);
-    case FieldValue::Enumeration:
-        return m_pRow->enumeration == nullptr ? zelString() : m_pRow->enumeration->word(0);
-    case FieldValue::Container:
-        break;
-    }
-    return {};
+    return Framework::DefaultText(*m_pRow);
 }
 
 std::string_view CatalogField::LoadText() const {
@@ -112,6 +102,39 @@ bool CatalogField::SetText(TypedDataContainer& object, const zelString& sText) c
     }
     SetScalar(object, *m_pRow, sText);
     return true;
+}
+
+bool CatalogField::SetEntryText(TypedDataContainer& object, std::size_t position, const zelString& sText) const {
+    if (m_pRow->value == FieldValue::Container || position >= Length(object)) {
+        return false;
+    }
+    if (m_pRow->value == FieldValue::Enumeration) {
+        const std::vector<zelString> words = Words();
+        TypedDataEnumeration* const word = (object.*m_pRow->member.words)[position];
+        if (word == nullptr || std::find(words.begin(), words.end(), sText) == words.end()) {
+            return false;
+        }
+        *word = sText.c_str();
+        return true;
+    }
+    if (!IsXmlText(sText)) {
+        return false;
+    }
+    if (m_pRow->form == FieldForm::KeyedList) {
+        object.SetSimpleTypeData((object.*m_pRow->member.keyedTexts)[position], sText);
+    } else {
+        (object.*m_pRow->member.texts)[position] = sText;
+    }
+    return true;
+}
+
+bool CatalogField::WriteBack(TypedDataContainer& object) const {
+    return IsScalar() && UpdateField(object, *m_pRow, std::nullopt);
+}
+
+bool CatalogField::WriteBack(TypedDataContainer& object, std::size_t position) const {
+    return IsList() && m_pRow->value != FieldValue::Container && position < Length(object) &&
+           UpdateField(object, *m_pRow, position);
 }
 
 TypedDataContainer* CatalogField::GetChild(TypedDataContainer& object) const {

@@ -1,6 +1,7 @@
 #include "Framework/XMLSupport/Document.h"
 
 #include "Framework/XMLSupport/DocumentParser.h"
+#include "Framework/XMLSupport/DocumentWriter.h"
 #include "Framework/XMLSupport/NodeViews.h"
 
 #include <utility>
@@ -16,13 +17,25 @@ Document::Document(DocumentData data) : m_data(std::move(data)) {}
 
 Document::~Document() = default;
 
+std::shared_ptr<Document> Document::Copy() const {
+    return std::shared_ptr<Document>(new Document(m_data));
+}
+
 std::string_view Document::Value(NodeRef node, std::string& /*room*/) const {
     const NodeRecord& record = Record(node);
     if (record.IsInner() || record.kind == NodeKind::None) {
         return {};
     }
-    const std::string_view holder = record.leaf.inPool ? m_data.pool : m_data.source.text;
-    return holder.substr(record.leaf.valueBegin, record.leaf.valueLength);
+    const NodeRecord::Leaf& leaf = record.leaf;
+    switch (leaf.holder) {
+    case ValueHolder::Source:
+        return std::string_view(m_data.source.text).substr(leaf.valueBegin, leaf.valueLength);
+    case ValueHolder::Pool:
+        return std::string_view(m_data.pool).substr(leaf.valueBegin, leaf.valueLength);
+    case ValueHolder::Written:
+        break;
+    }
+    return m_data.changes.values[leaf.valueBegin];
 }
 
 XALAN_CPP_NAMESPACE::XalanNode* Document::View(NodeRef node) const {
@@ -30,12 +43,8 @@ XALAN_CPP_NAMESPACE::XalanNode* Document::View(NodeRef node) const {
     return m_views->View(node);
 }
 
-std::string Document::OriginalBytes() const {
-    const DecodedText& source = m_data.source;
-    if (!source.original.empty()) {
-        return source.original;
-    }
-    return source.byteOrderMark ? "\xEF\xBB\xBF" + source.text : source.text;
+std::string Document::Bytes() const {
+    return WriteDocument(m_data);
 }
 
 ByteRange Document::StartTag(NodeRef element) const {

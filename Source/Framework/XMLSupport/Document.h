@@ -15,17 +15,20 @@ namespace Framework {
 
 class NodeViews;
 
-/// A loaded XML document: its text and the tree that reads it. It never changes and may be read from many threads.
+/// A loaded XML document: its text and the tree that reads it. Only a DocumentEditor changes it, and only while nobody
+/// shares it; a shared one never changes and may be read from many threads.
 ///
 /// CDATA sections are nodes of their own, also empty ones; neighbouring text is one node; white space, comments and
 /// instructions are kept, outside the root too. Comments and instructions there are children of the document node; the
-/// XML declaration is no node. Node numbers follow the order of the document.
+/// XML declaration is no node. Node numbers follow the order of the document until something is added.
 class Document final : public XmlTree {
 public:
     /// Throws ParseError, "sourceName:line:column: ...", when the bytes are no well-formed document within the limits,
     /// and std::bad_alloc.
     static std::shared_ptr<const Document> Parse(std::string bytes, std::string sourceName, const LoadLimits& limits);
     ~Document() override;
+    /// A document of its own with the same content, numbers and changes.
+    std::shared_ptr<Document> Copy() const;
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
 
@@ -50,14 +53,16 @@ public:
     const std::string& SourceName() const { return m_data.sourceName; }
     /// The text as UTF-8 without byte order mark: what ranges refer to.
     const std::string& Source() const { return m_data.source.text; }
-    /// Exactly the bytes that were parsed.
-    std::string OriginalBytes() const;
+    /// The document's bytes: those that were parsed, with only what was changed written anew. Throws WriteError when
+    /// the result would not load again.
+    std::string Bytes() const;
     /// As iconv knows it, with the byte order named.
     const std::string& EncodingName() const { return m_data.source.encoding; }
     bool HasByteOrderMark() const { return m_data.source.byteOrderMark; }
 
     /// An element from the '<' of its start tag to the '>' of its end tag, an attribute from its name to the closing
-    /// quote, the others with their delimiters; the document node is the whole text.
+    /// quote, the others with their delimiters; the document node is the whole text. All ranges are those of the parsed
+    /// text; of a node that was added, the place where it came in.
     ByteRange Range(NodeRef node) const { return {Record(node).begin, Record(node).end}; }
     /// The start tag of an element with its angle brackets.
     ByteRange StartTag(NodeRef element) const;
@@ -69,6 +74,8 @@ public:
     std::size_t NodeCount() const { return m_data.nodes.size() - 1; }
 
 private:
+    friend class DocumentEditor;
+
     explicit Document(DocumentData data);
 
     static NodeRef Ref(std::uint32_t number) { return NodeRef{number}; }

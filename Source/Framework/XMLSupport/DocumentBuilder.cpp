@@ -127,7 +127,7 @@ void DocumentBuilder::FlushRun() {
     record.leaf.valueBegin = m_run.valueBegin;
     record.leaf.valueLength = static_cast<std::uint32_t>(valueEnd) - m_run.valueBegin;
     record.leaf.rawBegin = m_run.begin + (isSection ? kSectionOpening : 0);
-    record.leaf.inPool = m_run.inPool;
+    record.leaf.holder = m_run.inPool ? ValueHolder::Pool : ValueHolder::Source;
     AddChild(number);
     m_run.kind = NodeKind::None;
 }
@@ -151,11 +151,12 @@ void DocumentBuilder::Instruction(std::string_view target, std::string_view cont
 
 void DocumentBuilder::SetValue(NodeRecord& record, std::string_view value, ByteRange raw) {
     const std::string_view written = std::string_view(m_data.source.text).substr(raw.begin, raw.Size());
-    record.leaf.inPool = value != written;
+    const bool inPool = value != written;
+    record.leaf.holder = inPool ? ValueHolder::Pool : ValueHolder::Source;
     record.leaf.rawBegin = raw.begin;
-    record.leaf.valueBegin = record.leaf.inPool ? static_cast<std::uint32_t>(m_data.pool.size()) : raw.begin;
+    record.leaf.valueBegin = inPool ? static_cast<std::uint32_t>(m_data.pool.size()) : raw.begin;
     record.leaf.valueLength = static_cast<std::uint32_t>(value.size());
-    if (record.leaf.inPool) {
+    if (inPool) {
         m_data.pool.append(value);
     }
 }

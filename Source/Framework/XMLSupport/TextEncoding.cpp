@@ -286,4 +286,41 @@ std::optional<std::string> EncodeDocument(std::string_view text, const std::stri
     return bytes;
 }
 
+EncodedCharacters::EncodedCharacters(std::string encoding)
+    : m_encoding(std::move(encoding)), m_hasAll(m_encoding.starts_with("UTF-")) {}
+
+bool EncodedCharacters::Has(std::string_view character) {
+    const std::optional<std::string> bytes = EncodeDocument(character, m_encoding, false);
+    std::string back;
+    std::size_t consumed = 0;
+    return bytes.has_value() &&
+           Converter("UTF-8", m_encoding).Convert(*bytes, back, consumed) == Converter::Outcome::Complete &&
+           back == character;
+}
+
+std::size_t EncodedCharacters::FindMissing(std::string_view text) {
+    if (m_hasAll) {
+        return std::string_view::npos;
+    }
+    const auto isContinued = [&](std::size_t at) {
+        return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U;
+    };
+    for (std::size_t at = 0; at < text.size();) {
+        std::size_t end = at + 1;
+        while (isContinued(end)) {
+            ++end;
+        }
+        const std::string_view character = text.substr(at, end - at);
+        auto asked = m_asked.find(character);
+        if (asked == m_asked.end()) {
+            asked = m_asked.emplace(m_characters.emplace_back(character), Has(character)).first;
+        }
+        if (!asked->second) {
+            return at;
+        }
+        at = end;
+    }
+    return std::string_view::npos;
+}
+
 } // namespace Framework

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <deque>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 namespace Framework {
 
@@ -30,5 +32,22 @@ std::string HexByte(char byte);
 
 /// The way back: nothing when a character does not exist in the encoding.
 std::optional<std::string> EncodeDocument(std::string_view text, const std::string& encoding, bool byteOrderMark);
+
+/// Answers for one encoding which characters can stand in a text of it: those that come back as they went in.
+class EncodedCharacters {
+public:
+    explicit EncodedCharacters(std::string encoding);
+
+    /// Offset of the first character (UTF-8) that cannot stand in it, npos when all can.
+    std::size_t FindMissing(std::string_view text);
+
+private:
+    bool Has(std::string_view character);
+
+    std::string m_encoding;
+    bool m_hasAll;
+    std::unordered_map<std::string_view, bool> m_asked;
+    std::deque<std::string> m_characters;
+};
 
 } // namespace Framework

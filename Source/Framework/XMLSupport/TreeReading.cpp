@@ -24,6 +24,21 @@ std::string TextOf(const XmlTree& tree, NodeRef node) {
     return text;
 }
 
+std::string_view TextIn(const XmlTree& tree, NodeRef node, std::string& room) {
+    if (tree.Kind(node) != NodeKind::Element) {
+        return tree.Value(node, room);
+    }
+    const NodeRef child = tree.FirstChild(node);
+    if (child == NodeRef::None) {
+        return {};
+    }
+    if (IsText(tree.Kind(child)) && tree.NextSibling(child) == NodeRef::None) {
+        return tree.Value(child, room);
+    }
+    room = TextOf(tree, node);
+    return room;
+}
+
 std::string CDataOf(const XmlTree& tree, NodeRef element) {
     std::string room;
     std::string text;

@@ -7,6 +7,9 @@ namespace Framework {
 /// All text and CDATA that stands directly in the element, joined; the value of any other node.
 std::string TextOf(const XmlTree& tree, NodeRef node);
 
+/// The same without a copy where the text stands in one piece. The view points into the tree or into `room`.
+std::string_view TextIn(const XmlTree& tree, NodeRef node, std::string& room);
+
 /// From the first CDATA section to the last, the text between them included; without a section as TextOf.
 std::string CDataOf(const XmlTree& tree, NodeRef element);
 

@@ -1,9 +1,14 @@
 #include "Framework/XMLSupport/WrapperState.h"
 
 #include "Framework/XMLSupport/Attachment.h"
+#include "Framework/XMLSupport/DocumentEditor.h"
+#include "Framework/XMLSupport/DomEditor.h"
 #include "Framework/XMLSupport/FaultPoint.h"
 #include "Framework/XMLSupport/PathLookup.h"
 #include "Framework/XMLSupport/TreeReading.h"
+#include "Framework/XMLSupport/XmlWriter.h"
+
+#include <algorithm>
 
 namespace Framework {
 
@@ -14,6 +19,12 @@ NodeRef WrapperState::Here() const {
         return current;
     }
     return Tree()->Root();
+}
+
+bool WrapperState::HeldDocument(const XmlTree* tree) const {
+    return tree != nullptr &&
+           (tree == document.get() ||
+            std::any_of(left.begin(), left.end(), [tree](const auto& each) { return each.get() == tree; }));
 }
 
 NodeRef WrapperState::Translate(NodeRef documentNode) const {
@@ -68,6 +79,25 @@ DOMNode* WrapperState::DomNode(NodeRef node) {
         m_index.reset();
     }
     return image;
+}
+
+TreeEditor& WrapperState::Edit() {
+    if (readOnly) {
+        throw WriteError("the document is read only");
+    }
+    if (domIsMaster) {
+        m_editor = std::make_unique<DomEditor>(*dom->document);
+        return *m_editor;
+    }
+    if (document.use_count() > 1) {
+        std::shared_ptr<const Document> copy = document->Copy();
+        m_index.reset();
+        left.push_back(document);
+        document = std::move(copy);
+    }
+    // No other wrapper has it, and it was made as one that can change.
+    m_editor = std::make_unique<DocumentEditor>(const_cast<Document&>(*document));
+    return *m_editor;
 }
 
 void WrapperState::Load(std::shared_ptr<const Document> loaded, bool isReadOnly) {

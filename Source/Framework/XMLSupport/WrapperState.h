@@ -12,6 +12,7 @@
 #include "Framework/XMLSupport/DomBuilder.h"
 #include "Framework/XMLSupport/DomTree.h"
 #include "Framework/XMLSupport/QueryChain.h"
+#include "Framework/XMLSupport/TreeEditor.h"
 
 namespace Framework {
 
@@ -36,6 +37,9 @@ struct WrapperState {
     QueryChain query;
     std::unordered_map<std::string, std::vector<NodeRef>> lists;
     std::weak_ptr<Attachment> attachment;
+    /// Documents that were left behind for a copy of their own when they had to be changed while shared: callers may
+    /// still hold nodes of them, which have the same numbers in the copy.
+    std::vector<std::shared_ptr<const Document>> left;
     std::string error;
     int errorNumber = 0;
 
@@ -44,6 +48,8 @@ struct WrapperState {
         return domIsMaster ? static_cast<const XmlTree*>(dom->tree.get()) : static_cast<const XmlTree*>(document.get());
     }
     bool IsLoaded() const { return Tree() != nullptr; }
+    /// Whether the tree is the reading tree, now or before it was changed.
+    bool HeldDocument(const XmlTree* tree) const;
     /// The node that names are relative to: the current one, else the root.
     NodeRef Here() const;
     /// A node of the reading tree as a node of Tree(): itself, or its image in the DOM.
@@ -52,6 +58,11 @@ struct WrapperState {
     NodeRef Find(std::string_view path, bool fromDocument);
     /// The DOM node that stands for a node of Tree(). Builds the DOM when there is none.
     DOMNode* DomNode(NodeRef node);
+    /// Write access to Tree(), good until the next call of anything else here. A document that is shared is copied
+    /// first, so nobody else sees the change; numbers of nodes stay. Throws WriteError on a read-only document.
+    TreeEditor& Edit();
+    /// To be called when an element or attribute came, went or was renamed: indexes are made anew.
+    void NodesChanged() { m_index.reset(); }
     /// A document that was loaded becomes this wrapper's, which starts afresh. Throws std::runtime_error on a private
     /// wrapper, whose objects have nowhere to go.
     void Load(std::shared_ptr<const Document> loaded, bool isReadOnly);
@@ -61,6 +72,7 @@ struct WrapperState {
 
 private:
     std::optional<ChildIndex> m_index;
+    std::unique_ptr<TreeEditor> m_editor;
     void BuildDom();
 };
 

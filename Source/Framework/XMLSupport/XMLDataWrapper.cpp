@@ -62,7 +62,7 @@ zelString XMLDataWrapper::GetXMLText() {
             const DomTree& tree = *m_pState->dom->tree;
             text = WriteXml(tree, tree.DocumentNode(), {.declaration = true, .indent = m_pState->isOutput});
         } else {
-            text = m_pState->document->OriginalBytes();
+            text = m_pState->document->Bytes();
         }
     });
     return text;
@@ -137,7 +137,7 @@ void XMLDataWrapper::SetCurrentNode(XalanNode* pNode) {
     }
     if (tree == m_pState->Tree()) {
         m_pState->current = node;
-    } else if (tree == m_pState->document.get()) {
+    } else if (m_pState->HeldDocument(tree)) {
         m_pState->current = m_pState->Translate(node);
     }
 }

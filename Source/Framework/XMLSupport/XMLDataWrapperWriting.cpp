@@ -1,13 +1,50 @@
 #include "Framework/SupportFunc.h"
 #include "Framework/XMLDataWrapper.h"
 
+#include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/NodePath.h"
+#include "Framework/XMLSupport/ScalarWriter.h"
+#include "Framework/XMLSupport/TreeReading.h"
 #include "Framework/XMLSupport/WrapperState.h"
 
 using namespace Framework;
 
-bool XMLDataWrapper::SetQueryValue(const zelString& sName, const zelString&, bool) {
-    m_pState->SetError(-1, "cannot write " + sName + ": writing into a document is not supported yet");
+namespace {
+
+/// The node that a name or path gives: a child, else an attribute of that name. Throws EditError.
+NodeRef NodeToWrite(WrapperState& state, const zelString& sName, bool bFromDocument) {
+    if (!state.IsLoaded()) {
+        throw EditError("cannot write " + sName + ": no document is loaded");
+    }
+    NodeRef node = state.Find(sName, bFromDocument);
+    if (node == NodeRef::None && state.Here() != NodeRef::None && sName.find_first_of("/[@") == std::string::npos) {
+        node = FindAttribute(*state.Tree(), state.Here(), sName);
+    }
+    if (node == NodeRef::None) {
+        const std::string where =
+            state.Here() == NodeRef::None ? "the document" : NodePath(*state.Tree(), state.Here());
+        throw EditError("cannot write " + sName + ": there is no such element or attribute in " + where);
+    }
+    return node;
+}
+
+bool Write(WrapperState& state, const zelString& sName, const zelString& sText, bool bFromDocument, TextForm form) {
+    FaultPoint("SetQueryValue");
+    try {
+        WriteNode(state, NodeToWrite(state, sName, bFromDocument), sText, form, ValueKind::Text);
+        return true;
+    } catch (const std::runtime_error& failure) {
+        state.SetError(-1, failure.what());
+    } catch (const std::invalid_argument& failure) {
+        state.SetError(-1, failure.what());
+    }
     return false;
+}
+
+} // namespace
+
+bool XMLDataWrapper::SetQueryValue(const zelString& sName, const zelString& sValue, bool bFromDocument) {
+    return Write(*m_pState, sName, sValue, bFromDocument, TextForm::Text);
 }
 
 bool XMLDataWrapper::SetQueryValue(const zelString& sName, const char* sValue, bool bFromDocument) {
@@ -27,5 +64,5 @@ bool XMLDataWrapper::SetQueryValue(const zelString& sName, double dValue, bool b
 }
 
 bool XMLDataWrapper::SetQueryCData(const zelString& sName, const zelString& sText, int, int) {
-    return SetQueryValue(sName, sText, false);
+    return Write(*m_pState, sName, sText, false, TextForm::CData);
 }

@@ -34,6 +34,8 @@ std::string_view Reference(char character) {
         return "&gt;";
     case '"':
         return "&quot;";
+    case '\'':
+        return "&apos;";
     case '\t':
         return "&#9;";
     case '\n':
@@ -105,8 +107,8 @@ void AppendEscapedText(std::string& xml, std::string_view text) {
     AppendEscaped(xml, text, "&<>\r", Reference);
 }
 
-void AppendEscapedAttribute(std::string& xml, std::string_view value) {
-    AppendEscaped(xml, value, "&<\"\t\n\r", Reference);
+void AppendEscapedAttribute(std::string& xml, std::string_view value, char quote) {
+    AppendEscaped(xml, value, quote == '"' ? "&<\"\t\n\r" : "&<'\t\n\r", Reference);
 }
 
 void AppendCData(std::string& xml, std::string_view text) {

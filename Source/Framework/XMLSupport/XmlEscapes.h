@@ -17,8 +17,8 @@ bool IsXmlName(std::string_view name);
 /// Text between tags. Line ends stay as they are, a CR becomes a reference.
 void AppendEscapedText(std::string& xml, std::string_view text);
 
-/// The value of an attribute, for double quotes around it; tab and line ends become references.
-void AppendEscapedAttribute(std::string& xml, std::string_view value);
+/// The value of an attribute, for these quotes around it; tab and line ends become references.
+void AppendEscapedAttribute(std::string& xml, std::string_view value, char quote = '"');
 
 /// A CDATA section. What cannot stand in one closes it and a new one is opened behind: "]]>" is divided, a CR stands
 /// between the two as a reference. So the first and the last node are always sections.

@@ -81,6 +81,7 @@ struct EnumThunks {
     void (*setNumber)(TypedDataContainer& object, int number);
     int (*number)(TypedDataContainer& object);
     zelString (*word)(int number);               ///< the word of a number, empty when it has none
+    zelString (*wordOf)(const char* text);       ///< the text when it is a word, else empty
     void (*words)(std::vector<zelString>& list); ///< appends the texts of the vocabulary
 };
 
@@ -209,6 +210,7 @@ template <typename Class, typename Enum, Enum Class::*Member> struct EnumOf<Memb
         [](TypedDataContainer& object, int number) { static_cast<Class&>(object).*Member = number; },
         [](TypedDataContainer& object) { return (static_cast<Class&>(object).*Member).Value(); },
         [](int number) { return Enum(number).StringOf(); },
+        [](const char* text) { return Enum(text).StringOf(); },
         [](std::vector<zelString>& list) { Enum::GetContainedValueList(list); },
     };
 };

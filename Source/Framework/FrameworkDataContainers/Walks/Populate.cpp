@@ -83,15 +83,25 @@ private:
             const zelString key =
                 row.form == FieldForm::KeyedList ? AttributeOf(m_tree, node, row.keyAttribute) : zelString();
             row.list->addEntry(m_object, m_object.GetContainedDataPtr(), m_tree.View(node), key);
+        } else if (row.form == FieldForm::KeyedList) {
+            TakeKeyedText(row, node);
         } else {
-            row.list->addText(m_object, TextOf(m_tree, node), TextKey(row, node));
+            row.list->addText(m_object, TextOf(m_tree, node), {});
+        }
+    }
+
+    /// The entry remembers its node: its key need not stand there.
+    void TakeKeyedText(const FieldRow& row, NodeRef node) {
+        const TextVector& texts = m_object.*row.member.keyedTexts;
+        const std::size_t before = texts.size();
+        const zelString text = TextOf(m_tree, node);
+        row.list->addText(m_object, text, TextKey(row, node));
+        if (texts.size() > before && ContainerAccess::Wrapper(m_object) != nullptr) {
+            ContainerAccess::AttachText(*texts.back(), m_object, node, text);
         }
     }
 
     zelString TextKey(const FieldRow& row, NodeRef node) {
-        if (row.form != FieldForm::KeyedList) {
-            return {};
-        }
         if (!row.numberedKeys) {
             return AttributeOf(m_tree, node, row.keyAttribute);
         }

@@ -78,6 +78,37 @@ zelString ScalarText(TypedDataContainer& object, const FieldRow& row) {
     return {};
 }
 
+zelString DefaultText(const FieldRow& row) {
+    switch (row.value) {
+    case FieldValue::String:
+        return zelString(row.initial.text);
+    case FieldValue::Bool:
+        return SupportFunc::GetStrValue(row.initial.flag);
+    case FieldValue::Int:
+        return SupportFunc::GetStrValue(static_cast<long>(row.initial.number));
+    case FieldValue::Double:
+        return SupportFunc::GetStrValue(0.0);
+    case FieldValue::Enumeration:
+        return row.enumeration == nullptr ? zelString() : row.enumeration->word(0);
+    case FieldValue::Container:
+        break;
+    }
+    return {};
+}
+
+std::vector<std::string_view> ElementOrder(const FieldTable& table) {
+    std::vector<std::string_view> order;
+    if (table.parent != nullptr) {
+        order = ElementOrder(*table.parent);
+    }
+    for (const FieldRow& row : table.rows) {
+        if (row.form != FieldForm::Attribute) {
+            order.push_back(row.name);
+        }
+    }
+    return order;
+}
+
 void ResetScalar(TypedDataContainer& object, const FieldRow& row) {
     switch (row.value) {
     case FieldValue::String:

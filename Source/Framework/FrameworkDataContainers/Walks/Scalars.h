@@ -14,6 +14,12 @@ bool IsLegalText(const FieldRow& row, const zelString& text);
 /// The text that a dump writes for a scalar.
 zelString ScalarText(TypedDataContainer& object, const FieldRow& row);
 
+/// The text of what the constructor gives a scalar.
+zelString DefaultText(const FieldRow& row);
+
+/// The element names of a class in the order of its fields, the parent's first.
+std::vector<std::string_view> ElementOrder(const FieldTable& table);
+
 /// Gives a scalar what the constructor gives it.
 void ResetScalar(TypedDataContainer& object, const FieldRow& row);
 

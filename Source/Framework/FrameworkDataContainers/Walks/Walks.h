@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "Framework/FrameworkDataContainers/Walks/FieldTable.h"
 
 /// The operations that every generated class hands to its table. Each walk stands in the file of its name and says
@@ -12,6 +14,8 @@ namespace Framework {
 bool Populate(TypedDataContainer& object, const FieldTable& table, XalanNode* pNode);
 // Update.cpp
 bool Update(TypedDataContainer& object, const FieldTable& table);
+/// The same for one field, a scalar, or for one entry of a list of texts. False when it does not stand in the document.
+bool UpdateField(TypedDataContainer& object, const FieldRow& row, std::optional<std::size_t> position);
 // Merge.cpp; `line` is the line of the call, which an override problem is logged with
 bool Merge(TypedDataContainer& object, const FieldTable& table, XMLDataWrapper* pMergeData, const zelString& sFeatureID,
            unsigned int line);

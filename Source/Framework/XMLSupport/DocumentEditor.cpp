@@ -1,0 +1,412 @@
+#include "Framework/XMLSupport/DocumentEditor.h"
+
+#include "Framework/XMLSupport/NodeViews.h"
+#include "Framework/XMLSupport/XmlWriter.h"
+
+#include <limits>
+#include <utility>
+
+namespace Framework {
+
+namespace {
+
+std::uint32_t NumberOf(NodeRef node) {
+    return static_cast<std::uint32_t>(node);
+}
+
+/// Reserves as growing would, so that many small steps stay linear.
+template <typename Items> void MakeRoom(Items& items, std::size_t count) {
+    if (items.capacity() < count) {
+        items.reserve(count * 2);
+    }
+}
+
+std::string_view Text(const DocumentData& data, const NodeRecord& record) {
+    const NodeRecord::Leaf& leaf = record.leaf;
+    if (leaf.holder == ValueHolder::Written) {
+        return data.changes.values[leaf.valueBegin];
+    }
+    const std::string& holder = leaf.holder == ValueHolder::Pool ? data.pool : data.source.text;
+    return std::string_view(holder).substr(leaf.valueBegin, leaf.valueLength);
+}
+
+} // namespace
+
+DocumentEditor::DocumentEditor(Document& document)
+    : m_document(document), m_data(document.m_data), m_changes(document.m_data.changes) {
+    if (!m_changes.any) {
+        DecodedText& source = m_data.source;
+        if (!source.original.empty()) {
+            if (EncodeDocument(source.text, source.encoding, source.byteOrderMark) != source.original) {
+                throw WriteError("cannot change " + m_data.sourceName + ": the encoding " + source.encoding +
+                                 " does not give the bytes of the document back");
+            }
+            std::string().swap(source.original);
+        }
+        m_changes.parsedNodes = static_cast<Number>(m_data.nodes.size());
+        m_changes.any = true;
+    }
+    if (m_document.m_views != nullptr) {
+        m_document.m_views->TreeChanged();
+    }
+}
+
+// --- texts
+
+DocumentEditor::Region DocumentEditor::TextRegion(Number element, TextForm form) const {
+    std::vector<Number> texts;
+    std::size_t firstSection = 0;
+    std::size_t behindSections = 0;
+    for (Number child = Record(element).inner.firstChild; child != 0; child = Record(child).next) {
+        if (!Record(child).IsText()) {
+            continue;
+        }
+        texts.push_back(child);
+        if (Record(child).kind == NodeKind::CData) {
+            firstSection = behindSections == 0 ? texts.size() - 1 : firstSection;
+            behindSections = texts.size();
+        }
+    }
+    Region region;
+    region.hasSection = behindSections != 0;
+    if (form == TextForm::CData && region.hasSection) {
+        texts.resize(behindSections);
+        texts.erase(texts.begin(), texts.begin() + static_cast<std::ptrdiff_t>(firstSection));
+    }
+    if (!texts.empty()) {
+        region.first = texts.front();
+        region.others.assign(texts.begin() + 1, texts.end());
+    }
+    return region;
+}
+
+void DocumentEditor::RememberTexts(Number element) {
+    if (element >= m_changes.parsedNodes || m_changes.texts.contains(element)) {
+        return;
+    }
+    DocumentChanges::ElementText before;
+    for (Number child = Record(element).inner.firstChild; child != 0; child = Record(child).next) {
+        if (Record(child).IsText() && child < m_changes.parsedNodes) {
+            before.parsed.push_back({child, Record(child)});
+        }
+    }
+    m_changes.touched.insert(element);
+    m_changes.texts.emplace(element, std::move(before));
+}
+
+void DocumentEditor::SetText(NodeRef node, std::string_view text, TextForm form) {
+    const Number element = NumberOf(node);
+    const Region region = TextRegion(element, form);
+    const NodeKind kind = region.hasSection || form == TextForm::CData ? NodeKind::CData : NodeKind::Text;
+    RememberTexts(element);
+    if (region.first == 0) {
+        const Number next = Record(element).inner.firstChild;
+        const Number added = NewText(text, kind, element, PlaceBefore(element, next));
+        LinkBefore(added, next);
+        if (const auto change = m_changes.texts.find(element); change != m_changes.texts.end()) {
+            change->second.added = added;
+        }
+        return;
+    }
+    Write(Record(region.first), text);
+    Record(region.first).kind = kind;
+    TakeOverBlanks(element, region.first);
+    for (const Number other : region.others) {
+        Unlink(other);
+        if (other < m_changes.parsedNodes) {
+            ReleaseValue(Record(other));
+            Record(other).kind = NodeKind::None;
+        } else {
+            ReleaseNode(other);
+        }
+    }
+}
+
+/// Blanks that came with added elements count as text of the element they stand in as soon as that gets one.
+void DocumentEditor::TakeOverBlanks(Number element, Number first) noexcept {
+    for (Number child = Record(element).inner.firstChild; child != 0; child = Record(child).next) {
+        if (const auto added = m_changes.elements.find(child); added != m_changes.elements.end()) {
+            added->second = {};
+        }
+    }
+    const auto change = m_changes.texts.find(element);
+    if (first >= m_changes.parsedNodes && change != m_changes.texts.end()) {
+        change->second.added = first;
+    }
+}
+
+void DocumentEditor::RestoreText(Number element) {
+    const auto change = m_changes.texts.find(element);
+    if (change == m_changes.texts.end()) {
+        return;
+    }
+    if (const Number added = change->second.added; added != 0) {
+        Unlink(added);
+        ReleaseNode(added);
+    }
+    // Parsed nodes are in the order of the text; what was added at the same place stands before them.
+    Number next = Record(element).inner.firstChild;
+    for (const DocumentChanges::ParsedNode& parsed : change->second.parsed) {
+        NodeRecord& record = Record(parsed.number);
+        const bool wasUnlinked = record.kind == NodeKind::None;
+        ReleaseValue(record);
+        record.kind = parsed.record.kind;
+        record.leaf = parsed.record.leaf;
+        if (wasUnlinked) {
+            while (next != 0 && Record(next).begin <= record.begin) {
+                next = Record(next).next;
+            }
+            LinkBefore(parsed.number, next);
+        }
+    }
+    m_changes.texts.erase(change);
+}
+
+// --- attributes
+
+void DocumentEditor::SetValue(NodeRef node, std::string_view value) {
+    const Number attribute = NumberOf(node);
+    if (attribute < m_changes.parsedNodes) {
+        m_changes.touched.insert(Record(attribute).parent);
+        m_changes.attributes.try_emplace(attribute, Record(attribute));
+    }
+    Write(Record(attribute), value);
+}
+
+void DocumentEditor::AddAttribute(NodeRef node, std::string_view name, std::string_view value) {
+    const Number element = NumberOf(node);
+    const Number number = m_data.names.Intern(name) & NodeRecord::kNameMask;
+    Number last = 0;
+    for (Number each = Record(element).inner.firstAttribute; each != 0; each = Record(each).next) {
+        last = each;
+    }
+    if (element < m_changes.parsedNodes) {
+        m_changes.touched.insert(element);
+    }
+    const Number added = NewText(value, NodeKind::Attribute, element, Record(element).begin);
+    NodeRecord& record = Record(added);
+    record.name = number & NodeRecord::kNameMask;
+    record.previous = last;
+    (last == 0 ? Record(element).inner.firstAttribute : Record(last).next) = added;
+}
+
+// --- elements
+
+void DocumentEditor::AddElement(const ElementPlace& place, std::string_view name, std::string_view text,
+                                TextForm form) {
+    const Number parent = NumberOf(place.parent);
+    const Number next = NumberOf(place.next);
+    const Number begin = PlaceBefore(parent, next);
+    const Number named = m_data.names.Intern(name) & NodeRecord::kNameMask;
+    if (parent < m_changes.parsedNodes) {
+        m_changes.touched.insert(parent);
+    }
+    const Number element = NewNode(NodeKind::Element, parent, begin);
+    DocumentChanges::AddedElement& added = m_changes.elements[element];
+    added = {};
+    Record(element).name = named & NodeRecord::kNameMask;
+    Record(element).inner.startTagEnd = begin;
+    if (!text.empty()) {
+        const NodeKind kind = form == TextForm::CData ? NodeKind::CData : NodeKind::Text;
+        LinkBefore(NewText(text, kind, element, begin), 0);
+    }
+    if (!place.blanksBefore.empty()) {
+        added.before = NewText(place.blanksBefore, NodeKind::Text, parent, begin);
+    }
+    if (!place.blanksAfter.empty()) {
+        added.after = NewText(place.blanksAfter, NodeKind::Text, parent, begin);
+    }
+    for (const Number number : {added.before, element, added.after}) {
+        if (number != 0) {
+            LinkBefore(number, next);
+        }
+    }
+}
+
+// --- what was before
+
+std::optional<std::string> DocumentEditor::Parsed(NodeRef node, TextForm form) const {
+    const Number number = NumberOf(node);
+    if (Record(number).kind == NodeKind::Attribute) {
+        const auto found = m_changes.attributes.find(number);
+        return found == m_changes.attributes.end() ? std::nullopt
+                                                   : std::optional<std::string>(Text(m_data, found->second));
+    }
+    const auto found = m_changes.texts.find(number);
+    if (found == m_changes.texts.end()) {
+        return std::nullopt;
+    }
+    const std::vector<DocumentChanges::ParsedNode>& parsed = found->second.parsed;
+    std::size_t begin = 0;
+    std::size_t end = parsed.size();
+    if (form == TextForm::CData) {
+        const auto isSection = [&](std::size_t at) { return parsed[at].record.kind == NodeKind::CData; };
+        std::size_t first = 0;
+        while (first < end && !isSection(first)) {
+            ++first;
+        }
+        if (first < end) {
+            begin = first;
+            while (!isSection(end - 1)) {
+                --end;
+            }
+        }
+    }
+    std::string text;
+    for (std::size_t at = begin; at < end; ++at) {
+        text.append(Text(m_data, parsed[at].record));
+    }
+    return text;
+}
+
+void DocumentEditor::Restore(NodeRef node) {
+    const Number number = NumberOf(node);
+    if (Record(number).kind != NodeKind::Attribute) {
+        RestoreText(number);
+        return;
+    }
+    if (const auto found = m_changes.attributes.find(number); found != m_changes.attributes.end()) {
+        ReleaseValue(Record(number));
+        Record(number).leaf = found->second.leaf;
+        m_changes.attributes.erase(found);
+    }
+}
+
+bool DocumentEditor::IsAdded(NodeRef node) const {
+    return NumberOf(node) >= m_changes.parsedNodes;
+}
+
+void DocumentEditor::Remove(NodeRef node) {
+    const Number number = NumberOf(node);
+    const auto found = m_changes.elements.find(number);
+    const DocumentChanges::AddedElement blanks =
+        found == m_changes.elements.end() ? DocumentChanges::AddedElement() : found->second;
+    for (const Number each : {blanks.before, number, blanks.after}) {
+        if (each != 0) {
+            Unlink(each);
+            ReleaseNode(each);
+        }
+    }
+    if (found != m_changes.elements.end()) {
+        m_changes.elements.erase(found);
+    }
+}
+
+// --- records
+
+DocumentEditor::Number DocumentEditor::NewNode(NodeKind kind, Number parent, Number begin) {
+    Number number = 0;
+    if (!m_changes.freeNodes.empty()) {
+        number = m_changes.freeNodes.back();
+        m_changes.freeNodes.pop_back();
+    } else {
+        if (m_data.nodes.size() >= std::numeric_limits<Number>::max()) {
+            throw WriteError("cannot change " + m_data.sourceName + ": the document has too many nodes");
+        }
+        number = static_cast<Number>(m_data.nodes.size());
+        m_data.nodes.emplace_back();
+        MakeRoom(m_changes.freeNodes, m_data.nodes.size() - m_changes.parsedNodes); // so that releasing cannot fail
+    }
+    NodeRecord& record = Record(number);
+    record = NodeRecord();
+    record.kind = kind;
+    record.parent = parent;
+    record.begin = begin;
+    record.end = begin;
+    if (!record.IsInner()) {
+        record.leaf = {};
+    }
+    return number;
+}
+
+DocumentEditor::Number DocumentEditor::NewText(std::string_view text, NodeKind kind, Number parent, Number begin) {
+    const Number value = NewValue(text);
+    const Number number = NewNode(kind, parent, begin);
+    NodeRecord::Leaf& leaf = Record(number).leaf;
+    leaf.holder = ValueHolder::Written;
+    leaf.valueBegin = value;
+    leaf.rawBegin = begin;
+    return number;
+}
+
+DocumentEditor::Number DocumentEditor::NewValue(std::string_view text) {
+    if (!m_changes.freeValues.empty()) {
+        const Number value = m_changes.freeValues.back();
+        m_changes.values[value].assign(text);
+        m_changes.freeValues.pop_back();
+        return value;
+    }
+    MakeRoom(m_changes.freeValues, m_changes.values.size() + 1);
+    m_changes.values.emplace_back(text);
+    return static_cast<Number>(m_changes.values.size() - 1);
+}
+
+void DocumentEditor::Write(NodeRecord& record, std::string_view text) {
+    if (record.leaf.holder == ValueHolder::Written) {
+        std::string written(text);
+        m_changes.values[record.leaf.valueBegin].swap(written);
+        return;
+    }
+    record.leaf.valueBegin = NewValue(text);
+    record.leaf.holder = ValueHolder::Written;
+}
+
+void DocumentEditor::ReleaseValue(NodeRecord& record) noexcept {
+    if (record.leaf.holder == ValueHolder::Written) {
+        std::string().swap(m_changes.values[record.leaf.valueBegin]);
+        m_changes.freeValues.push_back(record.leaf.valueBegin);
+        record.leaf = {};
+    }
+}
+
+void DocumentEditor::ReleaseNode(Number number) noexcept {
+    NodeRecord& record = Record(number);
+    if (record.IsInner()) {
+        for (const Number first : {record.inner.firstAttribute, record.inner.firstChild}) {
+            for (Number each = first; each != 0;) {
+                const Number next = Record(each).next;
+                ReleaseNode(each); // what was added is two levels deep at most
+                each = next;
+            }
+        }
+    } else {
+        ReleaseValue(record);
+    }
+    record.kind = NodeKind::None;
+    m_changes.freeNodes.push_back(number);
+}
+
+/// The place in the source at which something comes in.
+DocumentEditor::Number DocumentEditor::PlaceBefore(Number parent, Number next) const {
+    const Number before = next == 0 ? Record(parent).inner.lastChild : Record(next).previous;
+    return before == 0 ? Record(parent).inner.startTagEnd : Record(before).end;
+}
+
+void DocumentEditor::LinkBefore(Number number, Number next) noexcept {
+    NodeRecord& record = Record(number);
+    NodeRecord::Inner& parent = Record(record.parent).inner;
+    const Number before = next == 0 ? parent.lastChild : Record(next).previous;
+    record.previous = before;
+    record.next = next;
+    (before == 0 ? parent.firstChild : Record(before).next) = number;
+    (next == 0 ? parent.lastChild : Record(next).previous) = number;
+}
+
+void DocumentEditor::Unlink(Number number) noexcept {
+    const NodeRecord& record = Record(number);
+    NodeRecord::Inner& parent = Record(record.parent).inner;
+    if (record.previous != 0) {
+        Record(record.previous).next = record.next;
+    } else if (record.kind == NodeKind::Attribute) {
+        parent.firstAttribute = record.next;
+    } else {
+        parent.firstChild = record.next;
+    }
+    if (record.next != 0) {
+        Record(record.next).previous = record.previous;
+    } else if (record.kind != NodeKind::Attribute) {
+        parent.lastChild = record.previous;
+    }
+}
+
+} // namespace Framework

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Framework/XMLSupport/Document.h"
+#include "Framework/XMLSupport/TreeEditor.h"
+
+namespace Framework {
+
+/// Changes the tree of a document that nobody else shares, and notes in its DocumentChanges what to write anew.
+class DocumentEditor final : public TreeEditor {
+public:
+    /// Throws WriteError when the document's bytes could not be given back: its encoding does not convert both ways.
+    explicit DocumentEditor(Document& document);
+
+    void SetText(NodeRef element, std::string_view text, TextForm form) override;
+    void SetValue(NodeRef attribute, std::string_view value) override;
+    void AddAttribute(NodeRef element, std::string_view name, std::string_view value) override;
+    void AddElement(const ElementPlace& place, std::string_view name, std::string_view text, TextForm form) override;
+    std::optional<std::string> Parsed(NodeRef node, TextForm form) const override;
+    void Restore(NodeRef node) override;
+    bool IsAdded(NodeRef node) const override;
+    void Remove(NodeRef node) override;
+
+private:
+    using Number = std::uint32_t;
+    struct Region {
+        Number first = 0; ///< takes the new text; 0 when there is no text
+        std::vector<Number> others;
+        bool hasSection = false;
+    };
+
+    NodeRecord& Record(Number number) { return m_data.nodes[number]; }
+    const NodeRecord& Record(Number number) const { return m_data.nodes[number]; }
+    Region TextRegion(Number element, TextForm form) const;
+    void RememberTexts(Number element);
+    void TakeOverBlanks(Number element, Number first) noexcept;
+    void RestoreText(Number element);
+
+    Number NewNode(NodeKind kind, Number parent, Number begin);
+    Number NewText(std::string_view text, NodeKind kind, Number parent, Number begin);
+    Number NewValue(std::string_view text);
+    void Write(NodeRecord& record, std::string_view text);
+    void ReleaseValue(NodeRecord& record) noexcept;
+    void ReleaseNode(Number number) noexcept;
+    Number PlaceBefore(Number parent, Number next) const;
+    void LinkBefore(Number number, Number next) noexcept;
+    void Unlink(Number number) noexcept;
+
+    Document& m_document;
+    DocumentData& m_data;
+    DocumentChanges& m_changes;
+};
+
+} // namespace Framework

@@ -1,0 +1,262 @@
+#include "Framework/XMLSupport/DocumentWriter.h"
+
+#include "Framework/LoadLimits.h"
+#include "Framework/XMLSupport/XmlEscapes.h"
+#include "Framework/XMLSupport/XmlWriter.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace Framework {
+
+namespace {
+
+/// A stretch of the source and what stands there now.
+struct Patch {
+    std::uint32_t begin;
+    std::uint32_t end;
+    std::string text;
+};
+
+/// The first line end of the document, which new lines are written with.
+std::string_view LineEndOf(std::string_view text) {
+    const std::size_t at = text.find_first_of("\r\n");
+    if (at == std::string_view::npos || text[at] == '\n') {
+        return "\n";
+    }
+    return text.substr(at, text.substr(at, 2) == "\r\n" ? 2 : 1);
+}
+
+/// Compares what was changed with the source, element by element, and notes the differences.
+class PatchMaker {
+public:
+    explicit PatchMaker(const DocumentData& data)
+        : m_data(data), m_lineEnd(LineEndOf(data.source.text)), m_characters(data.source.encoding) {}
+
+    std::vector<Patch> Make() {
+        for (const std::uint32_t element : m_data.changes.touched) {
+            PatchAttributes(element);
+            PatchTexts(element);
+            PatchAdded(element);
+        }
+        std::sort(m_patches.begin(), m_patches.end(), [](const Patch& left, const Patch& right) {
+            return std::tie(left.begin, left.end) < std::tie(right.begin, right.end);
+        });
+        return std::move(m_patches);
+    }
+
+private:
+    const NodeRecord& Record(std::uint32_t number) const { return m_data.nodes[number]; }
+    bool IsAdded(std::uint32_t number) const { return number >= m_data.changes.parsedNodes; }
+    std::string_view Value(const NodeRecord& record) const { return m_data.changes.values[record.leaf.valueBegin]; }
+
+    void PatchAttributes(std::uint32_t element) {
+        const std::string_view source = m_data.source.text;
+        const auto nameSize = m_data.names.Name(Record(element).name).size();
+        std::uint32_t end = Record(element).begin + 1 + static_cast<std::uint32_t>(nameSize);
+        std::string_view blanks;
+        char quote = '"';
+        std::uint32_t each = Record(element).inner.firstAttribute;
+        for (; each != 0 && !IsAdded(each); each = Record(each).next) {
+            const NodeRecord& record = Record(each);
+            blanks = source.substr(end, record.begin - end);
+            quote = source[record.end - 1];
+            end = record.end;
+            if (record.leaf.holder == ValueHolder::Written) {
+                std::string value;
+                AppendAttribute(value, Value(record), quote);
+                m_patches.push_back({record.leaf.rawBegin, record.end - 1, std::move(value)});
+            }
+        }
+        std::string added;
+        for (; each != 0; each = Record(each).next) {
+            added.append(Separator(blanks))
+                .append(m_data.names.Name(Record(each).name))
+                .append(1, '=')
+                .append(1, quote);
+            AppendAttribute(added, Value(Record(each)), quote);
+            added.push_back(quote);
+        }
+        if (!added.empty()) {
+            m_patches.push_back({end, end, std::move(added)});
+        }
+    }
+
+    /// A new attribute stands on a line of its own where the last one does.
+    static std::string_view Separator(std::string_view blanks) {
+        std::size_t line = blanks.find_last_of("\r\n");
+        if (line == std::string_view::npos) {
+            return " ";
+        }
+        line -= line > 0 && blanks.substr(line - 1, 2) == "\r\n" ? 1 : 0;
+        return blanks.substr(line);
+    }
+
+    void PatchTexts(std::uint32_t element) {
+        const auto change = m_data.changes.texts.find(element);
+        if (change == m_data.changes.texts.end()) {
+            return;
+        }
+        for (const DocumentChanges::ParsedNode& parsed : change->second.parsed) {
+            const NodeRecord& record = Record(parsed.number);
+            std::string text;
+            if (record.kind != NodeKind::None) {
+                if (record.leaf.holder != ValueHolder::Written) {
+                    continue; // stands beside the sections that were changed
+                }
+                AppendLeaf(text, record);
+            }
+            m_patches.push_back({record.begin, record.end, WithLineEnds(text)});
+        }
+    }
+
+    /// Every run of added children becomes one insertion.
+    void PatchAdded(std::uint32_t element) {
+        const NodeRecord& parent = Record(element);
+        const bool isClosed = parent.end == parent.inner.startTagEnd; // <a/>
+        std::uint32_t at = parent.inner.startTagEnd;
+        std::string run;
+        const auto flush = [&] {
+            if (run.empty()) {
+                return;
+            }
+            std::string text = WithLineEnds(run);
+            if (isClosed) {
+                text.insert(0, 1, '>');
+                text.append("</").append(m_data.names.Name(parent.name)).append(1, '>');
+            }
+            m_patches.push_back({isClosed ? at - 2 : at, at, std::move(text)});
+            run.clear();
+        };
+        for (std::uint32_t child = parent.inner.firstChild; child != 0; child = Record(child).next) {
+            if (IsAdded(child)) {
+                AppendAdded(run, child);
+            } else {
+                flush();
+                at = Record(child).end;
+            }
+        }
+        flush();
+    }
+
+    void AppendAdded(std::string& xml, std::uint32_t number) {
+        const NodeRecord& record = Record(number);
+        if (record.kind != NodeKind::Element) {
+            AppendLeaf(xml, record);
+            return;
+        }
+        const std::string_view name = m_data.names.Name(record.name);
+        xml.append(1, '<').append(name);
+        for (std::uint32_t each = record.inner.firstAttribute; each != 0; each = Record(each).next) {
+            xml.append(1, ' ').append(m_data.names.Name(Record(each).name)).append("=\"");
+            AppendAttribute(xml, Value(Record(each)), '"');
+            xml.push_back('"');
+        }
+        if (record.inner.firstChild == 0) {
+            xml.append("/>");
+            return;
+        }
+        xml.push_back('>');
+        for (std::uint32_t child = record.inner.firstChild; child != 0; child = Record(child).next) {
+            AppendAdded(xml, child); // what was added is two levels deep at most
+        }
+        xml.append("</").append(name).push_back('>');
+    }
+
+    void AppendLeaf(std::string& xml, const NodeRecord& record) {
+        if (record.kind == NodeKind::CData) {
+            AppendPieces(xml, Value(record), [&](std::string_view piece) { AppendCData(xml, piece); });
+        } else {
+            AppendPieces(xml, Value(record), [&](std::string_view piece) { AppendEscapedText(xml, piece); });
+        }
+    }
+
+    void AppendAttribute(std::string& xml, std::string_view value, char quote) {
+        AppendPieces(xml, value, [&](std::string_view piece) { AppendEscapedAttribute(xml, piece, quote); });
+    }
+
+    /// Between the pieces stand the characters that the encoding lacks, as references.
+    template <typename Append> void AppendPieces(std::string& xml, std::string_view text, Append append) {
+        for (std::size_t at; (at = m_characters.FindMissing(text)) != std::string_view::npos;) {
+            append(text.substr(0, at));
+            const auto lead = static_cast<unsigned char>(text[at]);
+            const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+            std::uint32_t code = length == 1 ? lead : lead & (0x7FU >> length);
+            for (std::size_t i = 1; i < length; ++i) {
+                code = (code << 6U) | (static_cast<unsigned char>(text[at + i]) & 0x3FU);
+            }
+            xml.append("&#").append(std::to_string(code)).push_back(';');
+            text.remove_prefix(at + length);
+        }
+        append(text);
+    }
+
+    std::string WithLineEnds(const std::string& text) const {
+        if (m_lineEnd == "\n") {
+            return text;
+        }
+        std::string result;
+        for (const char character : text) {
+            if (character == '\n') {
+                result.append(m_lineEnd);
+            } else {
+                result.push_back(character);
+            }
+        }
+        return result;
+    }
+
+    const DocumentData& m_data;
+    std::string_view m_lineEnd;
+    EncodedCharacters m_characters;
+    std::vector<Patch> m_patches;
+};
+
+std::string Apply(const std::string& source, const std::vector<Patch>& patches) {
+    std::size_t size = source.size();
+    for (const Patch& patch : patches) {
+        size += patch.text.size();
+    }
+    std::string text;
+    text.reserve(size);
+    std::size_t at = 0;
+    for (const Patch& patch : patches) {
+        text.append(source, at, patch.begin - at).append(patch.text);
+        at = patch.end;
+    }
+    return text.append(source, at);
+}
+
+std::string Encode(const DocumentData& data, std::string text) {
+    const DecodedText& source = data.source;
+    if (source.encoding == "UTF-8" && !source.byteOrderMark) {
+        return text;
+    }
+    std::optional<std::string> bytes = EncodeDocument(text, source.encoding, source.byteOrderMark);
+    if (!bytes.has_value()) {
+        throw WriteError("cannot write " + data.sourceName + ": a name holds a character that the encoding " +
+                         source.encoding + " lacks");
+    }
+    return std::move(*bytes);
+}
+
+} // namespace
+
+std::string WriteDocument(const DocumentData& data) {
+    if (!data.source.original.empty()) {
+        return data.source.original;
+    }
+    const std::vector<Patch> patches = PatchMaker(data).Make();
+    if (patches.empty()) {
+        return Encode(data, data.source.text);
+    }
+    std::string bytes = Encode(data, Apply(data.source.text, patches));
+    const std::size_t most = std::min(LoadLimits::Default().bytes, kMostDocumentBytes);
+    if (bytes.size() > most) {
+        throw WriteError("cannot write " + data.sourceName + ": it would have " + std::to_string(bytes.size()) +
+                         " bytes, more than the " + std::to_string(most) + " that can be loaded again");
+    }
+    return bytes;
+}
+
+} // namespace Framework

@@ -1,0 +1,360 @@
+#include "Containers/EveryClass.h"
+
+#include <algorithm>
+
+#include "FrameworkDataContainers/FrameworkDataContainers.h"
+
+namespace {
+
+/// A value of a tree: a scalar, or an entry of a list of texts.
+struct Value {
+    TypedDataContainer* object;
+    CatalogField field;
+    std::optional<std::size_t> position;
+
+    zelString Get() const { return position ? field.EntryText(*object, *position) : field.GetText(*object); }
+    bool Set(const zelString& text) const {
+        return position ? field.SetEntryText(*object, *position, text) : field.SetText(*object, text);
+    }
+    bool WriteBack() const { return position ? field.WriteBack(*object, *position) : field.WriteBack(*object); }
+};
+
+void CollectValues(TypedDataContainer& object, std::vector<Value>& values) {
+    for (const CatalogField& field : ContainerCatalog::ClassOf(object).Fields()) {
+        if (field.IsScalar()) {
+            values.push_back({&object, field, std::nullopt});
+        } else if (TypedDataContainer* const child = field.GetChild(object)) {
+            CollectValues(*child, values);
+        }
+        for (std::size_t i = 0; i < field.Length(object); ++i) {
+            if (TypedDataContainer* const entry = field.Entry(object, i)) {
+                CollectValues(*entry, values);
+            } else {
+                values.push_back({&object, field, i});
+            }
+        }
+    }
+}
+
+std::vector<Value> ValuesOf(TypedDataContainer& object) {
+    std::vector<Value> values;
+    CollectValues(object, values);
+    return values;
+}
+
+/// Another value of that kind than the one given.
+zelString OtherThan(const CatalogField& field, const zelString& text) {
+    switch (field.GetValue()) {
+    case CatalogField::Bool:
+        return text == "true" ? "false" : "true";
+    case CatalogField::Int:
+        return text == "-7" ? "8" : "-7";
+    case CatalogField::Double:
+        return text == "2.5" ? "0" : "2.5";
+    case CatalogField::Enumeration:
+        for (const zelString& word : field.Words()) {
+            if (word != text) {
+                return word;
+            }
+        }
+        return text;
+    default:
+        return text + "new <&> ]]> \xC3\xA9'\"";
+    }
+}
+
+/// What one changed value may do to a document: one stretch between two bytes that stay. Returns that of the old text.
+std::string_view ChangedStretch(const std::string& before, const std::string& after) {
+    const auto [left, right] = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
+    const auto head = static_cast<std::size_t>(left - before.begin());
+    std::size_t tail = 0;
+    while (tail < std::min(before.size(), after.size()) - head && before.rbegin()[tail] == after.rbegin()[tail]) {
+        ++tail;
+    }
+    return std::string_view(before).substr(head, before.size() - head - tail);
+}
+
+/// Ends of elements and starts of others are never part of a value.
+bool IsWithinOneValue(std::string_view stretch) {
+    std::string text(stretch);
+    for (const std::string section : {"<![CDATA[", "]]>"}) {
+        for (std::size_t at; (at = text.find(section)) != std::string::npos;) {
+            text.erase(at, section.size());
+        }
+    }
+    return text == "/" || text.find('<') == std::string::npos;
+}
+
+struct Loaded {
+    Loaded(CatalogClass type, const std::string& xml) : object(type.Create(false)) {
+        EXPECT_TRUE(wrapper.LoadXMLText(xml, false)) << wrapper.GetLastError();
+        EXPECT_TRUE(object->LoadFromDataPacket(nullptr, &wrapper, false));
+    }
+    std::string Text() { return wrapper.GetXMLText(); }
+
+    XMLDataWrapper wrapper;
+    std::unique_ptr<TypedDataContainer> object;
+};
+
+std::string MakeDocument(CatalogClass type, unsigned seed) {
+    Samples::Random random(seed);
+    const Samples::Sample sample = Samples::Make(type, std::string(type.ElementName()), random, 1, seed % 3 == 1);
+    return seed % 2 == 0 ? Samples::ToXmlWithRepeats(sample, random) : Samples::ToXml(sample, random, seed % 4 == 1);
+}
+
+TEST(Update, LeavesAnUnchangedDocumentAlone) {
+    const IssueRecorder doubledKeys;
+    ForEveryClass([](CatalogClass type) {
+        for (unsigned seed = 1; seed <= 12; ++seed) {
+            const std::string xml = MakeDocument(type, seed);
+            Loaded loaded(type, xml);
+            EXPECT_TRUE(loaded.object->UpdateContainedData());
+            EXPECT_EQ(loaded.Text(), xml) << "seed " << seed;
+        }
+    });
+}
+
+TEST(Update, WritesOneChangedValueAndNothingElse) {
+    const IssueRecorder doubledKeys;
+    ForEveryClass([](CatalogClass type) {
+        for (unsigned seed = 1; seed <= 4; ++seed) {
+            const std::string xml = MakeDocument(type, seed);
+            Loaded loaded(type, xml);
+            const std::vector<Value> values = ValuesOf(*loaded.object);
+            for (std::size_t i = 0; i < values.size(); i += 1 + values.size() / 15) {
+                const Value& value = values[i];
+                const zelString old = value.Get();
+                const zelString set = OtherThan(value.field, old);
+                SCOPED_TRACE(std::string(value.field.Name()) + "=" + set + ", seed " + std::to_string(seed));
+                ASSERT_TRUE(value.Set(set));
+                ASSERT_TRUE(i % 2 == 0 ? loaded.object->UpdateContainedData() : value.WriteBack())
+                    << loaded.wrapper.GetLastError();
+                const std::string changed = loaded.Text();
+                ASSERT_TRUE(IsWithinOneValue(ChangedStretch(xml, changed))) << changed;
+                // Where elements are repeated, an entry whose key was doubled loads once the other has a new one.
+                if (seed % 2 == 1 || value.field.GetForm() != CatalogField::Attribute) {
+                    const std::vector<std::string> expected = Samples::Lines(*loaded.object);
+                    ASSERT_TRUE(Samples::Lines(*Loaded(type, changed).object) == expected) << changed;
+                    const std::unique_ptr<TypedDataContainer> clone(loaded.object->Clone());
+                    ASSERT_TRUE(Samples::Lines(*clone) == expected) << changed;
+                }
+                ASSERT_TRUE(value.Set(old));
+                ASSERT_TRUE(loaded.object->UpdateContainedData());
+                ASSERT_EQ(loaded.Text(), xml) << changed;
+            }
+        }
+    });
+}
+
+/// The value that a path such as "ChildThread:0/LibraryPath" leads to.
+Value Find(TypedDataContainer& object, const std::string& path) {
+    const std::size_t end = path.find('/');
+    const std::string step = path.substr(0, end);
+    const std::size_t colon = step.find(':');
+    const CatalogField field = *ContainerCatalog::FindField(ContainerCatalog::ClassOf(object), step.substr(0, colon));
+    std::optional<std::size_t> position;
+    if (colon != std::string::npos) {
+        position = static_cast<std::size_t>(step[colon + 1] - '0');
+    }
+    if (end == std::string::npos) {
+        return {&object, field, position};
+    }
+    TypedDataContainer* const below = position ? field.Entry(object, *position) : field.GetChild(object);
+    return Find(*below, path.substr(end + 1));
+}
+
+struct Case {
+    const char* what;
+    const char* type;
+    std::string before;
+    std::vector<std::pair<std::string, std::string>> changes;
+    std::string after;
+};
+
+class UpdateCase : public testing::TestWithParam<Case> {};
+
+TEST_P(UpdateCase, WritesWhereALoadReads) {
+    const Case& each = GetParam();
+    SCOPED_TRACE(each.what);
+    const IssueRecorder doubledKeys;
+    Loaded loaded(ContainerCatalog::FindClass(each.type), each.before);
+    std::vector<zelString> old;
+    for (const auto& [path, value] : each.changes) {
+        old.push_back(Find(*loaded.object, path).Get());
+        ASSERT_TRUE(Find(*loaded.object, path).Set(value));
+    }
+    EXPECT_TRUE(loaded.object->UpdateContainedData());
+    EXPECT_EQ(loaded.Text(), each.after);
+    Loaded again(ContainerCatalog::FindClass(each.type), loaded.Text());
+    for (std::size_t i = 0; i < each.changes.size(); ++i) {
+        EXPECT_EQ(Find(*again.object, each.changes[i].first).Get(), zelString(each.changes[i].second));
+        ASSERT_TRUE(Find(*loaded.object, each.changes[i].first).Set(old[i]));
+    }
+    EXPECT_TRUE(loaded.object->UpdateContainedData());
+    EXPECT_EQ(loaded.Text(), each.before);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Identity, UpdateCase,
+    testing::Values(Case{"swapped keys",
+                         "StateTableType",
+                         "<StateTable><State Name='a'/><State Name='b'/></StateTable>",
+                         {{"State:0/Name", "b"}, {"State:1/Name", "a"}},
+                         "<StateTable><State Name='b'/><State Name='a'/></StateTable>"},
+                    Case{"no key",
+                         "StateTableType",
+                         "<StateTable><State\n BaseState='x'/></StateTable>",
+                         {{"State:0/Name", "n"}},
+                         "<StateTable><State\n BaseState='x'\n Name='n'/></StateTable>"},
+                    Case{"a doubled key",
+                         "StateTableType",
+                         "<StateTable><State Name='a'/><State Name='a'/></StateTable>",
+                         {{"State:0/BaseState", "n"}},
+                         "<StateTable><State Name='a' BaseState='n'/><State Name='a'/></StateTable>"},
+                    Case{"a key with quotes",
+                         "StateTableType",
+                         "<StateTable><State Name='1'/><State Name=\"it's\"/></StateTable>",
+                         {{"State:1/Transient", "true"}},
+                         "<StateTable><State Name='1'/><State Name=\"it's\" Transient=\"true\"/></StateTable>"},
+                    Case{"misleading numbers",
+                         "StateDefinitionType",
+                         "<StateDefinition><Doc Index='2'>one</Doc><Doc Index='1'>two</Doc></StateDefinition>",
+                         {{"Doc:0", "n"}},
+                         "<StateDefinition><Doc Index='2'>n</Doc><Doc Index='1'>two</Doc></StateDefinition>"},
+                    Case{"no numbers",
+                         "StateDefinitionType",
+                         "<StateDefinition><Doc>one</Doc><Doc>two</Doc></StateDefinition>",
+                         {{"Doc:1", "n"}},
+                         "<StateDefinition><Doc>one</Doc><Doc>n</Doc></StateDefinition>"},
+                    Case{"the last of two elements",
+                         "ChildThreadType",
+                         "<ChildThread><LibraryPath>1</LibraryPath><LibraryPath>2</LibraryPath></ChildThread>",
+                         {{"LibraryPath", "n"}},
+                         "<ChildThread><LibraryPath>1</LibraryPath><LibraryPath>n</LibraryPath></ChildThread>"},
+                    Case{"one object in two elements",
+                         "StateProcessingRootType",
+                         "<StateProcessingRoot><StateTable><State Name='a'/></StateTable>"
+                         "<StateTable Name='t'><State Name='b'/></StateTable></StateProcessingRoot>",
+                         {{"StateTable/State:0/BaseState", "n"}, {"StateTable/Name", "m"}},
+                         "<StateProcessingRoot><StateTable><State Name='a' BaseState='n'/></StateTable>"
+                         "<StateTable Name='m'><State Name='b'/></StateTable></StateProcessingRoot>"},
+                    Case{"an attribute with an element's name",
+                         "ChildThreadType",
+                         "<ChildThread LibraryPath='x'/>",
+                         {{"LibraryPath", "n"}},
+                         "<ChildThread LibraryPath='x'><LibraryPath>n</LibraryPath></ChildThread>"},
+                    Case{"an element with an attribute's name",
+                         "ChildThreadType",
+                         "<ChildThread><ConfigValue>x</ConfigValue></ChildThread>",
+                         {{"ConfigValue", "n"}},
+                         "<ChildThread ConfigValue=\"n\"><ConfigValue>x</ConfigValue></ChildThread>"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Placement, UpdateCase,
+    testing::Values(
+        Case{
+            "behind the earlier one and its remark",
+            "ChildThreadType",
+            "<ChildThread>\r\n\r\n\t<LibraryPath>1</LibraryPath> <!-- path -->\r\n\t<SubSystemName/>\r\n</ChildThread>",
+            {{"LibraryPathDebug", "n"}},
+            "<ChildThread>\r\n\r\n\t<LibraryPath>1</LibraryPath> <!-- path -->\r\n\t<LibraryPathDebug>n"
+            "</LibraryPathDebug>\r\n\t<SubSystemName/>\r\n</ChildThread>"},
+        Case{"before the later one and its remark",
+             "ChildThreadType",
+             "<ChildThread>\n  <!-- sub -->\n  <SubSystemName/>\n</ChildThread>",
+             {{"LibraryPath", "n"}, {"LibraryPathDebug", "m"}},
+             "<ChildThread>\n  <LibraryPath>n</LibraryPath>\n  <LibraryPathDebug>m</LibraryPathDebug>\n  <!-- sub -->\n"
+             "  <SubSystemName/>\n</ChildThread>"},
+        Case{"a step further in",
+             "ThreadChildListType",
+             "<ThreadChildList>\n    <ChildThread UniqueName='a'/>\n    <ChildThread UniqueName='b'>\n    "
+             "</ChildThread>\n</ThreadChildList>",
+             {{"ChildThread:0/LibraryPath", "n"}, {"ChildThread:1/LibraryPath", "m"}},
+             "<ThreadChildList>\n    <ChildThread UniqueName='a'>\n        <LibraryPath>n</LibraryPath>\n    "
+             "</ChildThread>\n    <ChildThread UniqueName='b'>\n        <LibraryPath>m</LibraryPath>\n    "
+             "</ChildThread>\n</ThreadChildList>"},
+        Case{
+            "white space that counts",
+            "ThreadChildListType",
+            "<ThreadChildList xml:space='preserve'>\n <ChildThread>\n <SubSystemName/></ChildThread></ThreadChildList>",
+            {{"ChildThread:0/LibraryPath", "n"}},
+            "<ThreadChildList xml:space='preserve'>\n <ChildThread>\n <LibraryPath>n</LibraryPath><SubSystemName/>"
+            "</ChildThread></ThreadChildList>"},
+        Case{"a word",
+             "ChildThreadType",
+             "<ChildThread><ThreadPriority>PRIORITY_LOWEST</ThreadPriority>"
+             "</ChildThread>",
+             {{"ThreadPriority", "PRIORITY_HIGHEST"}},
+             "<ChildThread><ThreadPriority>PRIORITY_HIGHEST</ThreadPriority></ChildThread>"}));
+
+TEST(Update, MakesNothingForWhatAnAbsentNodeSays) {
+    ForEveryClass([](CatalogClass type) {
+        Loaded loaded(type, "<" + std::string(type.ElementName()) + "/>");
+        const std::string xml = loaded.Text();
+        EXPECT_TRUE(loaded.object->UpdateContainedData());
+        EXPECT_EQ(loaded.Text(), xml);
+    });
+}
+
+TEST(Update, WordsOutsideTheVocabularyAreWrittenBackEmpty) {
+    Loaded loaded(ContainerCatalog::FindClass("ChildThreadType"),
+                  "<ChildThread><ThreadPriority>Urgent</ThreadPriority></ChildThread>");
+    EXPECT_TRUE(loaded.object->UpdateContainedData());
+    EXPECT_EQ(loaded.Text(), "<ChildThread><ThreadPriority></ThreadPriority></ChildThread>");
+}
+
+TEST(Update, RefusesReadOnlyObjectsAndPassesOverWhatStandsNowhere) {
+    ForEveryClass([](CatalogClass type) {
+        const std::unique_ptr<TypedDataContainer> fresh = type.Create(false);
+        EXPECT_TRUE(fresh->UpdateContainedData());
+        ASSERT_TRUE(LoadText(*fresh, "<" + std::string(type.ElementName()) + "/>", true));
+        EXPECT_FALSE(fresh->UpdateContainedData());
+        EXPECT_EQ(fresh->GetLastError(), "Update not supported for read only objects");
+        EXPECT_EQ(fresh->GetLastErrorNum(), -1);
+    });
+    Loaded loaded(ContainerCatalog::FindClass("StateTableType"), "<StateTable><State Name='a'/></StateTable>");
+    auto& table = dynamic_cast<StateTableType&>(*loaded.object);
+    auto* const added = new StateDefinitionType(true);
+    added->SetName("b");
+    table.AddNewState(added, "b");
+    ASSERT_TRUE(MergeText(table, "Late", "<StateTable><State Name='a' BaseState='n'/><State Name='c'/></StateTable>"));
+    EXPECT_TRUE(table.UpdateContainedData());
+    EXPECT_EQ(loaded.Text(), "<StateTable><State Name='a' BaseState='n'/></StateTable>");
+    EXPECT_EQ(loaded.wrapper.GetStoredQuery(), "//StateTable/State");
+    EXPECT_EQ(table.BuildUpdateQuery("State", table.GetState("b")),
+              "State[@Name='b'  and @Transient='false'  and @CacheActions='false'  and @BaseState='' ]");
+    EXPECT_EQ(table.BuildUpdateQuery("State", table.GetState("a")), "State[1]");
+}
+
+TEST(Update, ReportsTheLastWriteAndGoesOnAfterAFailedOne) {
+    Loaded loaded(ContainerCatalog::FindClass("ChildThreadType"),
+                  "<ChildThread><LibraryPath>p</LibraryPath></ChildThread>");
+    auto& thread = dynamic_cast<ChildThreadType&>(*loaded.object);
+    thread.SetLibraryPath("\x01");
+    thread.SetConfigLogic("n");
+    EXPECT_TRUE(thread.UpdateContainedData());
+    EXPECT_EQ(loaded.wrapper.GetLastError(),
+              "cannot write ChildThread/LibraryPath: character U+0001 is not allowed in XML");
+    EXPECT_EQ(loaded.Text(), "<ChildThread ConfigLogic=\"n\"><LibraryPath>p</LibraryPath></ChildThread>");
+    thread.SetConfigLogic("\x02");
+    EXPECT_FALSE(thread.UpdateContainedData());
+}
+
+TEST(Update, GoesOnWithThePrivateDocumentAndWithADom) {
+    ChildThreadType thread(false);
+    ASSERT_TRUE(LoadText(thread, "<ChildThread><LibraryPath>p</LibraryPath></ChildThread>")); // that wrapper is gone
+    thread.SetLibraryPath("n");
+    ASSERT_TRUE(thread.UpdateContainedData());
+    XMLDataWrapper* const own = thread.GetContainedDataPtr();
+    EXPECT_EQ(own->GetXMLText(), "<ChildThread><LibraryPath>n</LibraryPath></ChildThread>");
+    ASSERT_NE(own->GetDOMNode("//LibraryPath", true), nullptr);
+    thread.SetLibraryPath("dom");
+    thread.SetConfigLogic("l");
+    thread.SetSubSystemName("s");
+    ASSERT_TRUE(thread.UpdateContainedData());
+    ChildThreadType again(false);
+    ASSERT_TRUE(LoadText(again, own->GetXMLText()));
+    EXPECT_EQ(Samples::Lines(again), Samples::Lines(thread));
+}
+
+} // namespace
