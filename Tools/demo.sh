@@ -51,6 +51,11 @@ title "One value, before and after"
 run 0 get "$documents/StateProcessingRoot.xml" Version
 run 0 get "$merged" Version
 
+title "Two values set in the state table; every other byte of the file stays"
+cp "$documents/StateProcessingRoot.xml" "$folder/StateProcessingRoot.xml"
+run 0 set "$folder/StateProcessingRoot.xml" 'StateTable/InitialState=Attract' 'StateTable/State[Name=Coupon]/Transient=true' \
+    --in-place --diff --context 0
+
 title "What a broken document is told; nothing is written"
 run 3 merge "$documents/StateProcessingRoot.xml" "$documents/StateProcessingRoot.broken.xml" -o "$folder/never.xml"
 [[ ! -e $folder/never.xml ]]

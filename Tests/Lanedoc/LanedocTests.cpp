@@ -1,53 +1,16 @@
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <string>
 #include <vector>
 
-#include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
-#include <sys/wait.h>
+
+#include "LanedocRuns.h"
 
 namespace {
 
-const std::string examples = FRAMEWORK_EXAMPLES;
-
-/// Runs the tool in a folder of its own, by shell, so that cases can redirect as people do.
-class Lanedoc : public testing::Test {
+class Lanedoc : public LanedocRuns {
 protected:
-    struct Result {
-        int code;
-        std::string out;
-        std::string errors;
-    };
-
     void SetUp() override {
-        std::string name = testing::TempDir() + "lanedoc-XXXXXX";
-        ASSERT_NE(::mkdtemp(name.data()), nullptr);
-        m_folder = name;
-        std::filesystem::current_path(m_folder);
-        std::filesystem::create_symlink(examples, "examples");
+        LanedocRuns::SetUp();
         Put("base.xml", baseText);
-    }
-
-    void TearDown() override {
-        std::filesystem::current_path(m_folder.parent_path());
-        std::filesystem::remove_all(m_folder);
-    }
-
-    /// `arguments` in the shell's words; redirections of their own win.
-    static Result Run(const std::string& arguments) {
-        const std::string command = "{ '" FRAMEWORK_LANEDOC "' " + arguments + "; } >out.txt 2>errors.txt </dev/null";
-        const int status = std::system(command.c_str());
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Get("out.txt"), Get("errors.txt")};
-    }
-
-    static void Put(const std::string& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
-
-    static std::string Get(const std::string& path) {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
     }
 
     static std::string State(const std::string& below) {
@@ -64,14 +27,7 @@ protected:
   </StateTable>
 </StateProcessingRoot>
 )";
-
-private:
-    std::filesystem::path m_folder;
 };
-
-bool Holds(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
-}
 
 TEST_F(Lanedoc, AnswersEveryUseWithItsCodeAndWord) {
     Put("broken.xml", "<StateProcessingRoot>\n  <StateTable>\n</StateProcessingRoot>\n");
@@ -116,6 +72,7 @@ TEST_F(Lanedoc, AnswersEveryUseWithItsCodeAndWord) {
         {"get base.xml Version/x", 2, "nothing below"},
         {"get base.xml @StateTable", 2, "is no attribute"},
         {"get base.xml 'StateTable/State[Name=\"a'", 2, "\n                        ^"},
+        {"set base.xml Version=2 --context 1", 2, "--diff"},
         {"merge - fine.xml -", 2, "standard input can be one document only"},
         {"show missing.xml", 3, "missing.xml: error: "},
         {"show broken.xml", 3, "broken.xml:3:3: error: "},
@@ -132,6 +89,7 @@ TEST_F(Lanedoc, AnswersEveryUseWithItsCodeAndWord) {
         {"merge base.xml fine.xml >/dev/full", 5, "cannot write"},
         {"show base.xml >/dev/full", 5, "cannot write"},
         {"get base.xml Version >&-", 5, "cannot write"},
+        {"set base.xml Version=2 >/dev/full", 5, "cannot write"},
         {"merge base.xml fine.xml -o missing/out.xml", 5, "missing/out.xml: error: "},
         {"merge base.xml fine.xml -o /dev/full", 5, "/dev/full: error: "},
     };

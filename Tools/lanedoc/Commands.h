@@ -19,5 +19,6 @@ struct Request {
 void AddMergeCommand(CLI::App& tool, Request& request);
 void AddShowCommand(CLI::App& tool, Request& request);
 void AddGetCommand(CLI::App& tool, Request& request);
+void AddSetCommand(CLI::App& tool, Request& request);
 
 } // namespace Lanedoc

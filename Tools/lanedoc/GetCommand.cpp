@@ -1,7 +1,6 @@
 #include <memory>
 
 #include "Commands.h"
-#include "NearestName.h"
 #include "Source.h"
 #include "TreeNode.h"
 
@@ -15,20 +14,6 @@ struct GetOptions {
     bool defaults = false;
     bool endWithNul = false;
 };
-
-[[noreturn]] void RefuseContainer(const TreeNode& node) {
-    const CatalogClass container = ContainerCatalog::ClassOf(*node.object);
-    std::vector<std::string> names;
-    for (const CatalogField& field : container.Fields()) {
-        if (field.IsScalar()) {
-            names.push_back(JoinPath(node.path, field.Name()));
-        }
-    }
-    throw Failure(ExitCode::WrongUse,
-                  "lanedoc: error: " + (node.path.empty() ? "the root" : Printable(node.path)) + " is a " +
-                      std::string(container.Name()) + ", not a value; " +
-                      (names.empty() ? "lanedoc show prints it" : "name a field: " + JoinNames(names)));
-}
 
 /// The values, each as they stand in the tree.
 std::vector<zelString> ValuesOf(const TreeNode& node, const GetOptions& options) {
@@ -55,10 +40,7 @@ std::vector<zelString> ValuesOf(const TreeNode& node, const GetOptions& options)
                       "lanedoc: " + Printable(node.path) + " is an empty list in " + Printable(options.file));
     }
     if (HoldsContainers(field)) {
-        const std::string parent = node.path.substr(0, node.path.size() - field.Name().size());
-        throw Failure(ExitCode::WrongUse, "lanedoc: error: " + Printable(node.path) + " is a list of " +
-                                              std::string(field.ClassName()) + "; name a field of an entry, as in " +
-                                              Printable(parent + EntryStep(field, object, 0)) + "/...");
+        RefuseContainerList(node);
     }
     std::vector<zelString> texts;
     for (std::size_t i = 0; i < length; ++i) {

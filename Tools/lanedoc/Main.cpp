@@ -13,6 +13,7 @@ constexpr const char* footer = R"(Examples:
   lanedoc merge StateProcessingRoot.xml Coupons=coupons.xml -o merged.xml --summary
   lanedoc show StateProcessingRoot.xml 'StateTable/State[Name=Scan]'
   lanedoc get StateProcessingRoot.xml StateTable/InitialState
+  lanedoc set StateProcessingRoot.xml StateTable/InitialState=Attract --in-place --diff
 
 Paths name fields below the root, joined by "/". An entry of a list is State[Name=Idle], by its key, or State[3],
 counted from 1. A key with "]", "/" or a double quote stands in double quotes, doubled inside. FILE may be "-" for
@@ -25,7 +26,7 @@ Exit codes:
 
 void Describe(CLI::App& tool, Request& request) {
     tool.name("lanedoc");
-    tool.description("Reads, queries and merges the XML documents of a self-checkout lane.");
+    tool.description("Reads, queries, changes and merges the XML documents of a self-checkout lane.");
     tool.footer(footer);
     tool.set_version_flag("--version", "lanedoc " FRAMEWORK_VERSION, "Print the version and exit");
     tool.set_help_flag("-h,--help", "Print this help and exit");
@@ -39,6 +40,7 @@ void Describe(CLI::App& tool, Request& request) {
     AddMergeCommand(tool, request);
     AddShowCommand(tool, request);
     AddGetCommand(tool, request);
+    AddSetCommand(tool, request);
 }
 
 ExitCode Run(int argc, char** argv) {

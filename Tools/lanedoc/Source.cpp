@@ -65,9 +65,10 @@ std::string WithSeverity(const std::string& text, const std::string& severity, c
     return Printable(named.substr(0, at) + " " + severity + ": " + named.substr(rest));
 }
 
-Source::Source(const std::string& path) : m_path(path), m_name(path == "-" ? "<stdin>" : path) {
-    const bool loaded = path == "-" ? m_document.LoadXMLText(ReadStandardInput(m_name), true)
-                                    : m_document.LoadXMLFile(path.c_str(), true);
+Source::Source(const std::string& path, Use use) : m_path(path), m_name(path == "-" ? "<stdin>" : path) {
+    const bool readOnly = use == Use::Read;
+    const bool loaded = path == "-" ? m_document.LoadXMLText(ReadStandardInput(m_name), readOnly)
+                                    : m_document.LoadXMLFile(path.c_str(), readOnly);
     if (!loaded) {
         throw Failure(ExitCode::BadInput, WithSeverity(m_document.GetLastError(), "error", m_name));
     }

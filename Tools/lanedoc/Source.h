@@ -12,9 +12,11 @@ namespace Lanedoc {
 /// A document as the person named it: read and parsed, its class known.
 class Source {
 public:
+    enum class Use { Read, Edit };
+
     /// From a file, or from standard input when the path is "-". Throws a Failure when it cannot be read or is not
     /// well-formed.
-    explicit Source(const std::string& path);
+    explicit Source(const std::string& path, Use use = Use::Read);
 
     /// The path, or "<stdin>"; what messages begin with.
     const std::string& Name() const { return m_name; }

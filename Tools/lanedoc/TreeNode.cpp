@@ -134,6 +134,28 @@ std::string EntryStep(const CatalogField& list, TypedDataContainer& object, std:
     return FormatPositionStep(list.Name(), position + 1);
 }
 
+void RefuseContainer(const TreeNode& node) {
+    const CatalogClass container = ContainerCatalog::ClassOf(*node.object);
+    std::vector<std::string> names;
+    for (const CatalogField& field : container.Fields()) {
+        if (field.IsScalar()) {
+            names.push_back(JoinPath(node.path, field.Name()));
+        }
+    }
+    throw Wrong((node.path.empty() ? "the root" : Printable(node.path)) + " is a " + std::string(container.Name()) +
+                ", not a value; " + (names.empty() ? "lanedoc show prints it" : "name a field: " + JoinNames(names)));
+}
+
+void RefuseContainerList(const TreeNode& node) {
+    throw Wrong(Printable(node.path) + " is a list of " + std::string(node.field->ClassName()) +
+                "; name a field of an entry, as in " + Printable(FirstEntryPath(node)) + "/...");
+}
+
+std::string FirstEntryPath(const TreeNode& list) {
+    const std::string parent = list.path.substr(0, list.path.size() - list.field->Name().size());
+    return parent + EntryStep(*list.field, *list.object, 0);
+}
+
 bool HoldsContainers(const CatalogField& field) {
     return field.GetValue() == CatalogField::Container;
 }

@@ -31,6 +31,14 @@ TreeNode FindNode(TypedDataContainer& root, const std::string& path);
 /// The last step of the path to an entry: by its key, or by its position in a plain list.
 std::string EntryStep(const CatalogField& list, TypedDataContainer& object, std::size_t position);
 
+/// The path to the first entry of a list that is not empty.
+std::string FirstEntryPath(const TreeNode& list);
+
+/// Ends a command that wants a value and was given a container, or a list of containers that is not empty; tells what
+/// to name instead.
+[[noreturn]] void RefuseContainer(const TreeNode& node);
+[[noreturn]] void RefuseContainerList(const TreeNode& node);
+
 /// Whether the entries of a list or the field itself are containers.
 bool HoldsContainers(const CatalogField& field);
 
