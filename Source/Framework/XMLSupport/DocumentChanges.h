@@ -18,12 +18,6 @@ struct DocumentChanges {
         std::string text;
         NodeRecord parsed;
     };
-    /// Of an element that had no text or several: its texts as they were parsed, and the one that was added. Those that
-    /// went are of kind None now. An element with one text needs no such note.
-    struct ElementText {
-        std::vector<std::uint32_t> parsed;
-        std::uint32_t added = 0;
-    };
     /// The blanks that came with an added element.
     struct AddedElement {
         std::uint32_t before = 0;
@@ -35,7 +29,9 @@ struct DocumentChanges {
     std::uint32_t parsedNodes = 0;
     /// They stay where they are, so that views of the others stay good.
     std::deque<WrittenValue> values;
-    std::unordered_map<std::uint32_t, ElementText> texts;
+    /// Of an element that had no text or several: its texts as they were parsed. Those that went are of kind None now.
+    /// An element whose one text was given another needs no such note.
+    std::unordered_map<std::uint32_t, std::vector<std::uint32_t>> texts;
     std::unordered_map<std::uint32_t, AddedElement> elements;
     /// Parsed elements whose tag or whose direct children may have changed, some more than once.
     std::vector<std::uint32_t> touched;

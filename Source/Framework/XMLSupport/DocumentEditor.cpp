@@ -91,7 +91,7 @@ void DocumentEditor::Touch(Number element) {
     touched.push_back(element);
 }
 
-void DocumentEditor::RememberTexts(Number element) {
+void DocumentEditor::RememberTexts(Number element, Number first) {
     if (element >= m_changes.parsedNodes) {
         return;
     }
@@ -99,13 +99,13 @@ void DocumentEditor::RememberTexts(Number element) {
     if (m_changes.texts.contains(element)) {
         return;
     }
-    DocumentChanges::ElementText texts;
+    std::vector<Number> texts;
     for (Number child = Record(element).inner.firstChild; child != 0; child = Record(child).next) {
         if (Record(child).IsText() && child < m_changes.parsedNodes) {
-            texts.parsed.push_back(child);
+            texts.push_back(child);
         }
     }
-    if (texts.parsed.size() != 1) {
+    if (texts.size() != 1 || texts.front() != first) {
         m_changes.texts.emplace(element, std::move(texts));
     }
 }
@@ -114,14 +114,10 @@ void DocumentEditor::SetText(NodeRef node, std::string_view text, TextForm form)
     const Number element = NumberOf(node);
     const Region region = TextRegion(element, form);
     const NodeKind kind = region.hasSection || form == TextForm::CData ? NodeKind::CData : NodeKind::Text;
-    RememberTexts(element);
+    RememberTexts(element, region.first);
     if (region.first == 0) {
         const Number next = Record(element).inner.firstChild;
-        const Number added = NewText(text, kind, element, PlaceBefore(element, next));
-        LinkBefore(added, next);
-        if (const auto change = m_changes.texts.find(element); change != m_changes.texts.end()) {
-            change->second.added = added;
-        }
+        LinkBefore(NewText(text, kind, element, PlaceBefore(element, next)), next);
         return;
     }
     for (const Number other : region.others) {
@@ -129,7 +125,7 @@ void DocumentEditor::SetText(NodeRef node, std::string_view text, TextForm form)
     }
     Write(region.first, text);
     Record(region.first).kind = kind;
-    TakeOverBlanks(element, region.first);
+    TakeOverBlanks(element);
     for (const Number other : region.others) {
         Unlink(other);
         if (other < m_changes.parsedNodes) {
@@ -141,9 +137,8 @@ void DocumentEditor::SetText(NodeRef node, std::string_view text, TextForm form)
 }
 
 /// Blanks that came with added elements count as text of the element they stand in as soon as that gets one.
-void DocumentEditor::TakeOverBlanks(Number element, Number first) noexcept {
-    const auto change = m_changes.texts.find(element);
-    if (m_changes.elements.empty() && change == m_changes.texts.end()) {
+void DocumentEditor::TakeOverBlanks(Number element) noexcept {
+    if (m_changes.elements.empty()) {
         return;
     }
     for (Number child = Record(element).inner.firstChild; child != 0; child = Record(child).next) {
@@ -151,15 +146,20 @@ void DocumentEditor::TakeOverBlanks(Number element, Number first) noexcept {
             added->second = {};
         }
     }
-    if (first >= m_changes.parsedNodes && change != m_changes.texts.end()) {
-        change->second.added = first;
-    }
+}
+
+/// Whether a text is one of the blanks that came with the element beside it.
+bool DocumentEditor::IsBlankOfAdded(Number text) const {
+    const auto behind = m_changes.elements.find(Record(text).next);
+    const auto before = m_changes.elements.find(Record(text).previous);
+    return (behind != m_changes.elements.end() && behind->second.before == text) ||
+           (before != m_changes.elements.end() && before->second.after == text);
 }
 
 /// The texts of an element as they were parsed, in order.
 std::vector<DocumentEditor::Number> DocumentEditor::ParsedTexts(Number element) const {
     if (const auto change = m_changes.texts.find(element); change != m_changes.texts.end()) {
-        return change->second.parsed;
+        return change->second;
     }
     for (Number child = Record(element).inner.firstChild; child != 0; child = Record(child).next) {
         if (Record(child).IsText() && child < m_changes.parsedNodes) {
@@ -176,10 +176,13 @@ const NodeRecord& DocumentEditor::ParsedRecord(Number number) const {
 
 void DocumentEditor::RestoreText(Number element) {
     const std::vector<Number> parsed = ParsedTexts(element);
-    const auto change = m_changes.texts.find(element);
-    if (change != m_changes.texts.end() && change->second.added != 0) {
-        Unlink(change->second.added);
-        ReleaseNode(change->second.added);
+    for (Number child = Record(element).inner.firstChild; child != 0;) {
+        const Number next = Record(child).next;
+        if (child >= m_changes.parsedNodes && Record(child).IsText() && !IsBlankOfAdded(child)) {
+            Unlink(child);
+            ReleaseNode(child);
+        }
+        child = next;
     }
     // Parsed nodes are in the order of the text; what was added at the same place stands before them.
     Number next = Record(element).inner.firstChild;
@@ -193,9 +196,7 @@ void DocumentEditor::RestoreText(Number element) {
             LinkBefore(number, next);
         }
     }
-    if (change != m_changes.texts.end()) {
-        m_changes.texts.erase(change);
-    }
+    m_changes.texts.erase(element);
 }
 
 void DocumentEditor::RestoreLeaf(Number number) noexcept {

@@ -32,8 +32,9 @@ private:
     const NodeRecord& Record(Number number) const { return m_data.nodes[number]; }
     Region TextRegion(Number element, TextForm form) const;
     void Touch(Number element);
-    void RememberTexts(Number element);
-    void TakeOverBlanks(Number element, Number first) noexcept;
+    void RememberTexts(Number element, Number first);
+    void TakeOverBlanks(Number element) noexcept;
+    bool IsBlankOfAdded(Number text) const;
     std::vector<Number> ParsedTexts(Number element) const;
     const NodeRecord& ParsedRecord(Number number) const;
     void RestoreText(Number element);

@@ -104,7 +104,7 @@ private:
         if (texts == m_data.changes.texts.end()) {
             return;
         }
-        for (const std::uint32_t number : texts->second.parsed) {
+        for (const std::uint32_t number : texts->second) {
             if (Record(number).kind == NodeKind::None) {
                 m_patches.push_back({Record(number).begin, Record(number).end, {}});
             }
