@@ -31,7 +31,8 @@ struct WrapperAccess;
 /// An XML document with a current node and a stored query text.
 ///
 /// **Documents.** Wrappers that were made from one another share the document they were loaded from; it is never
-/// changed while shared. Nodes that a wrapper gives out belong to it and live as long as its document.
+/// changed while shared: a write gives the wrapper a copy of its own. Nodes that a wrapper gives out belong to it and live
+/// as long as its document; after a write they stand for the same nodes as before.
 ///
 /// **Names** are relative to the current node: `Name` is a child element, `@Name` an attribute, an empty name the node
 /// itself, and `a/b[@k='v']` or `a[2]` a path. After loading no node is current, and names are relative to the root;
@@ -66,8 +67,9 @@ public:
     bool LoadXMLFile(const char* sPath, bool bReadOnly);
     /// The same from memory: the bytes exactly as a file would hold them, in the document's own encoding.
     bool LoadXMLText(const zelString& sXML, bool bReadOnly);
-    /// The document's bytes: those it was loaded from while nothing was changed. Empty, with an error, when nothing is
-    /// loaded or the content cannot be written as XML.
+    /// The document's bytes: those it was loaded from, with only what was changed since written anew, in the document's
+    /// own encoding and line ends. Empty, with an error, when nothing is loaded or the content cannot be written as XML
+    /// that loads again.
     zelString GetXMLText();
     /// Writes GetXMLText to a file, which is replaced as a whole or not at all.
     bool SaveXMLFile(const char* sPath);
@@ -113,11 +115,17 @@ public:
     bool GetBoolValue(const zelString& sName, bool bFromDocument);
     double GetDoubleValue(const zelString& sName, bool bFromDocument);
 
+    /// Writes the text of an element or the value of an attribute: of the child of that name, else of the attribute; of
+    /// what a path or, with `bFromDocument`, a query finds; of the current node when the name is empty. Numbers and bools
+    /// are written as SupportFunc::GetStrValue gives them. Nothing is written when that value stands there already, and
+    /// no node is ever made. False, with an error and nothing changed, when there is no such node, the document is read
+    /// only, or XML cannot hold the text. A document shared with other wrappers is copied first: they do not see it.
     bool SetQueryValue(const zelString& sName, const zelString& sValue, bool bFromDocument);
     bool SetQueryValue(const zelString& sName, const char* sValue, bool bFromDocument);
     bool SetQueryValue(const zelString& sName, int iValue, bool bFromDocument);
     bool SetQueryValue(const zelString& sName, bool bValue, bool bFromDocument);
     bool SetQueryValue(const zelString& sName, double dValue, bool bFromDocument);
+    /// The same for a text as CDATA: what stands outside of the sections that are there stays. The flags mean nothing.
     bool SetQueryCData(const zelString& sName, const zelString& sText, int iFlags, int iMode);
 
     zelString GetLastError() const;
