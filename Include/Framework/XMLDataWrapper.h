@@ -31,8 +31,8 @@ struct WrapperAccess;
 /// An XML document with a current node and a stored query text.
 ///
 /// **Documents.** Wrappers that were made from one another share the document they were loaded from; it is never
-/// changed while shared: a write gives the wrapper a copy of its own. Nodes that a wrapper gives out belong to it and live
-/// as long as its document; after a write they stand for the same nodes as before.
+/// changed while shared: a write gives the wrapper a copy of its own. Nodes that a wrapper gives out belong to it and
+/// live as long as its document; after a write they stand for the same nodes as before.
 ///
 /// **Names** are relative to the current node: `Name` is a child element, `@Name` an attribute, an empty name the node
 /// itself, and `a/b[@k='v']` or `a[2]` a path. After loading no node is current, and names are relative to the root;
@@ -116,10 +116,11 @@ public:
     double GetDoubleValue(const zelString& sName, bool bFromDocument);
 
     /// Writes the text of an element or the value of an attribute: of the child of that name, else of the attribute; of
-    /// what a path or, with `bFromDocument`, a query finds; of the current node when the name is empty. Numbers and bools
-    /// are written as SupportFunc::GetStrValue gives them. Nothing is written when that value stands there already, and
-    /// no node is ever made. False, with an error and nothing changed, when there is no such node, the document is read
-    /// only, or XML cannot hold the text. A document shared with other wrappers is copied first: they do not see it.
+    /// what a path or, with `bFromDocument`, a query finds; of the current node when the name is empty. Numbers and
+    /// bools are written as SupportFunc::GetStrValue gives them. Nothing is written when that value stands there
+    /// already, and no node is ever made. False, with an error and nothing changed, when there is no such node, the
+    /// document is read only, or XML cannot hold the text. A document shared with other wrappers is copied first: they
+    /// do not see it.
     bool SetQueryValue(const zelString& sName, const zelString& sValue, bool bFromDocument);
     bool SetQueryValue(const zelString& sName, const char* sValue, bool bFromDocument);
     bool SetQueryValue(const zelString& sName, int iValue, bool bFromDocument);

@@ -1,6 +1,7 @@
-// Merging that fails half way, at every step at which the XML layer or the allocator can fail.
+// Merging and updating that fail half way, at every step at which the XML layer or the allocator can fail.
 
 #include "Containers/EveryClass.h"
+#include "Containers/Values.h"
 
 #include <cstdlib>
 #include <fstream>
@@ -111,25 +112,62 @@ bool MergeFails(const Case& c, const std::string& base, long k, long& counter) {
     return failed;
 }
 
-void FailEverywhere(long& counter, bool little, long atLeast) {
+/// The same for an update after every value was changed.
+bool UpdateFails(const Case& c, const std::string& base, long k, long& counter) {
+    const std::unique_ptr<TypedDataContainer> object = ContainerCatalog::FindRoot(c.root).Create(false);
+    XMLDataWrapper document;
+    EXPECT_TRUE(document.LoadXMLText(base, false) && object->LoadFromDataPacket(nullptr, &document, false));
+    for (const Value& value : ValuesOf(*object)) {
+        EXPECT_TRUE(value.Set(OtherThan(value.field, value.Get())));
+    }
+    counter = k;
+    object->UpdateContainedData(); // the result of an update that failed half way is that of its last write
+    const bool failed = counter < 0;
+    counter = -1;
+    if (const zelString error = object->GetLastError(); !error.empty()) {
+        EXPECT_TRUE(failed);
+        EXPECT_EQ(error, "Unknown Exception occured in UpdateContainedData");
+    }
+    XMLDataWrapper half;
+    EXPECT_TRUE(half.LoadXMLText(document.GetXMLText(), false)) << half.GetLastError();
+    EXPECT_TRUE(object->UpdateContainedData());
+    const auto fresh = ContainerCatalog::FindRoot(c.root).Create(false);
+    EXPECT_TRUE(LoadText(*fresh, document.GetXMLText()));
+    EXPECT_EQ(Samples::Lines(*object), Samples::Lines(*fresh));
+    return failed;
+}
+
+using Attempt = bool (*)(const Case& c, const std::string& base, long k, long& counter);
+
+void FailEverywhere(Attempt attempt, long& counter, bool little, long atLeast) {
     for (const Case& c : cases) {
         const std::string base = little ? c.little : ExampleText(c);
         long k = 0;
-        while (MergeFails(c, base, k, counter)) {
+        while (attempt(c, base, k, counter)) {
             ++k;
         }
         EXPECT_GE(k, atLeast) << c.root;
     }
 }
 
-TEST(MergeFaults, FailureOfAnyStepLeavesAWholeObject) {
+TEST(Faults, FailureOfAnyStepOfAMergeLeavesAWholeObject) {
     Framework::faultFunction = &FailAtStep;
-    FailEverywhere(stepsLeft, false, 3);
+    FailEverywhere(&MergeFails, stepsLeft, false, 3);
     Framework::faultFunction = nullptr;
 }
 
-TEST(MergeFaults, FailureOfAnyAllocationLeavesAWholeObject) {
-    FailEverywhere(allocationsLeft, true, 5);
+TEST(Faults, FailureOfAnyAllocationInAMergeLeavesAWholeObject) {
+    FailEverywhere(&MergeFails, allocationsLeft, true, 5);
+}
+
+TEST(Faults, FailureOfAnyStepOfAnUpdateLeavesAWholeDocument) {
+    Framework::faultFunction = &FailAtStep;
+    FailEverywhere(&UpdateFails, stepsLeft, true, 3);
+    Framework::faultFunction = nullptr;
+}
+
+TEST(Faults, FailureOfAnyAllocationInAnUpdateLeavesAWholeDocument) {
+    FailEverywhere(&UpdateFails, allocationsLeft, true, 5);
 }
 
 } // namespace
