@@ -39,6 +39,7 @@ TEST(QueryPath, ReadsTheSmallLanguageAndLeavesTheRest) {
         {"@k", "@k"},
         {"a/@p:k", "a/@p:k"},
         {"a[1]/b[20]", "a#1/b#20"},
+        {"a[1][@k='x']/b[2][@l='y'  and @m=z]/c", "a#1{k|x}/b#2{l|y}{m|z}/c"},
         // As containers name their entries: a blank behind each term, "and" with a blank of its own.
         {"a[@k='v' ]", "a{k|v}"},
         {"//r/a[@k='1'  and @l='2'  and @m='3' ]/b[@k='4' ]/@x", "//r/a{k|1}{l|2}{m|3}/b{k|4}/@x"},
@@ -59,6 +60,8 @@ TEST(QueryPath, ReadsTheSmallLanguageAndLeavesTheRest) {
         // Without quotes all up to the last bracket.
         {"Doc[@Index=7]", "Doc{Index|7}"},
         {"a[@k=]", "a{k|}"},
+        {"a[@k='tis]/b", "a{k|'tis}/b"}, // a quote that nothing closes
+        {"a[@k='\"]", "a{k|'\"}"},
         {"a[@k=x]/y[z]/b", "a{k|x]/y[z}/b"},
         // What XPath has to answer or refuse.
         {"", "other"},
@@ -80,7 +83,8 @@ TEST(QueryPath, ReadsTheSmallLanguageAndLeavesTheRest) {
         {"a[@k]", "other"},
         {"a[@k='x'", "other"},
         {"a[@k = 'x']", "other"},
-        {"a[1][@k='x']", "other"},
+        {"a[1][2]", "other"},
+        {"a[@k='x'][1]", "other"},
         {"@k[1]", "other"},
         {"@k[@l='x']", "other"},
         {"@k/a", "other"},
@@ -103,7 +107,8 @@ TEST(QueryPath, ReadsLongTextsInLinearTimeAndWithoutRecursion) {
     EXPECT_EQ(ParseQueryPath(manyConditions + "]").path.steps.at(0).conditions.size(), 50'000U);
     EXPECT_EQ(ParseQueryPath(sameAgain + "' ]").path.steps.size(), 50'000U);
     EXPECT_EQ(ParseQueryPath(manySteps).path.steps.size(), 50'000U);
-    for (const std::string& open : {manyConditions, sameAgain, sameAgain + "x]" + manySteps.substr(1)}) {
+    EXPECT_EQ(ParseQueryPath(sameAgain + "x]" + manySteps.substr(1)).path.steps.size(), 99'999U);
+    for (const std::string& open : {manyConditions, sameAgain, sameAgain + "' x]" + manySteps.substr(1)}) {
         EXPECT_EQ(ParseQueryPath(open).kind, PathKind::Other);
     }
     const ParsedPath quotes = ParseQueryPath("a[@k='" + std::string(1'000'000, '\'') + "' ]");
@@ -149,6 +154,10 @@ TEST(PathLookup, NarrowAndWideParentsGiveTheSame) {
         {"e[8]", "none"},
         {"e[0]", "none"},
         {"e[18446744073709551617]", "none"}, // one more than fits into 64 bits
+        {"e[3][@k='a'  and @l='2' ]", "2"},
+        {"e[2][@k='a' ]", "none"},
+        {"//e[8][@k='a' ]", "7"},
+        {"//e[7][@k='a' ]", "none"},
         {"e[@k='a' ]", "0"},
         {"e[@l='1'  and @k='a' ]", "0"},
         {"e[@k='a'  and @l='2' ]", "2"},

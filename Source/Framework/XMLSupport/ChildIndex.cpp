@@ -22,7 +22,8 @@ template <typename Test> NodeRef FirstChildThat(const XmlTree& tree, NodeRef par
     return NodeRef::None;
 }
 
-/// Whether the element has every one of these attributes with exactly that value.
+} // namespace
+
 bool MeetsConditions(const XmlTree& tree, NodeRef element, const std::vector<PathCondition>& conditions) {
     std::string room;
     for (const PathCondition& condition : conditions) {
@@ -33,8 +34,6 @@ bool MeetsConditions(const XmlTree& tree, NodeRef element, const std::vector<Pat
     }
     return true;
 }
-
-} // namespace
 
 /// Few children are looked through faster than they are indexed, and most elements have few.
 bool ChildIndex::IsNarrow(NodeRef parent) const {
@@ -49,16 +48,26 @@ bool ChildIndex::IsNarrow(NodeRef parent) const {
 }
 
 ChildIndex::Parent& ChildIndex::ParentOf(NodeRef parent) {
-    if (const auto known = m_parents.find(parent); known != m_parents.end()) {
-        return known->second;
-    }
-    Parent made; // kept when it is complete: memory may run out on the way
-    for (NodeRef child = m_tree->FirstChild(parent); child != NodeRef::None; child = m_tree->NextSibling(child)) {
+    Parent& known = m_parents[parent];
+    NodeRef child = known.last == NodeRef::None ? m_tree->FirstChild(parent) : m_tree->NextSibling(known.last);
+    for (; child != NodeRef::None; child = m_tree->NextSibling(child)) {
         if (m_tree->Kind(child) == NodeKind::Element) {
-            made.byName[m_tree->Name(child)].push_back(child);
+            known.byName[m_tree->Name(child)].push_back(child);
         }
+        known.last = child; // child by child: memory may run out on the way
     }
-    return m_parents.emplace(parent, std::move(made)).first->second;
+    return known;
+}
+
+void ChildIndex::ForgetAttributes(NodeRef parent) {
+    if (const auto known = m_parents.find(parent); known != m_parents.end()) {
+        known->second.byValues.clear();
+    }
+}
+
+void ChildIndex::ForgetDocument() {
+    m_inDocument.clear();
+    m_inDocumentByValues.clear();
 }
 
 const ChildIndex::Nodes& ChildIndex::Named(NodeRef parent, std::string_view name) {
@@ -84,12 +93,25 @@ NodeRef ChildIndex::At(NodeRef parent, std::string_view name, std::size_t positi
     return position == 0 || position > named.size() ? NodeRef::None : named[position - 1];
 }
 
+std::size_t ChildIndex::Count(NodeRef parent, std::string_view name) {
+    if (!IsNarrow(parent)) {
+        return Named(parent, name).size();
+    }
+    std::size_t count = 0;
+    FirstChildThat(*m_tree, parent, name, [&count](NodeRef) {
+        ++count;
+        return false;
+    });
+    return count;
+}
+
 NodeRef ChildIndex::First(NodeRef parent, std::string_view name, const std::vector<PathCondition>& conditions) {
     if (IsNarrow(parent)) {
         return FirstChildThat(*m_tree, parent, name,
                               [&](NodeRef child) { return MeetsConditions(*m_tree, child, conditions); });
     }
-    return FirstOf(Named(parent, name), ParentOf(parent).byValues, name, conditions);
+    const Nodes& named = Named(parent, name);
+    return FirstOf(named, m_parents[parent].byValues, name, conditions);
 }
 
 NodeRef ChildIndex::FirstOf(const Nodes& named, ByValues& byValues, std::string_view name,
@@ -101,28 +123,25 @@ NodeRef ChildIndex::FirstOf(const Nodes& named, ByValues& byValues, std::string_
         AppendToKey(attributes, condition.attribute);
         AppendToKey(values, condition.value);
     }
-    auto known = byValues.find(attributes);
-    if (known == byValues.end()) {
-        FirstByValues made;
-        std::string room;
-        for (const NodeRef node : named) {
-            std::string key;
-            bool hasAll = true;
-            for (const PathCondition& condition : conditions) {
-                const NodeRef attribute = FindAttribute(*m_tree, node, condition.attribute);
-                hasAll = hasAll && attribute != NodeRef::None;
-                if (hasAll) {
-                    AppendToKey(key, m_tree->Value(attribute, room));
-                }
-            }
+    FirstByValues& known = byValues[std::move(attributes)];
+    std::string room;
+    for (; known.taken < named.size(); ++known.taken) {
+        const NodeRef node = named[known.taken];
+        std::string key;
+        bool hasAll = true;
+        for (const PathCondition& condition : conditions) {
+            const NodeRef attribute = FindAttribute(*m_tree, node, condition.attribute);
+            hasAll = hasAll && attribute != NodeRef::None;
             if (hasAll) {
-                made.try_emplace(std::move(key), node); // the first of equal ones stays
+                AppendToKey(key, m_tree->Value(attribute, room));
             }
         }
-        known = byValues.emplace(std::move(attributes), std::move(made)).first;
+        if (hasAll) {
+            known.nodes.try_emplace(std::move(key), node); // the first of equal ones stays
+        }
     }
-    const auto found = known->second.find(values);
-    return found == known->second.end() ? NodeRef::None : found->second;
+    const auto found = known.nodes.find(values);
+    return found == known.nodes.end() ? NodeRef::None : found->second;
 }
 
 const std::vector<NodeRef>& ChildIndex::AllInDocument(std::string_view name) {
@@ -151,6 +170,10 @@ NodeRef ChildIndex::FirstInDocument(std::string_view name) {
 }
 
 NodeRef ChildIndex::FirstInDocument(std::string_view name, const std::vector<PathCondition>& conditions) {
+    const NodeRef root = m_tree->Root();
+    if (root != NodeRef::None && m_tree->Name(root) == name && MeetsConditions(*m_tree, root, conditions)) {
+        return root;
+    }
     return FirstOf(AllInDocument(name), m_inDocumentByValues, name, conditions);
 }
 

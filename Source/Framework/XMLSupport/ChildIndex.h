@@ -10,11 +10,17 @@
 namespace Framework {
 
 /// Finds children by name, position and attribute values in about constant time, so that a query for each entry of a
-/// list costs the list once and not its square. What is asked about a parent first is what gets indexed. Holds for as
-/// long as the tree does not change; one thread at a time.
+/// list costs the list once and not its square. What is asked about a parent first is what gets indexed. Children that
+/// were appended since are taken in when the parent is asked about again; any other change of the tree must be told, or
+/// ends the use of the index. One thread at a time.
 class ChildIndex {
 public:
     explicit ChildIndex(const XmlTree& tree) : m_tree(&tree) {}
+
+    /// Attributes of children of this parent were changed.
+    void ForgetAttributes(NodeRef parent);
+    /// Elements came somewhere in the document: what is known about it as a whole no longer holds.
+    void ForgetDocument();
 
     /// The last child of that name.
     NodeRef Last(NodeRef parent, std::string_view name);
@@ -26,15 +32,21 @@ public:
     NodeRef FirstInDocument(std::string_view name);
     NodeRef FirstInDocument(std::string_view name, const std::vector<PathCondition>& conditions);
     const std::vector<NodeRef>& AllInDocument(std::string_view name);
+    /// Number of children of that name.
+    std::size_t Count(NodeRef parent, std::string_view name);
 
 private:
     using Nodes = std::vector<NodeRef>;
     /// By the name and the names of the attributes asked for, then by the values of these attributes.
-    using FirstByValues = std::unordered_map<std::string, NodeRef>;
+    struct FirstByValues {
+        std::unordered_map<std::string, NodeRef> nodes;
+        std::size_t taken = 0; ///< how many of the nodes of that name are in it
+    };
     using ByValues = std::unordered_map<std::string, FirstByValues>;
     struct Parent {
         std::unordered_map<std::string_view, Nodes> byName;
         ByValues byValues;
+        NodeRef last = NodeRef::None; ///< the last child that was taken in
     };
 
     NodeRef FirstOf(const Nodes& named, ByValues& byValues, std::string_view name,
@@ -48,5 +60,8 @@ private:
     std::unordered_map<std::string_view, Nodes> m_inDocument;
     ByValues m_inDocumentByValues;
 };
+
+/// Whether the element has every one of these attributes with exactly that value.
+bool MeetsConditions(const XmlTree& tree, NodeRef element, const std::vector<PathCondition>& conditions);
 
 } // namespace Framework

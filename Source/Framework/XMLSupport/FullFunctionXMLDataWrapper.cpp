@@ -7,6 +7,8 @@
 #include "Framework/XMLSupport/Attachment.h"
 #include "Framework/XMLSupport/DomNodes.h"
 #include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/PathLookup.h"
+#include "Framework/XMLSupport/PathMaker.h"
 #include "Framework/XMLSupport/Utf.h"
 #include "Framework/XMLSupport/WrapperState.h"
 
@@ -43,11 +45,37 @@ DOMDocument* FullFunctionXMLDataWrapper::GetOutputDocument() {
 }
 
 DOMNode* FullFunctionXMLDataWrapper::FindOutputNode(const zelString& sQuery, bool bFromDocument, bool) {
-    return GetDOMNode(sQuery, bFromDocument);
+    FaultPoint("FindOutputNode");
+    NodeRef node = NodeRef::None;
+    try {
+        node = m_pState->Find(sQuery, bFromDocument);
+    } catch (const std::runtime_error& failure) {
+        m_pState->SetError(-1, failure.what());
+    }
+    return m_pState->DomNode(node);
 }
 
 bool FullFunctionXMLDataWrapper::CreateQueryPath(const zelString& sQuery) {
-    m_pState->SetError(-1, "cannot create " + sQuery + ": dumping by query is not supported yet");
+    FaultPoint("CreateQueryPath");
+    try {
+        if (GetOutputDocument() == nullptr || !m_pState->domIsMaster) {
+            throw std::runtime_error(m_pState->readOnly ? "the document is read only" : "there is no document");
+        }
+        const WrapperState::PathStart start = m_pState->StartOf(sQuery, true);
+        if (start.rest.empty() && !sQuery.empty()) {
+            return true; // the node that a walk stands on
+        }
+        const ParsedPath parsed = ReadPath(start.rest);
+        if (parsed.kind != PathKind::Simple) {
+            throw std::runtime_error("it is not made of names, positions and attribute values");
+        }
+        PathMaker(*m_pState->dom->tree, m_pState->Index()).Make(parsed.path, start.node);
+        return true;
+    } catch (const std::runtime_error& failure) {
+        m_pState->SetError(-1, "cannot create " + sQuery + ": " + failure.what());
+    } catch (const std::invalid_argument& failure) {
+        m_pState->SetError(-1, "cannot create " + sQuery + ": " + failure.what());
+    }
     return false;
 }
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <limits>
 
 namespace Framework {
 
@@ -31,7 +30,8 @@ bool IsQuote(char c) {
 /// from the last one back, it is worked out how the rest reads best; so the time stays linear in the text.
 class PathReader {
 public:
-    explicit PathReader(std::string_view text) : m_text(text), m_lastBracket(text.rfind(']')) {}
+    explicit PathReader(std::string_view text)
+        : m_text(text), m_lastBracket(text.rfind(']')), m_lastQuotes{text.rfind('\''), text.rfind('"')} {}
 
     ParsedPath Read();
 
@@ -56,6 +56,7 @@ private:
             m_text.begin());
     }
     std::size_t SkipBlanks(std::size_t at) const { return std::min(m_text.find_first_not_of(' ', at), m_text.size()); }
+    std::size_t LastOf(char quote) const { return m_lastQuotes[quote == '"' ? 1 : 0]; }
     std::vector<Rest>& RestsOf(char quote) { return m_rests[quote == '"' ? 1 : 0]; }
 
     Cursor Follow(Cursor cursor);
@@ -70,6 +71,7 @@ private:
 
     std::string_view m_text;
     std::size_t m_lastBracket;
+    std::array<std::size_t, 2> m_lastQuotes;
     bool m_readsToEnd = false; ///< from behind the last bracket
     std::array<std::vector<Rest>, 2> m_rests;
     QueryPath* m_path = nullptr; ///< what is read goes here; null during the survey
@@ -125,12 +127,14 @@ PathReader::Cursor PathReader::ReadPredicate(std::size_t at) {
         std::size_t position = 0;
         const auto result = std::from_chars(m_text.data() + at, m_text.data() + end, position);
         const bool isPlace = result.ec == std::errc() && position != 0;
-        m_path->steps.back().position = isPlace ? position : std::numeric_limits<std::size_t>::max();
+        m_path->steps.back().position = isPlace ? position : PathStep::nowhere;
     }
-    return {Expect::Tail, end + 1};
+    const bool hasConditions = m_text.substr(end + 1).starts_with("[@");
+    return hasConditions ? Cursor{Expect::Condition, end + 2} : Cursor{Expect::Tail, end + 1};
 }
 
-/// `@name='value'` up to the value, or all of `@name=value`, which goes up to the last bracket.
+/// `@name='value'` up to the value, or all of `@name=value`, which goes up to the last bracket. A quote that stands
+/// alone is part of such a value.
 PathReader::Cursor PathReader::ReadCondition(std::size_t at) {
     if (at >= m_text.size() || m_text[at] != '@') {
         return {};
@@ -141,7 +145,7 @@ PathReader::Cursor PathReader::ReadCondition(std::size_t at) {
         return {};
     }
     const std::size_t valueBegin = nameEnd + 1;
-    if (valueBegin < m_text.size() && IsQuote(m_text[valueBegin])) {
+    if (valueBegin < m_text.size() && IsQuote(m_text[valueBegin]) && LastOf(m_text[valueBegin]) != valueBegin) {
         return {Expect::Value, valueBegin + 1};
     }
     if (m_lastBracket == npos || m_lastBracket < valueBegin || !m_readsToEnd) {

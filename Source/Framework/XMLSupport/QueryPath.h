@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,16 +11,20 @@ namespace Framework {
 struct PathCondition {
     std::string attribute;
     std::string value;
+    bool operator==(const PathCondition&) const = default;
 };
 
 struct PathStep {
     std::string name;
     bool isAttribute = false;
-    std::size_t position = 0; ///< from 1; 0 when the step counts nothing, beyond any list for a place that cannot be
-    std::vector<PathCondition> conditions;
+    std::size_t position = 0; ///< from 1; 0 when the step counts nothing, nowhere for a place that cannot be
+    std::vector<PathCondition> conditions; ///< of the element at that position when there is one
+
+    static constexpr std::size_t nowhere = std::numeric_limits<std::size_t>::max();
 };
 
-/// `//Name/Step[@k='v'  and @k2='v2' ]/Step[n]/@attribute`, or the same without the head, relative to a node.
+/// `//Name/Step[@k='v'  and @k2='v2' ]/Step[n]/Step[n][@k='v']/@attribute`, or the same without the head, relative to a
+/// node.
 struct QueryPath {
     bool fromDocument = false;
     std::vector<PathStep> steps;

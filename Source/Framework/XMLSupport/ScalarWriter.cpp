@@ -64,7 +64,7 @@ void Add(WrapperState& wrapper, NodeRef parent, const FieldHint& hint, std::stri
         const ElementPlace place = PlaceOfField(tree, parent, hint.order, hint.position);
         wrapper.Edit().AddElement(place, hint.name, text, hint.form);
     }
-    wrapper.NodesChanged();
+    wrapper.ForgetIndex();
 }
 
 bool Reads(const XmlTree& tree, NodeRef node, TextForm form, ValueKind kind, std::string_view text) {
@@ -88,7 +88,7 @@ void Change(WrapperState& wrapper, NodeRef node, std::string_view text, TextForm
         editor.SetText(node, text, form);
     }
     if (isAttribute) {
-        wrapper.NodesChanged();
+        wrapper.ForgetIndex();
     }
 }
 
@@ -125,7 +125,7 @@ void WriteField(WrapperState& wrapper, NodeRef parent, NodeRef present, const Fi
     if (!needsNode) {
         if (TreeEditor& editor = wrapper.Edit(); editor.IsAdded(present)) {
             editor.Remove(present);
-            wrapper.NodesChanged();
+            wrapper.ForgetIndex();
             return;
         }
     }

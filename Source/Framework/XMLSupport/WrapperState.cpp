@@ -1,9 +1,12 @@
 #include "Framework/XMLSupport/WrapperState.h"
 
+#include <algorithm>
+
 #include "Framework/XMLSupport/Attachment.h"
 #include "Framework/XMLSupport/DocumentEditor.h"
 #include "Framework/XMLSupport/DomEditor.h"
 #include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/OutputScope.h"
 #include "Framework/XMLSupport/PathLookup.h"
 #include "Framework/XMLSupport/TreeReading.h"
 #include "Framework/XMLSupport/XmlWriter.h"
@@ -40,11 +43,26 @@ NodeRef WrapperState::Find(std::string_view path, bool fromDocument) {
     if (!IsLoaded()) {
         return NodeRef::None;
     }
-    // Others may change a DOM between two calls without our knowing, so nothing about it is remembered.
-    if (!m_index.has_value() || domIsMaster) {
-        m_index.emplace(*Tree());
+    const PathStart start = StartOf(path, fromDocument);
+    return FindByPath(*Tree(), Index(), start.node, start.rest);
+}
+
+WrapperState::PathStart WrapperState::StartOf(std::string_view path, bool fromDocument) const {
+    if (output != nullptr && output->IsAbove(path)) {
+        return {output->Node(), path.substr(std::min(path.size(), output->Query().size() + 1))};
     }
-    return FindByPath(*Tree(), *m_index, fromDocument ? Tree()->Root() : Here(), path);
+    return {fromDocument ? Tree()->Root() : Here(), path};
+}
+
+ChildIndex& WrapperState::Index() {
+    // Others may change a DOM between two calls without our knowing, so nothing about it is remembered, except while
+    // only we write to it.
+    if (!m_index.has_value() || (domIsMaster && output == nullptr)) {
+        m_index.emplace(*Tree());
+    } else if (domIsMaster) {
+        m_index->ForgetDocument();
+    }
+    return *m_index;
 }
 
 void WrapperState::BuildDom() {

@@ -17,6 +17,7 @@
 namespace Framework {
 
 class Attachment;
+class OutputScope;
 
 /// A DOM beside or instead of the reading tree, with the way from the nodes of the tree it was built from, and back.
 struct DomSide {
@@ -40,6 +41,7 @@ struct WrapperState {
     /// Documents that were left behind for a copy of their own when they had to be changed while shared: callers may
     /// still hold nodes of them, which have the same numbers in the copy.
     std::vector<std::shared_ptr<const Document>> left;
+    const OutputScope* output = nullptr; ///< the innermost walk that writes into the DOM at this moment
     std::string error;
     int errorNumber = 0;
 
@@ -56,13 +58,21 @@ struct WrapperState {
     NodeRef Translate(NodeRef documentNode) const;
     /// The node that a query or name finds; None when there is none. Throws PathError.
     NodeRef Find(std::string_view path, bool fromDocument);
+    /// Where a path starts, and what of it is left from there.
+    struct PathStart {
+        NodeRef node;
+        std::string_view rest;
+    };
+    PathStart StartOf(std::string_view path, bool fromDocument) const;
+    /// The index over Tree(), fit for one query.
+    ChildIndex& Index();
     /// The DOM node that stands for a node of Tree(). Builds the DOM when there is none.
     DOMNode* DomNode(NodeRef node);
     /// Write access to Tree(), good until the next call of anything else here. A document that is shared is copied
     /// first, so nobody else sees the change; numbers of nodes stay. Throws WriteError on a read-only document.
     TreeEditor& Edit();
-    /// To be called when an element or attribute came, went or was renamed: indexes are made anew.
-    void NodesChanged() { m_index.reset(); }
+    /// To be called when an element or attribute came, went or was renamed: the index is made anew.
+    void ForgetIndex() { m_index.reset(); }
     /// A document that was loaded becomes this wrapper's, which starts afresh. Throws std::runtime_error on a private
     /// wrapper, whose objects have nowhere to go.
     void Load(std::shared_ptr<const Document> loaded, bool isReadOnly);

@@ -1,0 +1,111 @@
+#include "Framework/XMLSupport/PathMaker.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include <xercesc/dom/DOM.hpp>
+
+#include "Framework/XMLSupport/DomNodes.h"
+#include "Framework/XMLSupport/PathLookup.h"
+
+namespace Framework {
+
+namespace {
+
+void AppendAll(DOMNode& parent, const std::vector<DOMNode*>& children) {
+    for (DOMNode* const child : children) {
+        parent.appendChild(child);
+    }
+}
+
+} // namespace
+
+void PathMaker::Make(const QueryPath& path, NodeRef start) {
+    NodeRef node = start;
+    for (std::size_t at = 0; at < path.steps.size(); ++at) {
+        const PathStep& step = path.steps[at];
+        const bool isHead = at == 0 && path.fromDocument;
+        if (node == NodeRef::None && !isHead) {
+            throw std::runtime_error("the document has no root to begin at");
+        }
+        NodeRef found = FindStep(m_tree, m_index, node, step, isHead);
+        if (found == NodeRef::None) {
+            found = FindStanding(node, step, isHead);
+            if (found == NodeRef::None) {
+                Hang(node, path.steps, at, isHead);
+                return;
+            }
+            SetAttributes(found, path.steps, at);
+            m_index.ForgetAttributes(node);
+        }
+        node = found;
+    }
+}
+
+/// The element that a step means although it has other attributes.
+NodeRef PathMaker::FindStanding(NodeRef parent, const PathStep& step, bool isHead) {
+    if (step.position != 0) {
+        return FindPlace(m_index, parent, step, isHead);
+    }
+    const NodeRef root = m_tree.Root();
+    return isHead && root != NodeRef::None && m_tree.Name(root) == step.name ? root : NodeRef::None;
+}
+
+void PathMaker::SetAttributes(NodeRef element, const Steps& steps, std::size_t at) {
+    for (std::size_t later = at; later < steps.size(); ++later) {
+        NewElementFor(steps[later]); // throws before anything is changed
+    }
+    for (const PathCondition& condition : steps[at].conditions) {
+        SetAttribute(*DomTree::Node(element), *m_tree.Document(), condition.attribute, condition.value);
+    }
+}
+
+/// Appends the steps from `at` on, each below the one before. They are built from the innermost out and hung last:
+/// appending looks at every ancestor, and what fails on the way leaves nothing behind.
+void PathMaker::Hang(NodeRef parent, const Steps& steps, std::size_t at, bool isHead) {
+    std::vector<DOMNode*> made;
+    for (std::size_t next = steps.size(); next-- > at;) {
+        const std::vector<DOMNode*> inner = std::exchange(made, {});
+        for (std::size_t i = CountMissing(parent, steps[next], isHead && next == at, next != at); i > 1; --i) {
+            made.push_back(NewElement(*m_tree.Document(), steps[next].name));
+        }
+        made.push_back(NewElementFor(steps[next]));
+        AppendAll(*made.back(), inner);
+    }
+    const NodeRef root = m_tree.Root();
+    if (isHead && root == NodeRef::None && made.size() > 1) {
+        throw std::runtime_error("a document has one root");
+    }
+    DOMNode* const hook = !isHead                 ? DomTree::Node(parent)
+                          : root == NodeRef::None ? m_tree.Document()
+                                                  : DomTree::Node(root);
+    AppendAll(*hook, made);
+}
+
+std::size_t PathMaker::CountMissing(NodeRef parent, const PathStep& step, bool isHead, bool parentIsNew) {
+    if (step.position == 0) {
+        return 1;
+    }
+    const std::size_t there = parentIsNew ? 0
+                              : isHead    ? m_index.AllInDocument(step.name).size()
+                                          : m_index.Count(parent, step.name);
+    constexpr std::size_t most = 1000; // so that a wrong number does not fill the memory
+    if (step.position - there > most) {
+        throw std::runtime_error(step.name + " cannot be created at this position: there are only " +
+                                 std::to_string(there));
+    }
+    return step.position - there;
+}
+
+DOMNode* PathMaker::NewElementFor(const PathStep& step) {
+    if (step.isAttribute) {
+        throw std::runtime_error("the attribute " + step.name + " is no element to create");
+    }
+    DOMNode* const element = NewElement(*m_tree.Document(), step.name);
+    for (const PathCondition& condition : step.conditions) {
+        SetAttribute(*element, *m_tree.Document(), condition.attribute, condition.value);
+    }
+    return element;
+}
+
+} // namespace Framework
