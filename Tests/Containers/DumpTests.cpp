@@ -133,13 +133,4 @@ TEST(Dump, WordsOutsideAVocabularyAndFreshEnumerationsAreWrittenEmpty) {
     EXPECT_EQ(content->GetStringValue("ThreadPriority", false), "");
 }
 
-TEST(Dump, WhatIsNotBuiltYetSaysSo) {
-    LoadConfigType object(false);
-    ASSERT_TRUE(LoadText(object, "<LoadConfig/>"));
-    FullFunctionXMLDataWrapper output;
-    ASSERT_TRUE(output.CreateOutputDocument("LoadConfig"));
-    EXPECT_FALSE(object.DumpMergeContents("", &output, -1, false));
-    EXPECT_NE(object.GetLastError().find("not supported yet"), std::string::npos);
-}
-
 } // namespace

@@ -67,26 +67,4 @@ void SetAttribute(DOMNode& element, DOMDocument&, std::string_view name, std::st
     }
 }
 
-void SetElementText(DOMNode& element, DOMDocument& document, std::string_view text) {
-    const std::u16string units = CheckedText(zelString(element.getNodeName()), text);
-    std::vector<DOMNode*> texts;
-    bool asCData = false;
-    for (DOMNode* child = element.getFirstChild(); child != nullptr; child = child->getNextSibling()) {
-        const bool isCData = child->getNodeType() == DOMNode::CDATA_SECTION_NODE;
-        asCData = asCData || isCData;
-        if (isCData || child->getNodeType() == DOMNode::TEXT_NODE) {
-            texts.push_back(child);
-        }
-    }
-    DOMNode* const before = texts.empty() ? element.getFirstChild() : texts.front();
-    if (!units.empty()) {
-        DOMNode* const made = asCData ? static_cast<DOMNode*>(document.createCDATASection(Units(units)))
-                                      : document.createTextNode(Units(units));
-        element.insertBefore(made, before);
-    }
-    for (DOMNode* const old : texts) {
-        element.removeChild(old)->release();
-    }
-}
-
 } // namespace Framework

@@ -13,9 +13,6 @@ DOMNode* AppendTextElement(DOMNode& parent, DOMDocument& document, std::string_v
 DOMNode* AppendCDataElement(DOMNode& parent, DOMDocument& document, std::string_view name, std::string_view text);
 /// Sets the attribute, in place of a value that is there.
 void SetAttribute(DOMNode& element, DOMDocument& document, std::string_view name, std::string_view value);
-/// Puts the text in place of all direct text and CDATA of the element, where the first of it stood, as CDATA when one
-/// of them was; elements, comments and instructions stay.
-void SetElementText(DOMNode& element, DOMDocument& document, std::string_view text);
 /// An element that is not hung anywhere yet.
 DOMNode* NewElement(DOMDocument& document, std::string_view name);
 

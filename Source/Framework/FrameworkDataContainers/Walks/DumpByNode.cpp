@@ -171,6 +171,10 @@ private:
 bool DumpByNode(TypedDataContainer& object, const FieldTable& table, DOMNode* pParentNode,
                 FullFunctionXMLDataWrapper* pOutput, DOMNode*& pPassedCurrent, bool bIncludeMergeAttributes) {
     try {
+        if (pOutput == nullptr || pOutput->GetOutputDocument() == nullptr) {
+            object.SetLastError(-1, "there is no output document to dump into");
+            return false;
+        }
         bool bSuccess = true;
         DOMNode* pTestCurrent = nullptr;
         if (table.parent != nullptr) {
