@@ -120,6 +120,9 @@ private:
             DumpEntries(row);
         } else if (row.form == FieldForm::KeyedList) {
             for (TypedDataContainer::SimpleDataContainer* const entry : m_object.*row.member.keyedTexts) {
+                if (entry == nullptr) {
+                    continue;
+                }
                 Note(m_object.CreateTextNodeWithAttr(m_current, m_document, row.name.data(),
                                                      m_object.GetSimpleTypeData(entry), row.keyAttribute.data(),
                                                      entry->ElementName));
