@@ -1,7 +1,6 @@
 #include "Framework/XMLSupport/DomNodes.h"
 
 #include <stdexcept>
-#include <vector>
 
 #include <xercesc/dom/DOM.hpp>
 
