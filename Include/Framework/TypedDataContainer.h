@@ -240,6 +240,7 @@ private:
     zelString m_sLastError;
     int m_iLastError = 0;
     bool m_bValid = false;
+    bool m_bHoldsNode = false; // populated from m_uNode and not reset since
     const char* m_pFixedError =
         nullptr;                // a literal that stands for m_sLastError, so that reporting a failure cannot fail
     std::uintptr_t m_uNode = 0; // the node of the wrapper's document that the object stands on

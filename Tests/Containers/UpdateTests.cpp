@@ -270,6 +270,93 @@ TEST(Update, RefusesReadOnlyObjectsAndPassesOverWhatStandsNowhere) {
     EXPECT_EQ(table.BuildUpdateQuery("State", table.GetState("a")), "State[1]");
 }
 
+TEST(Update, FindsAddedTextsByTheirKey) {
+    const auto update = [](const std::string& docs, bool clear,
+                           std::vector<std::pair<const char*, const char*>> added) {
+        Loaded loaded(ContainerCatalog::FindClass("StateDefinitionType"),
+                      "<StateDefinition>" + docs + "</StateDefinition>");
+        auto& state = dynamic_cast<StateDefinitionType&>(*loaded.object);
+        if (clear) {
+            state.ClearDoc();
+        }
+        for (const auto& [text, key] : added) {
+            state.AddDoc(text, key);
+        }
+        EXPECT_TRUE(state.UpdateContainedData());
+        const std::string text = loaded.Text();
+        return text.substr(17, text.size() - 35);
+    };
+    const std::string numbered = "<Doc Index='2'>a</Doc><Doc Index='1'>b</Doc><Doc Index='2'>c</Doc>";
+    EXPECT_EQ(update(numbered, true, {{"x", "2"}, {"y", "3"}}),
+              "<Doc Index='2'>x</Doc><Doc Index='1'>b</Doc><Doc Index='2'>c</Doc>");
+    EXPECT_EQ(update("<Doc>a</Doc><Doc>b</Doc>", true, {{"x", "2"}, {"y", "02"}}), "<Doc>a</Doc><Doc>x</Doc>");
+    EXPECT_EQ(update("<Doc Index='7'>a</Doc>", false, {{"x", "7"}}), "<Doc Index='7'>a</Doc>"); // that is the first's
+}
+
+TEST(Update, ForgetsWhatItWasPopulatedFromBeforeAReset) {
+    XMLDataWrapper wrapper;
+    const std::string xml = "<L><ChildThread><LibraryPath>p</LibraryPath></ChildThread><ChildThread/></L>";
+    ASSERT_TRUE(wrapper.LoadXMLText(xml, false));
+    ChildThreadType thread(false);
+    ASSERT_TRUE(thread.SetContainedDataPtr(&wrapper, wrapper.GetXalanNode("ChildThread[1]", false), false, true));
+    thread.ResetDataMembers();
+    ASSERT_TRUE(thread.SetContainedDataPtr(&wrapper, wrapper.GetXalanNode("ChildThread[2]", false), false, true));
+    EXPECT_TRUE(thread.UpdateContainedData());
+    EXPECT_EQ(wrapper.GetXMLText(), xml);
+}
+
+TEST(Update, LeavesOtherWrappersOfADocumentAlone) {
+    const std::string xml = "<StateTable><State Name='n' BaseState='b'/></StateTable>";
+    StateTableType table(false);
+    ASSERT_TRUE(LoadText(table, "<StateTable/>"));
+    XMLDataWrapper source;
+    ASSERT_TRUE(source.LoadXMLText(xml, false));
+    ASSERT_TRUE(
+        table.MergeFromDataPacket(nullptr, "F", &source, false)); // the entry stands on that document from now on
+    XalanNode* const node = source.SelectNode("State", false);
+    ASSERT_TRUE(source.SetQueryValue("BaseState", "changed", false));
+    source.SetCurrentNode(nullptr);
+    source.SetCurrentNode(node); // a node from before the change
+    EXPECT_EQ(source.GetStringValue("@BaseState", false), "changed");
+    XMLDataWrapper* const own = table.GetState("n")->GetContainedDataPtr();
+    EXPECT_EQ(own->GetXMLText(), xml);
+    table.GetState("n")->SetBaseState("mine");
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_TRUE(table.UpdateContainedData());
+    }
+    EXPECT_NE(own->GetXMLText().find("BaseState='mine'"), std::string::npos);
+    EXPECT_EQ(own->GetStoredQuery(), "/State"); // does not grow with every update
+    EXPECT_NE(source.GetXMLText().find("BaseState='changed'"), std::string::npos);
+}
+
+/// Asks for the DOM in the middle of the update of its parent.
+class DomState : public StateDefinitionType {
+public:
+    DomState() : StateDefinitionType(true) {}
+    bool UpdateContainedData() override {
+        EXPECT_NE(GetContainedDataPtr()->GetDOMNode(true, false), nullptr);
+        return StateDefinitionType::UpdateContainedData();
+    }
+};
+
+TEST(Update, GoesOnWhenAHostTurnsToTheDomInMidWalk) {
+    Loaded loaded(ContainerCatalog::FindClass("StateTableType"),
+                  "<StateTable Name='t'><State Name='a'/><State Name='b'/></StateTable>");
+    auto& table = dynamic_cast<StateTableType&>(*loaded.object);
+    table.RemoveState("a", "");
+    auto* const state = new DomState;
+    state->SetContainerName("State");
+    table.AddNewState(state, "a");
+    ASSERT_TRUE(
+        state->SetContainedDataPtr(&loaded.wrapper, loaded.wrapper.GetXalanNode("State[1]", false), false, true));
+    table.SetName("new");
+    table.GetState("b")->SetBaseState("c");
+    EXPECT_TRUE(table.UpdateContainedData());
+    EXPECT_NE(loaded.Text().find("<StateTable Name=\"new\"><State Name=\"a\"/><State BaseState=\"c\" Name=\"b\"/>"),
+              std::string::npos)
+        << loaded.Text();
+}
+
 TEST(Update, ReportsTheLastWriteAndGoesOnAfterAFailedOne) {
     Loaded loaded(ContainerCatalog::FindClass("ChildThreadType"),
                   "<ChildThread><LibraryPath>p</LibraryPath></ChildThread>");

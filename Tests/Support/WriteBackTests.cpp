@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "Framework/LoadLimits.h"
 #include "Framework/XMLDataWrapper.h"
 
 #include <filesystem>
@@ -78,6 +79,37 @@ TEST(WriteBackEncodings, WideDocumentsKeepTheirOrderAndMark) {
         ASSERT_TRUE(wrapper.SetQueryValue("A", "w", false));
         EXPECT_EQ(wrapper.GetXMLText(), wide("<?xml version='1.0' encoding='UTF-16'?><R><A>w</A></R>"));
     }
+}
+
+TEST(WriteBackEncodings, WriteOnlyWhatComesBack) {
+    XMLDataWrapper redundant; // the escape sequence before </R> would not be written again
+    ASSERT_TRUE(redundant.LoadXMLText("<?xml version='1.0' encoding='ISO-2022-JP'?><R><A>v</A>\x1b(B</R>", false));
+    EXPECT_FALSE(redundant.SetQueryValue("A", "w", false));
+    EXPECT_NE(redundant.GetLastError().find("does not give the bytes"), std::string::npos) << redundant.GetLastError();
+    XMLDataWrapper japanese; // a yen sign would come back as a backslash
+    ASSERT_TRUE(japanese.LoadXMLText("<?xml version='1.0' encoding='EUC-JP'?><R><A>\xA4\xA2</A></R>", false));
+    ASSERT_TRUE(japanese.SetQueryValue("A", "\xC2\xA5\xE3\x81\x84", false));
+    EXPECT_EQ(japanese.GetXMLText(), "<?xml version='1.0' encoding='EUC-JP'?><R><A>&#165;\xA4\xA4</A></R>");
+}
+
+/// Sets other limits for as long as it lives.
+struct LimitScope {
+    explicit LimitScope(const LoadLimits& limits) { LoadLimits::SetDefault(limits); }
+    ~LimitScope() { LoadLimits::SetDefault(LoadLimits()); }
+};
+
+TEST(WriteBackLimits, NothingGrowsBeyondWhatLoads) {
+    XMLDataWrapper wrapper;
+    ASSERT_TRUE(wrapper.LoadXMLText("<R><A>v</A></R>", false));
+    LoadLimits limits;
+    limits.bytes = 20;
+    const LimitScope scope(limits);
+    ASSERT_TRUE(wrapper.SetQueryValue("A", std::string(10, 'w'), false));
+    EXPECT_EQ(wrapper.GetXMLText(), "");
+    EXPECT_EQ(wrapper.GetLastError(),
+              "cannot write <text>: it would have 24 bytes, more than the 20 that can be loaded again");
+    ASSERT_TRUE(wrapper.SetQueryValue("A", "w", false));
+    EXPECT_EQ(wrapper.GetXMLText(), "<R><A>w</A></R>");
 }
 
 TEST(WriteBackNames, AreLookedForAsChildThenAsAttribute) {

@@ -31,6 +31,7 @@ struct ContainerAccess {
     /// Stands the object on a node of the tree that the wrapper reads from at this moment.
     static void Attach(TypedDataContainer& object, std::shared_ptr<Attachment> attachment, NodeRef node) {
         object.m_pEarlierNodes.reset();
+        object.m_bHoldsNode = true;
         object.m_uNode = Mark(*attachment, node);
         object.m_pContainedData = std::move(attachment);
     }
@@ -38,7 +39,7 @@ struct ContainerAccess {
     /// The same for an object that is populated once more without being reset: what the new node lacks was read from
     /// the ones before.
     static void AttachAgain(TypedDataContainer& object, std::shared_ptr<Attachment> attachment, NodeRef node) {
-        if (object.m_pContainedData != attachment) {
+        if (object.m_pContainedData != attachment || !object.m_bHoldsNode) {
             Attach(object, std::move(attachment), node);
             return;
         }
@@ -49,8 +50,11 @@ struct ContainerAccess {
         object.m_uNode = Mark(*attachment, node);
     }
 
-    /// The members were reset: they no longer hold anything of earlier nodes.
-    static void ForgetEarlierNodes(TypedDataContainer& object) { object.m_pEarlierNodes.reset(); }
+    /// The members were reset: they no longer hold anything of what they were populated from.
+    static void ForgetNodes(TypedDataContainer& object) {
+        object.m_pEarlierNodes.reset();
+        object.m_bHoldsNode = false;
+    }
 
     static void Detach(TypedDataContainer& object) {
         object.m_pContainedData.reset();

@@ -9,7 +9,7 @@ void Reset(TypedDataContainer& object, const FieldTable& table) {
     if (table.parent != nullptr) {
         Reset(object, *table.parent);
     }
-    ContainerAccess::ForgetEarlierNodes(object);
+    ContainerAccess::ForgetNodes(object);
     for (const FieldRow& row : table.rows) {
         if (row.list != nullptr) {
             row.list->clear(object);
