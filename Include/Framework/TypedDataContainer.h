@@ -112,8 +112,8 @@ public:
     virtual bool SaveContents(const char* sPath);
 
     // Merging. Each returns true when the source was read and walked; what could not be taken over from it goes to the
-    // override log. On false nothing was taken over. The feature is the root's FeatureID attribute, else the store, the
-    // model or the file's stem, except where it is given.
+    // override log. On false nothing was taken over, unless the walk met an exception. The feature is the root's
+    // FeatureID attribute, else the store, the model or the file's stem, except where it is given.
 
     virtual bool MergeFromTemplate(ValueLookupBase* pLookup, const char* sStore, const char* sXMLName,
                                    const char* sClassName);
@@ -155,8 +155,10 @@ public:
                                         zelString sAttrName, zelString sAttrValue);
 
     /// Merges one entry of a keyed list of containers; `pMergeData` stands on it. Takes over `pNew`, a fresh entry. An
-    /// entry of that key is merged into; else `pNew` is loaded and appended. False when the entry was refused, which is
-    /// logged.
+    /// entry of that key is merged into; else `pNew` is loaded and appended; the node's MergeAction (Merge, Add,
+    /// Replace, Remove, Clear) and PlacementOrder (First, Last, Before, After) may ask for something else. Called by
+    /// itself it is complete when it returns; within a merge the vector gets its order at the end of the list, and
+    /// holds null for a removed entry until then. False when the entry was refused, which is logged.
     virtual bool MergeElement(zelString sFeatureID, Zelvon::SyncMap<zelString, TypedDataContainer*>& mapEntries,
                               std::vector<TypedDataContainer*>& vecEntries, XMLDataWrapper* pMergeData,
                               TypedDataContainer* pNew, zelString sKey, zelString sKeyName, zelString sXMLName);
@@ -175,8 +177,15 @@ public:
     /// A new wrapper with the object's content as XML, which the caller owns; null, with an error, when it cannot be
     /// written.
     virtual XMLDataWrapper* BuildAndReturnDataContent();
+    /// Dumps by query: finds the object's element in the output as `sParentQuery`/Name, with its position from 1 when
+    /// `QueryPos` is not negative and its attributes when it has any; makes it when it has attributes or a position;
+    /// and appends the fields. Without an element nothing is dumped, and the result is true. False, with the error,
+    /// when a part could not be written; the rest is there.
     virtual bool DumpMergeContents(const zelString& sParentQuery, FullFunctionXMLDataWrapper* pOutput, int QueryPos,
                                    bool bIncludeMergeAttributes);
+    /// Dumps by node: builds the object's element, with its attributes and fields, and hangs it below `pParentNode`,
+    /// else below the root, or fills the root when that bears the name. `pPassedCurrent` receives the element when it
+    /// was hung. Nodes belong to the output document. False as above.
     virtual bool DumpMergeContentsII(DOMNode* pParentNode, FullFunctionXMLDataWrapper* pOutput,
                                      DOMNode*& pPassedCurrent, bool bIncludeMergeAttributes);
     /// Writes the members of the object and of all that hangs below it back into the XML that each stands on: only what
