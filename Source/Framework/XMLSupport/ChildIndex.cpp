@@ -65,6 +65,18 @@ void ChildIndex::ForgetAttributes(NodeRef parent) {
     }
 }
 
+void ChildIndex::ForgetAttribute(NodeRef parent, std::string_view attribute) {
+    std::string part;
+    AppendToKey(part, attribute);
+    const auto forget = [&part](ByValues& byValues) {
+        std::erase_if(byValues, [&part](const auto& item) { return item.first.find(part) != std::string::npos; });
+    };
+    forget(m_inDocumentByValues);
+    if (const auto known = m_parents.find(parent); known != m_parents.end()) {
+        forget(known->second.byValues);
+    }
+}
+
 void ChildIndex::ForgetDocument() {
     m_inDocument.clear();
     m_inDocumentByValues.clear();

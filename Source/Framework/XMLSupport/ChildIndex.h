@@ -19,6 +19,8 @@ public:
 
     /// Attributes of children of this parent were changed.
     void ForgetAttributes(NodeRef parent);
+    /// One attribute of one child of this parent was changed: what was not asked by it stays.
+    void ForgetAttribute(NodeRef parent, std::string_view attribute);
     /// Elements came somewhere in the document: what is known about it as a whole no longer holds.
     void ForgetDocument();
 

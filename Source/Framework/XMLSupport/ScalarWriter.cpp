@@ -60,11 +60,12 @@ void Add(WrapperState& wrapper, NodeRef parent, const FieldHint& hint, std::stri
     CheckLimits(tree, parent, hint.isAttribute, below);
     if (hint.isAttribute) {
         wrapper.Edit().AddAttribute(parent, hint.name, text);
+        wrapper.ForgetAttribute(parent, hint.name);
     } else {
         const ElementPlace place = PlaceOfField(tree, parent, hint.order, hint.position);
         wrapper.Edit().AddElement(place, hint.name, text, hint.form);
+        wrapper.ForgetIndex();
     }
-    wrapper.ForgetIndex();
 }
 
 bool Reads(const XmlTree& tree, NodeRef node, TextForm form, ValueKind kind, std::string_view text) {
@@ -88,7 +89,8 @@ void Change(WrapperState& wrapper, NodeRef node, std::string_view text, TextForm
         editor.SetText(node, text, form);
     }
     if (isAttribute) {
-        wrapper.ForgetIndex();
+        const XmlTree& tree = *wrapper.Tree();
+        wrapper.ForgetAttribute(tree.Parent(node), tree.Name(node));
     }
 }
 

@@ -65,6 +65,12 @@ ChildIndex& WrapperState::Index() {
     return *m_index;
 }
 
+void WrapperState::ForgetAttribute(NodeRef element, std::string_view name) {
+    if (m_index.has_value()) {
+        m_index->ForgetAttribute(Tree()->Parent(element), name);
+    }
+}
+
 void WrapperState::BuildDom() {
     auto side = std::make_shared<DomSide>();
     side->document = Framework::BuildDom(*document, [&side](NodeRef node, DOMNode* image) {

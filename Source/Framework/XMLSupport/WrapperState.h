@@ -71,8 +71,10 @@ struct WrapperState {
     /// Write access to Tree(), good until the next call of anything else here. A document that is shared is copied
     /// first, so nobody else sees the change; numbers of nodes stay. Throws WriteError on a read-only document.
     TreeEditor& Edit();
-    /// To be called when an element or attribute came, went or was renamed: the index is made anew.
+    /// To be called when an element came or went: the index is made anew.
     void ForgetIndex() { m_index.reset(); }
+    /// To be called when an attribute got a value, came or went.
+    void ForgetAttribute(NodeRef element, std::string_view name);
     /// A document that was loaded becomes this wrapper's, which starts afresh. Throws std::runtime_error on a private
     /// wrapper, whose objects have nowhere to go.
     void Load(std::shared_ptr<const Document> loaded, bool isReadOnly);
