@@ -1,12 +1,13 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <optional>
 
 #include "Commands.h"
 #include "IssueLog.h"
+#include "MergeWarnings.h"
 #include "Source.h"
 #include "Summary.h"
-#include "TreeDiff.h"
 
 namespace Lanedoc {
 
@@ -18,6 +19,8 @@ struct MergeOptions {
     std::string output = "-";
     bool keepGoing = false;
     bool summary = false;
+    std::size_t depth = 0;
+    bool quiet = false;
 };
 
 /// An override as the command line names it.
@@ -78,11 +81,6 @@ MergeInput ReadInput(const MergeOptions& options) {
     return input;
 }
 
-bool MergeInto(TypedDataContainer& tree, const Override& change) {
-    change.source->Document().SetCurrentNode(nullptr);
-    return tree.MergeFromDataPacket(nullptr, change.feature, &change.source->Document(), false);
-}
-
 void Write(TypedDataContainer& tree, const std::string& output) {
     if (output != "-") {
         if (!tree.SaveContents(output.c_str())) {
@@ -100,44 +98,70 @@ void Write(TypedDataContainer& tree, const std::string& output) {
     WriteOutput(text);
 }
 
+/// Loads the base; what is lost of it on the way is told.
+std::unique_ptr<TypedDataContainer> LoadBase(Source& base, IssueLog& issues, bool quiet) {
+    std::unique_ptr<TypedDataContainer> tree = base.Load();
+    if (quiet) {
+        issues.Forget();
+        return tree;
+    }
+    WarnOfLossesIn(base);
+    issues.Report("warning", base.Name(), mostWarnings);
+    return tree;
+}
+
+/// Merges one override; what is refused of it is told, and put in the report.
+FeatureReport MergeOne(TypedDataContainer& tree, const Override& change, IssueLog& issues) {
+    FeatureReport report{change.feature, change.source->Name(), false, {}, {}};
+    XMLDataWrapper& document = change.source->Document();
+    document.SetCurrentNode(nullptr);
+    const bool isMerged = tree.MergeFromDataPacket(nullptr, change.feature, &document, false);
+    report.refusals = issues.Texts();
+    issues.Report("error", change.source->Name());
+    if (!isMerged && report.refusals.empty()) {
+        report.refusals.emplace_back(tree.GetLastError());
+        Say(WithSeverity(tree.GetLastError(), "error", change.source->Name()));
+    }
+    report.replacesAll = isMerged && document.GetStringValue("@MergeAction", false) == "Replace";
+    return report;
+}
+
+/// Merges all overrides into the tree, in their order, and returns how much was refused. The summary is told as soon as
+/// each is merged.
+std::size_t MergeAll(TypedDataContainer& tree, const std::vector<Override>& overrides, IssueLog& issues,
+                     const MergeOptions& options, const Style& style) {
+    std::size_t problems = 0;
+    std::optional<Snapshot> before;
+    for (const Override& change : overrides) {
+        if (!options.quiet) {
+            WarnOfUnknownIn(*change.source);
+        }
+        if (options.summary) {
+            before = TakeSnapshot(tree);
+        }
+        FeatureReport report = MergeOne(tree, change, issues);
+        problems += report.refusals.size();
+        if (before.has_value()) {
+            report.differences = CompareTrees(*before, tree);
+            std::string summary = SummaryOf(report, options.depth, style);
+            summary.pop_back();
+            Say(summary);
+        }
+    }
+    return problems;
+}
+
 ExitCode Merge(const MergeOptions& options, ColorMode color) {
     const MergeInput input = ReadInput(options);
-    const Style style = StyleOfErrors(color);
     IssueLog issues;
-    const std::unique_ptr<TypedDataContainer> tree = input.base->Load();
-    issues.Report("warning", input.base->Name());
-    // The tree as it was before the feature at hand: each feature is merged into it once it has been compared.
-    std::unique_ptr<TypedDataContainer> before;
-    if (options.summary) {
-        before = input.base->Load();
-        issues.Forget();
-    }
-    std::size_t problems = 0;
-    std::string summary;
-    for (const Override& change : input.overrides) {
-        const bool merged = MergeInto(*tree, change);
-        if (!merged && issues.Count() == 0) {
-            ++problems;
-            Say(WithSeverity(tree->GetLastError(), "error", change.source->Name()));
-        }
-        problems += issues.Count();
-        issues.Report("error", change.source->Name());
-        if (before != nullptr) {
-            summary += SummaryOf(change.feature, CompareTrees(*before, *tree), style);
-            MergeInto(*before, change);
-            issues.Forget();
-        }
-    }
+    const std::unique_ptr<TypedDataContainer> tree = LoadBase(*input.base, issues, options.quiet);
+    const std::size_t problems = MergeAll(*tree, input.overrides, issues, options, StyleOfErrors(color));
     if (problems > 0 && !options.keepGoing) {
         throw Failure(ExitCode::MergeRefused,
                       "lanedoc: merge refused, nothing is written: " + std::to_string(problems) +
                           (problems == 1 ? " problem" : " problems") + "; --keep-going writes the rest");
     }
     Write(*tree, options.output);
-    if (!summary.empty()) {
-        summary.pop_back();
-        Say(summary);
-    }
     return problems > 0 ? ExitCode::MergeRefused : ExitCode::Done;
 }
 
@@ -156,13 +180,26 @@ void AddMergeCommand(CLI::App& tool, Request& request) {
         ->type_name("FILE");
     command->add_flag("--keep-going", options->keepGoing,
                       "Write the result although parts of an override were refused; the exit code is 4 all the same");
-    command->add_flag("--summary", options->summary, "Tell on standard error what each feature added and changed");
+    CLI::Option* const summary = command->add_flag(
+        "--summary", options->summary,
+        "Tell on standard error what each feature added (+), changed (~), replaced (*), removed (-) and "
+        "moved (>), and what of it was refused (!)");
+    command
+        ->add_option("--depth", options->depth, "Of what lies below N steps the summary tells only how much there is")
+        ->type_name("N")
+        ->check(CLI::PositiveNumber.description(""))
+        ->needs(summary);
+    command->add_flag("-q,--quiet", options->quiet,
+                      "Do not warn of what no field names: parts of the base that the result will not hold, parts of "
+                      "an override that are passed over");
     command->footer(R"(Examples:
   lanedoc merge StateProcessingRoot.xml coupons.xml > merged.xml
   lanedoc merge StateProcessingRoot.xml Coupons=coupons.xml Store12=store.xml -o merged.xml --summary
 
 FEATURE is what the override is merged as: without it the FeatureID of its root element, else the name of the file.
-All documents are read before anything is written. Problems are reported as file:line:column: error: text.
+All documents are read before anything is written. What an override asks for in vain, such as Remove of an entry that
+is not there, is reported as file:line:column: error: text. The result is a new document: it holds what the fields of
+the classes name, so comments and unknown elements of the base are not in it, which is warned of.
 
 Exit codes: 0 written, 2 wrong use, 3 bad input, 4 refused (nothing is written without --keep-going), 5 output failed)");
     command->callback(

@@ -17,6 +17,7 @@ public:
     std::string Red(std::string_view text) const { return Paint("31", text); }
     std::string Green(std::string_view text) const { return Paint("32", text); }
     std::string Yellow(std::string_view text) const { return Paint("33", text); }
+    std::string Magenta(std::string_view text) const { return Paint("35", text); }
     std::string Cyan(std::string_view text) const { return Paint("36", text); }
 
 private:

@@ -9,7 +9,19 @@ namespace Lanedoc {
 
 namespace {
 
-/// The text in UTF-8 when it is UTF-16, which its first bytes tell: a mark, or a "<" beside a zero.
+/// Offset of the first start tag, or npos.
+std::size_t FindStartTag(std::string_view text) {
+    std::size_t at = text.find('<');
+    while (at != std::string_view::npos && at + 1 < text.size() && (text[at + 1] == '!' || text[at + 1] == '?')) {
+        const bool isComment = text[at + 1] == '!';
+        const std::size_t end = text.find(isComment ? "-->" : "?>", at + (isComment ? 4 : 2));
+        at = end == std::string_view::npos ? end : text.find('<', end);
+    }
+    return at;
+}
+
+} // namespace
+
 std::string AsUtf8(std::string_view bytes) {
     const auto byteAt = [&](std::size_t at) { return static_cast<unsigned char>(bytes[at]); };
     if (bytes.size() < 2) {
@@ -29,19 +41,6 @@ std::string AsUtf8(std::string_view bytes) {
     }
     return zelString(units.c_str());
 }
-
-/// Offset of the first start tag, or npos.
-std::size_t FindStartTag(std::string_view text) {
-    std::size_t at = text.find('<');
-    while (at != std::string_view::npos && at + 1 < text.size() && (text[at + 1] == '!' || text[at + 1] == '?')) {
-        const bool isComment = text[at + 1] == '!';
-        const std::size_t end = text.find(isComment ? "-->" : "?>", at + (isComment ? 4 : 2));
-        at = end == std::string_view::npos ? end : text.find('<', end);
-    }
-    return at;
-}
-
-} // namespace
 
 RootElement FindRootElement(std::string_view bytes) {
     const std::string text = AsUtf8(bytes);

@@ -1,6 +1,7 @@
 #include "TreeDiff.h"
 
 #include <algorithm>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 
@@ -37,9 +38,15 @@ std::vector<bool> FindStaying(const std::vector<std::size_t>& positions) {
     return staying;
 }
 
+std::string StepOf(const CatalogField& list, const std::vector<SnapshotEntry>& entries, std::size_t position) {
+    return list.GetForm() == CatalogField::KeyedList
+               ? FormatKeyStep(list.Name(), list.KeyAttribute(), entries[position].key)
+               : FormatPositionStep(list.Name(), position + 1);
+}
+
 class TreeComparison {
 public:
-    std::vector<Difference> Run(TypedDataContainer& before, TypedDataContainer& after) {
+    std::vector<Difference> Run(const Snapshot& before, TypedDataContainer& after) {
         CompareContainers(before, after);
         return std::move(m_differences);
     }
@@ -53,173 +60,177 @@ private:
         return difference;
     }
 
-    void NoteContainer(Difference::Kind kind, std::string step, TypedDataContainer& container) {
-        Note(kind, std::move(step)).values = CountValues(container);
+    void NoteAdded(std::string step, TypedDataContainer& container) {
+        Note(Difference::Kind::Added, std::move(step)).valuesAfter = TakeSnapshot(container).values;
     }
 
-    void NoteEntry(Difference::Kind kind, const CatalogField& list, TypedDataContainer& object, std::size_t position) {
+    void NoteAddedEntry(const CatalogField& list, TypedDataContainer& object, std::size_t position) {
         std::string step = EntryStep(list, object, position);
-        if (HoldsContainers(list)) {
-            if (TypedDataContainer* const entry = list.Entry(object, position)) {
-                NoteContainer(kind, std::move(step), *entry);
-            }
-            return;
+        if (!HoldsContainers(list)) {
+            Difference& difference = Note(Difference::Kind::Added, std::move(step));
+            difference.isText = true;
+            difference.after = list.EntryText(object, position);
+        } else if (TypedDataContainer* const entry = list.Entry(object, position)) {
+            NoteAdded(std::move(step), *entry);
         }
-        Difference& difference = Note(kind, std::move(step));
-        difference.isText = true;
-        (kind == Difference::Kind::Added ? difference.after : difference.before) = list.EntryText(object, position);
     }
 
-    void CompareBelow(std::string step, TypedDataContainer& before, TypedDataContainer& after) {
+    /// Where the entry that was just noted stands now.
+    void NotePlace(const CatalogField& list, TypedDataContainer& object, std::size_t position) {
+        m_differences.back().isPlaced = true;
+        m_differences.back().behindAfter = position == 0 ? "" : EntryStep(list, object, position - 1);
+    }
+
+    void NoteRemoved(std::string step, const SnapshotEntry& entry) {
+        Difference& difference = Note(Difference::Kind::Removed, std::move(step));
+        difference.isText = entry.container == nullptr;
+        difference.before = entry.text;
+        difference.valuesBefore = difference.isText ? 0 : entry.container->values;
+    }
+
+    /// An entry or child that was there and is.
+    void CompareBelow(std::string step, const Snapshot& before, TypedDataContainer& after) {
+        // What a merge takes over into an object leaves that on the XML it was loaded from.
+        const bool isReplaced = before.valid && before.document != after.GetContainedDataPtr();
+        const bool isOutermost = isReplaced && !m_isReplaced;
+        if (isOutermost) {
+            Difference& difference = Note(Difference::Kind::Replaced, step);
+            difference.valuesBefore = before.values;
+            difference.valuesAfter = TakeSnapshot(after).values;
+            m_isReplaced = true;
+        }
         m_path.push_back(std::move(step));
         CompareContainers(before, after);
         m_path.pop_back();
+        m_isReplaced = m_isReplaced && !isOutermost;
     }
 
-    void CompareContainers(TypedDataContainer& before, TypedDataContainer& after) {
+    void CompareContainers(const Snapshot& before, TypedDataContainer& after) {
+        std::size_t scalars = 0;
+        std::size_t lists = 0;
         for (const CatalogField& field : ContainerCatalog::ClassOf(after).Fields()) {
             if (field.IsScalar()) {
-                CompareScalar(field, before, after);
+                CompareScalar(field, before.scalars[scalars++], after);
             } else if (field.GetForm() == CatalogField::Child) {
-                CompareChild(field, before, after);
+                CompareChild(field, before.lists[lists++], after);
             } else if (field.GetForm() == CatalogField::KeyedList) {
-                CompareKeyedList(field, before, after);
+                CompareKeyedList(field, before.lists[lists++], after);
             } else {
-                ComparePlainList(field, before, after);
+                ComparePlainList(field, before.lists[lists++], after);
             }
         }
     }
 
-    void CompareScalar(const CatalogField& field, TypedDataContainer& before, TypedDataContainer& after) {
-        const zelString textBefore = field.GetText(before);
+    void CompareScalar(const CatalogField& field, const std::string& before, TypedDataContainer& after) {
         const zelString textAfter = field.GetText(after);
-        if (textBefore != textAfter) {
-            Difference& difference = Note(Difference::Kind::Changed, std::string(field.Name()));
-            difference.isText = true;
-            difference.before = textBefore;
-            difference.after = textAfter;
-            difference.beforeIsDefault = !field.StandsInDocument(before);
+        if (before == textAfter) {
+            return;
         }
+        Difference& difference = Note(Difference::Kind::Changed, std::string(field.Name()));
+        difference.isText = true;
+        difference.before = before;
+        difference.after = textAfter;
+        const bool wasDefault = before == field.DefaultText() || before == field.LoadText();
+        difference.beforeIsDefault = wasDefault && (m_isReplaced || !field.StandsInDocument(after));
     }
 
-    void CompareChild(const CatalogField& field, TypedDataContainer& before, TypedDataContainer& after) {
-        TypedDataContainer* const childBefore = field.GetChild(before);
-        TypedDataContainer* const childAfter = field.GetChild(after);
+    void CompareChild(const CatalogField& field, const std::vector<SnapshotEntry>& before, TypedDataContainer& after) {
+        TypedDataContainer* const child = field.GetChild(after);
         std::string step(field.Name());
-        if (childBefore != nullptr && childAfter != nullptr) {
-            CompareBelow(std::move(step), *childBefore, *childAfter);
-        } else if (childAfter != nullptr) {
-            NoteContainer(Difference::Kind::Added, std::move(step), *childAfter);
-        } else if (childBefore != nullptr) {
-            NoteContainer(Difference::Kind::Removed, std::move(step), *childBefore);
+        if (!before.empty() && child != nullptr) {
+            CompareBelow(std::move(step), *before.front().container, *child);
+        } else if (child != nullptr) {
+            NoteAdded(std::move(step), *child);
+        } else if (!before.empty()) {
+            NoteRemoved(std::move(step), before.front());
         }
     }
 
-    void CompareEntries(const CatalogField& list, TypedDataContainer& before, std::size_t positionBefore,
-                        TypedDataContainer& after, std::size_t positionAfter) {
-        std::string step = EntryStep(list, after, positionAfter);
+    void CompareEntries(const CatalogField& list, const SnapshotEntry& before, TypedDataContainer& after,
+                        std::size_t position) {
+        std::string step = EntryStep(list, after, position);
         if (HoldsContainers(list)) {
-            TypedDataContainer* const entryBefore = list.Entry(before, positionBefore);
-            TypedDataContainer* const entryAfter = list.Entry(after, positionAfter);
-            if (entryBefore != nullptr && entryAfter != nullptr) {
-                CompareBelow(std::move(step), *entryBefore, *entryAfter);
+            TypedDataContainer* const entry = list.Entry(after, position);
+            if (before.container != nullptr && entry != nullptr) {
+                CompareBelow(std::move(step), *before.container, *entry);
             }
             return;
         }
-        const zelString textBefore = list.EntryText(before, positionBefore);
-        const zelString textAfter = list.EntryText(after, positionAfter);
-        if (textBefore != textAfter) {
+        const zelString text = list.EntryText(after, position);
+        if (before.text != text) {
             Difference& difference = Note(Difference::Kind::Changed, std::move(step));
             difference.isText = true;
-            difference.before = textBefore;
-            difference.after = textAfter;
+            difference.before = before.text;
+            difference.after = text;
         }
     }
 
-    void CompareKeyedList(const CatalogField& list, TypedDataContainer& before, TypedDataContainer& after) {
-        // Entries of the tree before that are not yet found again, the first of a key last: keys may be the same once
-        // they are read as numbers.
-        std::unordered_map<std::string, std::vector<std::size_t>> left;
-        for (std::size_t i = list.Length(before); i-- > 0;) {
-            left[list.EntryKey(before, i)].push_back(i);
+    void CompareKeyedList(const CatalogField& list, const std::vector<SnapshotEntry>& before,
+                          TypedDataContainer& after) {
+        // Entries from before that are not yet found again, the first of a key last: keys may be the same once they are
+        // read as numbers.
+        std::unordered_map<std::string_view, std::vector<std::size_t>> left;
+        for (std::size_t i = before.size(); i-- > 0;) {
+            left[before[i].key].push_back(i);
         }
+        std::vector<bool> isRemoved(before.size(), true);
         std::vector<std::size_t> positions(list.Length(after), none);
         for (std::size_t i = 0; i < positions.size(); ++i) {
             const auto found = left.find(list.EntryKey(after, i));
             if (found != left.end() && !found->second.empty()) {
                 positions[i] = found->second.back();
+                isRemoved[positions[i]] = false;
                 found->second.pop_back();
             }
         }
+        const auto lastOld = std::find_if(positions.rbegin(), positions.rend(), [](auto at) { return at != none; });
+        const auto endOfOld = static_cast<std::size_t>(positions.rend() - lastOld);
         const std::vector<bool> staying = FindStaying(positions);
         for (std::size_t i = 0; i < positions.size(); ++i) {
             if (positions[i] == none) {
-                NoteEntry(Difference::Kind::Added, list, after, i);
+                NoteAddedEntry(list, after, i);
+                if (i < endOfOld) {
+                    NotePlace(list, after, i);
+                }
                 continue;
             }
             if (!staying[i]) {
-                Note(Difference::Kind::Moved, EntryStep(list, after, i)).behind =
-                    i == 0 ? std::string() : EntryStep(list, after, i - 1);
+                Note(Difference::Kind::Moved, EntryStep(list, after, i)).behindBefore =
+                    positions[i] == 0 ? "" : StepOf(list, before, positions[i] - 1);
+                NotePlace(list, after, i);
             }
-            CompareEntries(list, before, positions[i], after, i);
+            CompareEntries(list, before[positions[i]], after, i);
         }
-        NoteRemoved(list, before, left);
-    }
-
-    void NoteRemoved(const CatalogField& list, TypedDataContainer& before,
-                     const std::unordered_map<std::string, std::vector<std::size_t>>& left) {
-        std::vector<std::size_t> removed;
-        for (const auto& [key, entries] : left) {
-            removed.insert(removed.end(), entries.begin(), entries.end());
-        }
-        std::sort(removed.begin(), removed.end());
-        for (const std::size_t position : removed) {
-            NoteEntry(Difference::Kind::Removed, list, before, position);
+        for (std::size_t i = 0; i < before.size(); ++i) {
+            if (isRemoved[i]) {
+                NoteRemoved(StepOf(list, before, i), before[i]);
+            }
         }
     }
 
-    void ComparePlainList(const CatalogField& list, TypedDataContainer& before, TypedDataContainer& after) {
-        const std::size_t lengthBefore = list.Length(before);
-        const std::size_t lengthAfter = list.Length(after);
-        for (std::size_t i = 0; i < std::min(lengthBefore, lengthAfter); ++i) {
-            CompareEntries(list, before, i, after, i);
+    void ComparePlainList(const CatalogField& list, const std::vector<SnapshotEntry>& before,
+                          TypedDataContainer& after) {
+        const std::size_t length = list.Length(after);
+        for (std::size_t i = 0; i < std::min(before.size(), length); ++i) {
+            CompareEntries(list, before[i], after, i);
         }
-        for (std::size_t i = lengthBefore; i < lengthAfter; ++i) {
-            NoteEntry(Difference::Kind::Added, list, after, i);
+        for (std::size_t i = before.size(); i < length; ++i) {
+            NoteAddedEntry(list, after, i);
         }
-        for (std::size_t i = lengthAfter; i < lengthBefore; ++i) {
-            NoteEntry(Difference::Kind::Removed, list, before, i);
+        for (std::size_t i = length; i < before.size(); ++i) {
+            NoteRemoved(StepOf(list, before, i), before[i]);
         }
     }
 
     std::vector<std::string> m_path;
+    bool m_isReplaced = false; // the container at hand, or one that it is in
     std::vector<Difference> m_differences;
 };
 
 } // namespace
 
-std::vector<Difference> CompareTrees(TypedDataContainer& before, TypedDataContainer& after) {
+std::vector<Difference> CompareTrees(const Snapshot& before, TypedDataContainer& after) {
     return TreeComparison().Run(before, after);
-}
-
-std::size_t CountValues(TypedDataContainer& tree) {
-    std::size_t count = 0;
-    for (const CatalogField& field : ContainerCatalog::ClassOf(tree).Fields()) {
-        if (field.IsScalar()) {
-            count += field.GetText(tree) != field.DefaultText() ? 1U : 0U;
-        } else if (!field.IsList()) {
-            TypedDataContainer* const child = field.GetChild(tree);
-            count += child == nullptr ? 0U : CountValues(*child);
-        } else if (!HoldsContainers(field)) {
-            count += field.Length(tree);
-        } else {
-            for (std::size_t i = 0; i < field.Length(tree); ++i) {
-                TypedDataContainer* const entry = field.Entry(tree, i);
-                count += entry == nullptr ? 0U : CountValues(*entry);
-            }
-        }
-    }
-    return count;
 }
 
 } // namespace Lanedoc

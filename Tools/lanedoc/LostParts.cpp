@@ -1,0 +1,221 @@
+#include "LostParts.h"
+
+#include <algorithm>
+#include <map>
+#include <tuple>
+#include <unordered_map>
+
+#include "NearestName.h"
+#include "RootElement.h"
+
+namespace Lanedoc {
+
+namespace {
+
+constexpr std::string_view blanks = " \t\r\n";
+
+/// An element as the fields see it: a container, a single value or text of a list, or unknown.
+struct Shape {
+    CatalogClass container{}; ///< false for values
+    std::string_view keyAttribute{};
+    std::unordered_map<std::string_view, const Shape*> elements{};
+    std::vector<std::string> names{}; ///< of all fields, for suggestions
+    std::vector<std::string_view> attributes{};
+};
+
+/// Counts lines and columns up to places that come in order.
+class PlaceCounter {
+public:
+    explicit PlaceCounter(std::string_view text) : m_text(text), m_at(text.starts_with("\xEF\xBB\xBF") ? 3 : 0) {}
+
+    void Advance(std::size_t to) {
+        for (; m_at < to; ++m_at) {
+            const auto byte = static_cast<unsigned char>(m_text[m_at]);
+            if (byte == '\n' || (byte == '\r' && m_text[m_at + 1] != '\n')) {
+                ++m_line;
+                m_column = 1;
+            } else {
+                m_column += (byte & 0xC0U) == 0x80U ? 0U : 1U;
+            }
+        }
+    }
+    std::size_t Line() const { return m_line; }
+    std::size_t Column() const { return m_column; }
+
+private:
+    std::string_view m_text;
+    std::size_t m_at;
+    std::size_t m_line = 1;
+    std::size_t m_column = 1;
+};
+
+class DocumentScan {
+public:
+    DocumentScan(std::string_view text, CatalogClass root) : m_text(text), m_place(text), m_root(ShapeOf(root)) {}
+
+    std::vector<LostPart> Run() {
+        std::size_t at = 0;
+        while (true) {
+            const std::size_t markup = std::min(m_text.find('<', at), m_text.size());
+            TakeText(at, markup);
+            if (markup == m_text.size()) {
+                return std::move(m_parts);
+            }
+            at = TakeMarkup(markup);
+        }
+    }
+
+private:
+    struct Open {
+        const Shape* shape;
+        std::string_view name;
+    };
+
+    const Shape* ShapeOf(CatalogClass container) {
+        const auto [known, isNew] = m_shapes.try_emplace(container.Name());
+        Shape& shape = known->second; // stays where it is, so that a class may hold itself
+        if (isNew) {
+            shape.container = container;
+            for (const CatalogField& field : container.Fields()) {
+                shape.names.emplace_back(field.Name());
+                if (field.GetForm() == CatalogField::Attribute) {
+                    shape.attributes.push_back(field.Name());
+                } else if (field.GetValue() == CatalogField::Container) {
+                    shape.elements[field.Name()] = ShapeOf(ContainerCatalog::FindClass(field.ClassName()));
+                } else {
+                    Shape& value = m_values[field.KeyAttribute()];
+                    value.keyAttribute = field.KeyAttribute();
+                    shape.elements[field.Name()] = &value;
+                }
+            }
+        }
+        return &shape;
+    }
+
+    bool IsInUnknown() const { return !m_open.empty() && m_open.back().shape == nullptr; }
+
+    void Note(LostPart::Kind kind, std::string_view name, const Open* owner, std::size_t at) {
+        const std::string_view of = owner == nullptr ? std::string_view() : owner->name;
+        const auto [known, isNew] = m_known.try_emplace({kind, name, of}, m_parts.size());
+        if (isNew) {
+            m_place.Advance(at);
+            LostPart& part = m_parts.emplace_back();
+            part.kind = kind;
+            part.name = name;
+            part.owner = of;
+            part.line = m_place.Line();
+            part.column = m_place.Column();
+            if (!name.empty() && m_parts.size() <= mostWithNames) {
+                part.near = NearestNames(part.name, owner->shape->names);
+            }
+        }
+        ++m_parts[known->second].count;
+    }
+
+    void TakeText(std::size_t begin, std::size_t end) {
+        if (m_open.empty() || IsInUnknown() || !m_open.back().shape->container) {
+            return;
+        }
+        const std::size_t first = m_text.substr(0, end).find_first_not_of(blanks, begin);
+        if (first != std::string_view::npos) {
+            Note(LostPart::Kind::Text, {}, &m_open.back(), first);
+        }
+    }
+
+    /// Takes what begins at a "<", and returns where it ends.
+    std::size_t TakeMarkup(std::size_t at) {
+        const std::string_view rest = m_text.substr(at);
+        if (rest.starts_with("<!--")) {
+            NoteAside(LostPart::Kind::Comment, at);
+            return EndOf("-->", at + 4);
+        }
+        if (rest.starts_with("<![CDATA[")) {
+            const std::size_t end = EndOf("]]>", at + 9);
+            TakeText(at + 9, end - 3);
+            return end;
+        }
+        if (rest.starts_with("<?")) {
+            const bool isDeclaration = rest.starts_with("<?xml") && rest.find_first_of(blanks) == 5;
+            if (!isDeclaration) {
+                NoteAside(LostPart::Kind::Instruction, at);
+            }
+            return EndOf("?>", at + 2);
+        }
+        if (rest.starts_with("</")) {
+            if (!m_open.empty()) {
+                m_open.pop_back();
+            }
+            return EndOf(">", at + 2);
+        }
+        return TakeStartTag(at);
+    }
+
+    void NoteAside(LostPart::Kind kind, std::size_t at) {
+        if (!IsInUnknown()) {
+            Note(kind, {}, nullptr, at);
+        }
+    }
+
+    std::size_t EndOf(std::string_view mark, std::size_t from) const {
+        const std::size_t found = m_text.find(mark, from);
+        return found == std::string_view::npos ? m_text.size() : found + mark.size();
+    }
+
+    std::size_t TakeStartTag(std::size_t at) {
+        const std::size_t nameEnd = std::min(m_text.find_first_of(" \t\r\n/>", at), m_text.size());
+        Open element{nullptr, m_text.substr(at + 1, nameEnd - at - 1)};
+        if (m_open.empty()) {
+            element.shape = m_root;
+        } else if (const Shape* const parent = m_open.back().shape; parent != nullptr) {
+            const auto found = parent->elements.find(element.name);
+            element.shape = found == parent->elements.end() ? nullptr : found->second;
+            if (element.shape == nullptr) {
+                Note(LostPart::Kind::Element, element.name, &m_open.back(), at);
+            }
+        }
+        std::size_t end = m_text.find_first_not_of(blanks, nameEnd);
+        while (end < m_text.size() && m_text[end] != '>' && m_text[end] != '/') {
+            const std::size_t equals = std::min(m_text.find('=', end), m_text.size());
+            const std::string_view name = m_text.substr(end, m_text.find_first_of(" \t\r\n=", end) - end);
+            if (element.shape != nullptr && !IsKnown(name, *element.shape)) {
+                Note(LostPart::Kind::Attribute, name, &element, at);
+            }
+            const std::size_t quote = std::min(m_text.find_first_of("\"'", equals), m_text.size() - 1);
+            end = std::min(m_text.find_first_not_of(blanks, EndOf(m_text.substr(quote, 1), quote + 1)), m_text.size());
+        }
+        if (end >= m_text.size()) {
+            return m_text.size();
+        }
+        if (m_text[end] == '>') {
+            m_open.push_back(element);
+        }
+        return EndOf(">", end);
+    }
+
+    static bool IsKnown(std::string_view attribute, const Shape& shape) {
+        return (!shape.keyAttribute.empty() && attribute == shape.keyAttribute) ||
+               std::find(shape.attributes.begin(), shape.attributes.end(), attribute) != shape.attributes.end();
+    }
+
+    /// Names are looked for near the first unknown ones only: no more are told of than a person reads.
+    static constexpr std::size_t mostWithNames = 32;
+
+    std::string_view m_text;
+    PlaceCounter m_place;
+    std::map<std::string_view, Shape> m_shapes; // by class
+    std::map<std::string_view, Shape> m_values; // by key attribute
+    const Shape* m_root;
+    std::vector<Open> m_open;
+    std::vector<LostPart> m_parts;
+    std::map<std::tuple<LostPart::Kind, std::string_view, std::string_view>, std::size_t> m_known;
+};
+
+} // namespace
+
+std::vector<LostPart> FindLostParts(std::string_view bytes, CatalogClass root) {
+    // XML forbids the escape character: its byte tells an encoding that shifts, where bytes of ASCII are no ASCII.
+    return bytes.find('\x1B') != std::string_view::npos ? std::vector<LostPart>()
+                                                        : DocumentScan(AsUtf8(bytes), root).Run();
+}
+
+} // namespace Lanedoc
