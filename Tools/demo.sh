@@ -9,11 +9,12 @@ fi
 lanedoc=$(realpath -- "$1")
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-documents=Examples/Documents
+# The steps work on copies, by short names, and what they write is this run's.
 folder=build/demo
-merged=$folder/StateProcessingRoot.merged.xml
+rm -rf "$folder"
 mkdir -p "$folder"
-rm -f "$merged" # so that what is there afterwards is this run's
+cp Examples/Documents/*.xml "$folder"
+cd "$folder"
 
 bold='' dim='' plain=''
 if [[ -t 1 && -z ${NO_COLOR:-} && ${TERM:-} != dumb ]]; then
@@ -40,27 +41,27 @@ run() {
     [[ $code -eq 0 ]] || printf '%s(exit code %d)%s\n' "$dim" "$code" "$plain"
 }
 
-title "A state of the lane, as programs see it"
-run 0 show "$documents/StateProcessingRoot.xml" 'StateTable/State[Name=Coupon]' --no-defaults
+base=StateProcessingRoot
 
-title "The feature Coupons is merged in: what it added (+) and changed (~)"
-run 0 merge "$documents/StateProcessingRoot.xml" "Coupons=$documents/StateProcessingRoot.coupons.xml" \
-    -o "$merged" --summary
+title "A part of a state, as programs see it"
+run 0 show "$base.xml" 'StateTable/State[Name=Attract]/PostStateTrigger' --no-defaults
 
-title "One value, before and after"
-run 0 get "$documents/StateProcessingRoot.xml" Version
-run 0 get "$merged" Version
+title "Four features are merged in, one after the other: what each did, state by state"
+run 0 merge "$base.xml" "$base".{coupons,loyalty,ageverification,nightmode}.xml -o merged.xml --summary --depth 2
+
+title "One of them in full: added (+), changed (~), replaced (*), removed (-), moved (>)"
+run 0 merge "$base.xml" "$base.ageverification.xml" -o aged.xml --summary --quiet
+
+title "What an override with mistakes is told; nothing is written"
+run 4 merge "$base.xml" "$base.mistakes.xml" -o never.xml
+[[ ! -e never.xml ]]
 
 title "Two values set in the state table; every other byte of the file stays"
-cp "$documents/StateProcessingRoot.xml" "$folder/StateProcessingRoot.xml"
-run 0 set "$folder/StateProcessingRoot.xml" 'StateTable/InitialState=Attract' 'StateTable/State[Name=Coupon]/Transient=true' \
+run 0 set "$base.xml" StateTable/InitialState=Attract 'StateTable/State[Name=Coupon]/Transient=true' \
     --in-place --diff --context 0
 
 title "What a broken document is told; nothing is written"
-run 3 merge "$documents/StateProcessingRoot.xml" "$documents/StateProcessingRoot.broken.xml" -o "$folder/never.xml"
-[[ ! -e $folder/never.xml ]]
+run 3 merge "$base.xml" "$base.broken.xml" -o never.xml
+[[ ! -e never.xml ]]
 
-title "A slip of the hand in a path"
-run 1 get "$merged" 'StateTable/State[Name=CouponEntri]/BaseState'
-
-printf '\nThe merged document: %s (%d lines)\n' "$merged" "$(wc -l <"$merged")"
+printf '\nThe merged document: %s/merged.xml (%d lines)\n' "$folder" "$(wc -l <merged.xml)"

@@ -1,0 +1,201 @@
+#include <vector>
+
+#include "LanedocRuns.h"
+
+namespace {
+
+class LanedocMerge : public LanedocRuns {
+protected:
+    void SetUp() override {
+        LanedocRuns::SetUp();
+        Put("base.xml", Table("<State Name='A' BaseState='X'><Doc>one</Doc><Doc>two</Doc></State><State Name='B'/>"
+                              "<State Name='C' Transient='true'/><State Name='D'/>"));
+    }
+
+    static std::string Table(const std::string& states) {
+        return "<StateProcessingRoot Version='1'><StateTable>\n" + states + "\n</StateTable></StateProcessingRoot>\n";
+    }
+
+    /// What the merge of an override with these states tells, without its title.
+    static std::string Summary(const std::string& states, const std::string& options = "") {
+        Put("change.xml", Table(states));
+        const std::string told = Run("merge base.xml change.xml -o out.xml --summary " + options).errors;
+        return told.substr(told.find('\n', told.find("Feature change, change.xml")) + 1);
+    }
+
+    static std::string Names(const std::string& file) {
+        std::string names;
+        for (int i = 1; i <= 9; ++i) {
+            const Result name = Run("get " + file + " 'StateTable/State[" + std::to_string(i) + "]/Name'");
+            names += name.code == 0 ? name.out.substr(0, name.out.size() - 1) : "";
+        }
+        return names;
+    }
+};
+
+TEST_F(LanedocMerge, TellsEachKindOfDifference) {
+    struct Case {
+        const char* states;
+        const char* told;
+    };
+    const std::vector<Case> cases = {
+        {"<State Name='B' BaseState='Y'/>", "  ~ StateTable/State[Name=B]/BaseState  (not set) -> \"Y\"\n  1 changed\n"},
+        {"<State Name='A' BaseState='Z'/>", "  ~ StateTable/State[Name=A]/BaseState  \"X\" -> \"Z\"\n  1 changed\n"},
+        {"<State Name='E' BaseState='A'/>", "  + StateTable/State[Name=E]  2 values\n  1 added\n"},
+        {"<State Name='E' PlacementOrder='After' PlacementIndex='B'/>",
+         "  + StateTable/State[Name=E]  1 value, behind State[Name=B]\n  1 added\n"},
+        {"<State Name='A'><Doc Index='2' MergeAction='Remove'/></State>",
+         "  - StateTable/State[Name=A]/Doc[Index=2]  \"two\"\n  1 removed\n"},
+        {"<State Name='A' MergeAction='Remove'/>", "  - StateTable/State[Name=A]  4 values\n  1 removed\n"},
+        // the fewest that moved, not all that stand elsewhere
+        {"<State Name='A' PlacementOrder='Last'/>",
+         "  > StateTable/State[Name=A]  moved, first -> behind State[Name=D]\n  1 moved\n"},
+        {"<State Name='D' PlacementOrder='First'/>",
+         "  > StateTable/State[Name=D]  moved, behind State[Name=C] -> first\n  1 moved\n"},
+        {"<State Name='B' MergeAction='Remove'/><State Name='A' PlacementOrder='Last'/>", R"(  StateTable
+    > State[Name=A]  moved, first -> behind State[Name=D]
+    - State[Name=B]  1 value
+  1 removed, 1 moved
+)"},
+        {"<State Name='A' MergeAction='Replace' PlacementOrder='Before' PlacementIndex='D'><Doc>new</Doc></State>",
+         R"(  > StateTable/State[Name=A]  moved, first -> behind State[Name=C]
+  * StateTable/State[Name=A]  replaced, 4 values -> 2
+    ~ Doc[Index=1]  "one" -> "new"
+    - Doc[Index=2]  "two"
+    ~ BaseState  "X" -> ""
+  2 changed, 1 replaced, 1 removed, 1 moved
+)"},
+        {"<State Name='C' MergeAction='Clear'><Doc>kept the word</Doc></State>",
+         "  + StateTable/State[Name=C]/Doc[Index=1]  \"kept the word\"\n  1 added\n"},
+        {"<State Name='B' MergeAction='Remove'/><State Name='B' MergeAction='Add'/>", R"(  > StateTable/State[Name=B]  moved, behind State[Name=A] -> behind State[Name=D]
+  * StateTable/State[Name=B]  replaced, 1 value -> 1
+  1 replaced, 1 moved
+)"},
+        {"<State Name='A'/>", "  changes nothing\n"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.states);
+        EXPECT_EQ(Summary(c.states), c.told);
+    }
+    EXPECT_EQ(Summary(cases[9].states, "--depth 2"), R"(  > StateTable/State[Name=A]  moved, first -> behind State[Name=C]
+  * StateTable/State[Name=A]  replaced, 4 values -> 2
+  2 changed, 1 replaced, 1 removed, 1 moved
+)");
+    EXPECT_EQ(Summary("<State Name='A' Transient='1'><Doc Index='3'>x</Doc></State>", "--depth 2"),
+              "  ~ StateTable/State[Name=A]  1 added, 1 changed\n  1 added, 1 changed\n");
+}
+
+TEST_F(LanedocMerge, TellsOfReplacedChildrenAndRoots) {
+    Put("base.xml", Table("<State Name='A'><PostStateTrigger Index='1'><ActionRef>Go</ActionRef></PostStateTrigger>"
+                          "</State>"));
+    const char* const replace = "<PostStateTrigger MergeAction='Replace'><ActionRef>Stop</ActionRef></PostStateTrigger>";
+    EXPECT_EQ(Summary(std::string("<State Name='A'>") + replace + "</State>"),
+              R"(  * StateTable/State[Name=A]/PostStateTrigger  replaced, 2 values -> 1
+    ~ ActionRef  "Go" -> "Stop"
+    ~ Index  "1" -> ""
+  2 changed, 1 replaced
+)");
+    Put("all.xml", "<StateProcessingRoot MergeAction='Replace'/>");
+    EXPECT_TRUE(Holds(Run("merge base.xml all.xml --summary").errors, "\n  * the whole document  replaced\n"));
+}
+
+TEST_F(LanedocMerge, MergesInOrderAndTellsEachFeature) {
+    Put("one.xml", "<StateProcessingRoot Version='2' FeatureID='Own'><StateTable><State Name='New'/>"
+                   "<State Name='B' MergeAction='Remove'/></StateTable></StateProcessingRoot>");
+    Put("a=b.xml", Table("<State Name='New' PlacementOrder='First'/>"));
+    const Result result = Run("merge base.xml one.xml a=b.xml X=one.xml --summary --keep-going - -o - < a=b.xml");
+    EXPECT_EQ(result.code, 4);
+    EXPECT_EQ(result.errors, R"(Feature Own, one.xml
+  StateTable
+    + State[Name=New]  1 value
+    - State[Name=B]  1 value
+  ~ Version  "1" -> "2"
+  1 added, 1 changed, 1 removed
+Feature a=b, a=b.xml
+  > StateTable/State[Name=New]  moved, behind State[Name=D] -> first
+  ~ Version  "2" -> "1"
+  1 changed, 1 moved
+one.xml:1:81: error: in StateTable: State[B] of feature "X": MergeAction="Remove": there is no such entry
+Feature X, one.xml
+  ~ Version  "1" -> "2"
+  ! refused  1:81: State[B] of feature "X": MergeAction="Remove": there is no such entry
+  1 changed, 1 refused
+Feature stdin, <stdin>
+  ~ Version  "2" -> "1"
+  1 changed
+)");
+    Put("out.xml", result.out);
+    EXPECT_EQ(Names("out.xml"), "NewACD");
+    EXPECT_EQ(Run("merge - one.xml -o - < base.xml").out, Run("merge base.xml one.xml").out);
+}
+
+TEST_F(LanedocMerge, RefusesAllOfItOrKeepsGoing) {
+    Put("fine.xml", Table("<State Name='E'/>"));
+    Put("bad.xml", Table("<State Name='F' MergeAction='Replace'/>\n<State Name='G'/>\n"
+                         " <State Name='A' PlacementOrder='After' PlacementIndex='Z'/>"));
+    Put("out.xml", "as it was");
+    const Result refused = Run("merge base.xml fine.xml bad.xml -o out.xml");
+    EXPECT_EQ(refused.code, 4);
+    EXPECT_TRUE(Holds(refused.errors, "bad.xml:2:1: error: ")) << refused.errors;
+    EXPECT_TRUE(Holds(refused.errors, "bad.xml:4:2: error: ")) << refused.errors;
+    EXPECT_TRUE(Holds(refused.errors, "nothing is written: 2 problems; --keep-going")) << refused.errors;
+    EXPECT_EQ(Get("out.xml"), "as it was");
+    EXPECT_EQ(Run("merge base.xml bad.xml fine.xml -o out.xml --keep-going").code, 4);
+    EXPECT_EQ(Names("out.xml"), "ABCDGE");
+}
+
+TEST_F(LanedocMerge, WarnsOfWhatNoFieldNames) {
+    Put("base.xml", R"(<?xml version="1.0"?>
+<!-- é --><?tool a?>
+<StateProcessingRoot xmlns:x='urn:x' Version="1">
+ <!-- > second --> stray
+ <RevisionHistory fileName="f" by='me'>text <b>bold</b></RevisionHistory>
+ <StateTable><State Nam = "A>" Name='A'><Doc Index="1"><![CDATA[<Colour>]]></Doc><Colour><!-- third --><Dark/></Colour></State>
+  <State Name='B'><Colour/></State></StateTable>
+</StateProcessingRoot>
+)");
+    Put("change.xml", "<StateProcessingRoot xmlns:x='urn:x' FeatureID='F'><!-- fine --><StateTable MergeAction='Clear'>"
+                      "<State Name='Q' Transiet='1' PlacementOrder='Last'/></StateTable></StateProcessingRoot>");
+    const std::string merge = "merge base.xml change.xml -o out.xml";
+    EXPECT_EQ(Run(merge).errors,
+              R"(base.xml:2:1: warning: 2 comments will not be in the result, the first is here
+base.xml:2:11: warning: a processing instruction will not be in the result
+base.xml:3:1: warning: the attribute xmlns:x of StateProcessingRoot is no field and will not be in the result
+base.xml:4:20: warning: the text in StateProcessingRoot is no field and will not be in the result
+base.xml:5:2: warning: the attribute by of RevisionHistory is no field and will not be in the result
+base.xml:5:45: warning: the element b in RevisionHistory is no field and will not be in the result
+base.xml:6:14: warning: the attribute Nam of State is no field and will not be in the result; did you mean Name?
+base.xml:6:82: warning: the element Colour in State is no field and will not be in the result (2 times, first here)
+change.xml:1:97: warning: the attribute Transiet of State is no field and is passed over; did you mean Transient?
+)");
+    const Result quiet = Run(merge + " --quiet");
+    EXPECT_EQ(quiet.code, 0);
+    EXPECT_EQ(quiet.errors, "");
+
+    std::string many;
+    for (int i = 10; i < 30; ++i) {
+        many += "<x" + std::to_string(i) + "/>\n";
+    }
+    Put("base.xml", Table(many + "<x29/>"));
+    const std::string errors = Run("merge base.xml change.xml -o out.xml").errors;
+    EXPECT_TRUE(Holds(errors, "base.xml:11:1: warning: the element x19 ")) << errors;
+    EXPECT_TRUE(Holds(errors, "\nbase.xml: warning: and 11 more\n")) << errors;
+    EXPECT_FALSE(Holds(errors, "x20")) << errors;
+}
+
+TEST_F(LanedocMerge, MergesTheExampleFeaturesInAnyNumber) {
+    const std::string examples = "examples/StateProcessingRoot";
+    std::string merge = "merge " + examples + ".xml";
+    for (const char* const feature : {".loyalty.xml", ".ageverification.xml", ".nightmode.xml", ".coupons.xml"}) {
+        const Result alone = Run("merge " + examples + ".xml " + examples + feature + " --quiet");
+        EXPECT_EQ(alone.code, 0) << feature << alone.errors;
+        merge += " " + examples + feature;
+    }
+    const Result together = Run(merge + " --quiet");
+    EXPECT_EQ(together.code, 0) << together.errors;
+    const Result mistakes = Run("merge " + examples + ".xml " + examples + ".mistakes.xml");
+    EXPECT_EQ(mistakes.code, 4);
+    EXPECT_TRUE(Holds(mistakes.errors, " 7 problems; ")) << mistakes.errors;
+}
+
+} // namespace
