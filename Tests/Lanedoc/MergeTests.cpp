@@ -39,7 +39,8 @@ TEST_F(LanedocMerge, TellsEachKindOfDifference) {
         const char* told;
     };
     const std::vector<Case> cases = {
-        {"<State Name='B' BaseState='Y'/>", "  ~ StateTable/State[Name=B]/BaseState  (not set) -> \"Y\"\n  1 changed\n"},
+        {"<State Name='B' BaseState='Y'/>",
+         "  ~ StateTable/State[Name=B]/BaseState  (not set) -> \"Y\"\n  1 changed\n"},
         {"<State Name='A' BaseState='Z'/>", "  ~ StateTable/State[Name=A]/BaseState  \"X\" -> \"Z\"\n  1 changed\n"},
         {"<State Name='E' BaseState='A'/>", "  + StateTable/State[Name=E]  2 values\n  1 added\n"},
         {"<State Name='E' PlacementOrder='After' PlacementIndex='B'/>",
@@ -67,7 +68,8 @@ TEST_F(LanedocMerge, TellsEachKindOfDifference) {
 )"},
         {"<State Name='C' MergeAction='Clear'><Doc>kept the word</Doc></State>",
          "  + StateTable/State[Name=C]/Doc[Index=1]  \"kept the word\"\n  1 added\n"},
-        {"<State Name='B' MergeAction='Remove'/><State Name='B' MergeAction='Add'/>", R"(  > StateTable/State[Name=B]  moved, behind State[Name=A] -> behind State[Name=D]
+        {"<State Name='B' MergeAction='Remove'/><State Name='B' MergeAction='Add'/>",
+         R"(  > StateTable/State[Name=B]  moved, behind State[Name=A] -> behind State[Name=D]
   * StateTable/State[Name=B]  replaced, 1 value -> 1
   1 replaced, 1 moved
 )"},
@@ -77,7 +79,8 @@ TEST_F(LanedocMerge, TellsEachKindOfDifference) {
         SCOPED_TRACE(c.states);
         EXPECT_EQ(Summary(c.states), c.told);
     }
-    EXPECT_EQ(Summary(cases[9].states, "--depth 2"), R"(  > StateTable/State[Name=A]  moved, first -> behind State[Name=C]
+    EXPECT_EQ(Summary(cases[9].states, "--depth 2"),
+              R"(  > StateTable/State[Name=A]  moved, first -> behind State[Name=C]
   * StateTable/State[Name=A]  replaced, 4 values -> 2
   2 changed, 1 replaced, 1 removed, 1 moved
 )");
@@ -88,7 +91,8 @@ TEST_F(LanedocMerge, TellsEachKindOfDifference) {
 TEST_F(LanedocMerge, TellsOfReplacedChildrenAndRoots) {
     Put("base.xml", Table("<State Name='A'><PostStateTrigger Index='1'><ActionRef>Go</ActionRef></PostStateTrigger>"
                           "</State>"));
-    const char* const replace = "<PostStateTrigger MergeAction='Replace'><ActionRef>Stop</ActionRef></PostStateTrigger>";
+    const char* const replace =
+        "<PostStateTrigger MergeAction='Replace'><ActionRef>Stop</ActionRef></PostStateTrigger>";
     EXPECT_EQ(Summary(std::string("<State Name='A'>") + replace + "</State>"),
               R"(  * StateTable/State[Name=A]/PostStateTrigger  replaced, 2 values -> 1
     ~ ActionRef  "Go" -> "Stop"
@@ -171,6 +175,13 @@ change.xml:1:97: warning: the attribute Transiet of State is no field and is pas
     const Result quiet = Run(merge + " --quiet");
     EXPECT_EQ(quiet.code, 0);
     EXPECT_EQ(quiet.errors, "");
+
+    std::string wide = "\xFF\xFE"; // UTF-16, with a letter of which one byte would be an escape character
+    for (const char character : std::string("<StateProcessingRoot>?<lost/></StateProcessingRoot>")) {
+        wide.append(1, character == '?' ? '\x1B' : character).append(1, character == '?' ? '\x01' : '\0');
+    }
+    Put("wide.xml", wide);
+    EXPECT_TRUE(Holds(Run("merge wide.xml change.xml -o out.xml").errors, "wide.xml:1:23: warning: the element lost "));
 
     std::string many;
     for (int i = 10; i < 30; ++i) {

@@ -213,9 +213,9 @@ private:
 } // namespace
 
 std::vector<LostPart> FindLostParts(std::string_view bytes, CatalogClass root) {
+    const std::string text = AsUtf8(bytes);
     // XML forbids the escape character: its byte tells an encoding that shifts, where bytes of ASCII are no ASCII.
-    return bytes.find('\x1B') != std::string_view::npos ? std::vector<LostPart>()
-                                                        : DocumentScan(AsUtf8(bytes), root).Run();
+    return text.find('\x1B') != std::string::npos ? std::vector<LostPart>() : DocumentScan(text, root).Run();
 }
 
 } // namespace Lanedoc
