@@ -90,6 +90,43 @@ TEST(Update, WritesOneChangedValueAndNothingElse) {
     });
 }
 
+TEST(Update, WritesManyChangesAtOnceAndTakesThemBack) {
+    ForEveryClass([](CatalogClass type) {
+        for (unsigned seed = 1; seed <= 9; seed += 2) {
+            const std::string xml = MakeDocument(type, seed);
+            Loaded loaded(type, xml);
+            Samples::Random random(seed);
+            const std::vector<Value> values = ValuesOf(*loaded.object);
+            std::vector<zelString> old;
+            for (const Value& value : values) {
+                old.push_back(value.Get());
+            }
+            for (int round = 0; round < 4; ++round) {
+                for (std::size_t i = 0; i < values.size(); ++i) {
+                    // Whole numbers may be keys, and two would become the same; no word is none that could be set
+                    // again.
+                    const CatalogField& field = values[i].field;
+                    const bool isNumber =
+                        field.GetForm() == CatalogField::Attribute && field.GetValue() == CatalogField::Int;
+                    const bool isNoWord = field.GetValue() == CatalogField::Enumeration && old[i].empty();
+                    if (!isNumber && !isNoWord) {
+                        ASSERT_TRUE(values[i].Set(random() % 3 == 0 ? OtherThan(field, values[i].Get()) : old[i]));
+                    }
+                }
+                ASSERT_TRUE(loaded.object->UpdateContainedData()) << loaded.wrapper.GetLastError();
+                const bool isSame =
+                    Samples::Lines(*Loaded(type, loaded.Text()).object) == Samples::Lines(*loaded.object);
+                ASSERT_TRUE(isSame) << "seed " << seed << "\n" << loaded.Text();
+            }
+            for (std::size_t i = 0; i < values.size(); ++i) {
+                ASSERT_TRUE(values[i].Get() == old[i] || values[i].Set(old[i]));
+            }
+            ASSERT_TRUE(loaded.object->UpdateContainedData());
+            ASSERT_EQ(loaded.Text(), xml) << "seed " << seed;
+        }
+    });
+}
+
 /// The value that a path such as "ChildThread:0/LibraryPath" leads to.
 Value Find(TypedDataContainer& object, const std::string& path) {
     const std::size_t end = path.find('/');
