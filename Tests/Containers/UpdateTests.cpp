@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "Framework/LoadLimits.h"
 #include "FrameworkDataContainers/FrameworkDataContainers.h"
 
 namespace {
@@ -406,6 +407,26 @@ TEST(Update, ReportsTheLastWriteAndGoesOnAfterAFailedOne) {
     EXPECT_EQ(loaded.Text(), "<ChildThread ConfigLogic=\"n\"><LibraryPath>p</LibraryPath></ChildThread>");
     thread.SetConfigLogic("\x02");
     EXPECT_FALSE(thread.UpdateContainedData());
+}
+
+TEST(Update, AddsNothingThatWouldNotLoadAgain) {
+    const std::string xml = "<ChildThread UniqueName='u'/>";
+    Loaded loaded(ContainerCatalog::FindClass("ChildThreadType"), xml);
+    auto& thread = dynamic_cast<ChildThreadType&>(*loaded.object);
+    LoadLimits limits;
+    limits.depth = 1;
+    limits.attributesPerElement = 1;
+    LoadLimits::SetDefault(limits);
+    thread.SetConfigLogic("n");
+    EXPECT_FALSE(thread.UpdateContainedData());
+    EXPECT_NE(loaded.wrapper.GetLastError().find("ChildThread/@ConfigLogic"), std::string::npos);
+    thread.SetConfigLogic("");
+    thread.SetLibraryPath("n");
+    EXPECT_TRUE(thread.UpdateContainedData()); // the result is that of the attributes behind it
+    EXPECT_NE(loaded.wrapper.GetLastError().find("ChildThread/LibraryPath: the document could not be loaded again"),
+              std::string::npos);
+    LoadLimits::SetDefault(LoadLimits());
+    EXPECT_EQ(loaded.Text(), xml);
 }
 
 TEST(Update, GoesOnWithThePrivateDocumentAndWithADom) {
