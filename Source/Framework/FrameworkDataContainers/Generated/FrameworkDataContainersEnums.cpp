@@ -164,6 +164,126 @@ constexpr Framework::EnumerationWord kLinkTypeEnumWords[] = {
     {"LINK_TYPE_SUSPEND", LinkTypeEnum::LINK_TYPE_SUSPEND},
 };
 
+constexpr Framework::EnumerationWord kLogIdTypeDefintionWords[] = {
+    {"LOG_TYPE_UNKNOWN", LogIdTypeDefintion::LOG_TYPE_UNKNOWN},
+    {"LOG_TYPE_TRANSACTION", LogIdTypeDefintion::LOG_TYPE_TRANSACTION},
+    {"LOG_TYPE_CASH", LogIdTypeDefintion::LOG_TYPE_CASH},
+    {"LOG_TYPE_SECURITY_RECORD_ADDED", LogIdTypeDefintion::LOG_TYPE_SECURITY_RECORD_ADDED},
+    {"LOG_TYPE_SECURITY_RECORD_DELETED", LogIdTypeDefintion::LOG_TYPE_SECURITY_RECORD_DELETED},
+    {"LOG_TYPE_SECURITY_RECORD_MODIFIED", LogIdTypeDefintion::LOG_TYPE_SECURITY_RECORD_MODIFIED},
+    {"LOG_TYPE_WEIGHT_REJECT", LogIdTypeDefintion::LOG_TYPE_WEIGHT_REJECT},
+    {"LOG_TYPE_WEIGHT_CHANGED_REJECT", LogIdTypeDefintion::LOG_TYPE_WEIGHT_CHANGED_REJECT},
+    {"LOG_TYPE_WEIGHT_HEIGHT_REJECT", LogIdTypeDefintion::LOG_TYPE_WEIGHT_HEIGHT_REJECT},
+    {"LOG_TYPE_HEIGHT_REJECT", LogIdTypeDefintion::LOG_TYPE_HEIGHT_REJECT},
+    {"LOG_TYPE_EXTRA_BREAK_REJECT", LogIdTypeDefintion::LOG_TYPE_EXTRA_BREAK_REJECT},
+    {"LOG_TYPE_NOT_ON_BELT_REJECT", LogIdTypeDefintion::LOG_TYPE_NOT_ON_BELT_REJECT},
+    {"LOG_TYPE_ABORT_REJECT", LogIdTypeDefintion::LOG_TYPE_ABORT_REJECT},
+    {"LOG_TYPE_OTHER_ITEM_REJECT", LogIdTypeDefintion::LOG_TYPE_OTHER_ITEM_REJECT},
+    {"LOG_TYPE_UNKNOWN_REJECT", LogIdTypeDefintion::LOG_TYPE_UNKNOWN_REJECT},
+    {"LOG_TYPE_NOF_REJECT", LogIdTypeDefintion::LOG_TYPE_NOF_REJECT},
+    {"LOG_TYPE_POS_RESTRICTED_REJECT", LogIdTypeDefintion::LOG_TYPE_POS_RESTRICTED_REJECT},
+    {"LOG_TYPE_POS_WGT_QTY_REJECT", LogIdTypeDefintion::LOG_TYPE_POS_WGT_QTY_REJECT},
+    {"LOG_TYPE_POS_LIMIT_REJECT", LogIdTypeDefintion::LOG_TYPE_POS_LIMIT_REJECT},
+    {"LOG_TYPE_POS_ITEM_DATA_REJECT", LogIdTypeDefintion::LOG_TYPE_POS_ITEM_DATA_REJECT},
+    {"LOG_TYPE_POS_BAD_COUPON_REJECT", LogIdTypeDefintion::LOG_TYPE_POS_BAD_COUPON_REJECT},
+    {"LOG_TYPE_POS_OTHER_REJECT", LogIdTypeDefintion::LOG_TYPE_POS_OTHER_REJECT},
+    {"LOG_TYPE_POS_TIMEOUT_REJECT", LogIdTypeDefintion::LOG_TYPE_POS_TIMEOUT_REJECT},
+    {"LOG_TYPE_OVERRIDE_SECURITY", LogIdTypeDefintion::LOG_TYPE_OVERRIDE_SECURITY},
+    {"LOG_TYPE_LEARN_NOF", LogIdTypeDefintion::LOG_TYPE_LEARN_NOF},
+    {"LOG_TYPE_DEPT_KEY_IN", LogIdTypeDefintion::LOG_TYPE_DEPT_KEY_IN},
+    {"LOG_TYPE_NEW_ITEM", LogIdTypeDefintion::LOG_TYPE_NEW_ITEM},
+    {"LOG_TYPE_ITEM_VOID", LogIdTypeDefintion::LOG_TYPE_ITEM_VOID},
+    {"LOG_TYPE_PROCESSED_NOF", LogIdTypeDefintion::LOG_TYPE_PROCESSED_NOF},
+    {"LOG_TYPE_PROCESSED_TYPE2_OVRIDE", LogIdTypeDefintion::LOG_TYPE_PROCESSED_TYPE2_OVRIDE},
+    {"LOG_TYPE_CLEAR_LEARN_NOF", LogIdTypeDefintion::LOG_TYPE_CLEAR_LEARN_NOF},
+    {"LOG_TYPE_ACCEPT_COUPON", LogIdTypeDefintion::LOG_TYPE_ACCEPT_COUPON},
+    {"LOG_TYPE_TRANSACTION_VOID", LogIdTypeDefintion::LOG_TYPE_TRANSACTION_VOID},
+    {"LOG_TYPE_COUPON_CANCEL_NOT_IN_BOX", LogIdTypeDefintion::LOG_TYPE_COUPON_CANCEL_NOT_IN_BOX},
+    {"LOG_TYPE_COUPON_VOID", LogIdTypeDefintion::LOG_TYPE_COUPON_VOID},
+    {"LOG_TYPE_ACCEPT_COUPON_CASHIER_ASSISTED", LogIdTypeDefintion::LOG_TYPE_ACCEPT_COUPON_CASHIER_ASSISTED},
+    {"LOG_TYPE_PRICE_OVERRIDE_NORMAL", LogIdTypeDefintion::LOG_TYPE_PRICE_OVERRIDE_NORMAL},
+    {"LOG_TYPE_PRICE_OVERRIDE_WGT_REQ", LogIdTypeDefintion::LOG_TYPE_PRICE_OVERRIDE_WGT_REQ},
+    {"LOG_TYPE_LONG_ITEM_REJECT", LogIdTypeDefintion::LOG_TYPE_LONG_ITEM_REJECT},
+    {"LOG_TYPE_VALIDATE_SECURITY_FAILED", LogIdTypeDefintion::LOG_TYPE_VALIDATE_SECURITY_FAILED},
+    {"LOG_TYPE_VALIDATE_NOT_IN_BAG", LogIdTypeDefintion::LOG_TYPE_VALIDATE_NOT_IN_BAG},
+    {"LOG_TYPE_CASHIER_QUANTITY_ENTRY", LogIdTypeDefintion::LOG_TYPE_CASHIER_QUANTITY_ENTRY},
+    {"LOG_TYPE_MINI_LEARN", LogIdTypeDefintion::LOG_TYPE_MINI_LEARN},
+    {"LOG_TYPE_HAND_HELD_SCANNER", LogIdTypeDefintion::LOG_TYPE_HAND_HELD_SCANNER},
+    {"LOG_TYPE_OVERRIDE_SECURITY_NEEDED", LogIdTypeDefintion::LOG_TYPE_OVERRIDE_SECURITY_NEEDED},
+    {"LOG_TYPE_OVERRIDE_SECUIRTY_NOT_REJECTED", LogIdTypeDefintion::LOG_TYPE_OVERRIDE_SECUIRTY_NOT_REJECTED},
+    {"LOG_TYPE_OVERRIDE_SECURITY_DB_SEC_OK", LogIdTypeDefintion::LOG_TYPE_OVERRIDE_SECURITY_DB_SEC_OK},
+    {"LOG_TYPE_OVERRIDE_NOT_ON_BELT", LogIdTypeDefintion::LOG_TYPE_OVERRIDE_NOT_ON_BELT},
+    {"LOG_TYPE_EVENT_CRITICAL_ERROR", LogIdTypeDefintion::LOG_TYPE_EVENT_CRITICAL_ERROR},
+    {"LOG_TYPE_EVENT_TRAP_ERROR", LogIdTypeDefintion::LOG_TYPE_EVENT_TRAP_ERROR},
+    {"LOG_TYPE_EVENT_OPEN_LANE_COLD", LogIdTypeDefintion::LOG_TYPE_EVENT_OPEN_LANE_COLD},
+    {"LOG_TYPE_EVENT_OPEN_LANE_WARM", LogIdTypeDefintion::LOG_TYPE_EVENT_OPEN_LANE_WARM},
+    {"LOG_TYPE_EVENT_CLOSE_LANE", LogIdTypeDefintion::LOG_TYPE_EVENT_CLOSE_LANE},
+    {"LOG_TYPE_EVENT_CONFIG_INFO_CHANGED", LogIdTypeDefintion::LOG_TYPE_EVENT_CONFIG_INFO_CHANGED},
+    {"LOG_TYPE_EVENT_LANE_POWER_FAILURE", LogIdTypeDefintion::LOG_TYPE_EVENT_LANE_POWER_FAILURE},
+    {"LOG_TYPE_EVENT_TARN_POWER_FAILURE", LogIdTypeDefintion::LOG_TYPE_EVENT_TARN_POWER_FAILURE},
+    {"LOG_TYPE_EVENT_LAN_FAILURE", LogIdTypeDefintion::LOG_TYPE_EVENT_LAN_FAILURE},
+    {"LOG_TYPE_EVENT_PRINTER_ERROR", LogIdTypeDefintion::LOG_TYPE_EVENT_PRINTER_ERROR},
+    {"LOG_TYPE_EVENT_TAKE_EXTRACT", LogIdTypeDefintion::LOG_TYPE_EVENT_TAKE_EXTRACT},
+    {"LOG_TYPE_EVENT_ZERO_SCALE", LogIdTypeDefintion::LOG_TYPE_EVENT_ZERO_SCALE},
+    {"LOG_TYPE_EVENT_TOUCHED_NEED_ASSISTANT", LogIdTypeDefintion::LOG_TYPE_EVENT_TOUCHED_NEED_ASSISTANT},
+    {"LOG_TYPE_EVENT_TOUCHED_HOW_TO_USE", LogIdTypeDefintion::LOG_TYPE_EVENT_TOUCHED_HOW_TO_USE},
+    {"LOG_TYPE_EVENT_AUTOMATIC_HELP", LogIdTypeDefintion::LOG_TYPE_EVENT_AUTOMATIC_HELP},
+    {"LOG_TYPE_EVENT_REPRINT_RECEIPT", LogIdTypeDefintion::LOG_TYPE_EVENT_REPRINT_RECEIPT},
+    {"LOG_TYPE_EVENT_TARN_ISP_CONNECT_ERROR", LogIdTypeDefintion::LOG_TYPE_EVENT_TARN_ISP_CONNECT_ERROR},
+    {"LOG_TYPE_EVENT_TARN_FILE_UPDATE_ERROR", LogIdTypeDefintion::LOG_TYPE_EVENT_TARN_FILE_UPDATE_ERROR},
+    {"LOG_TYPE_EVENT_TARN_MGR_RESTARTS", LogIdTypeDefintion::LOG_TYPE_EVENT_TARN_MGR_RESTARTS},
+    {"LOG_TYPE_EVENT_ASSISTANCE_CARD_SCANNED", LogIdTypeDefintion::LOG_TYPE_EVENT_ASSISTANCE_CARD_SCANNED},
+    {"LOG_TYPE_EVENT_LAST_ALTERNATE_RECORD_USED", LogIdTypeDefintion::LOG_TYPE_EVENT_LAST_ALTERNATE_RECORD_USED},
+    {"LOG_TYPE_EVENT_TARN_SEC_DB_UPDATE_FAILURE", LogIdTypeDefintion::LOG_TYPE_EVENT_TARN_SEC_DB_UPDATE_FAILURE},
+    {"LOG_TYPE_EVENT_BEGIN_TRANSACTION_UNEXPECTED", LogIdTypeDefintion::LOG_TYPE_EVENT_BEGIN_TRANSACTION_UNEXPECTED},
+    {"LOG_TYPE_EVENT_END_TRANSACTION_UNEXPECTED", LogIdTypeDefintion::LOG_TYPE_EVENT_END_TRANSACTION_UNEXPECTED},
+    {"LOG_TYPE_EVENT_ITEM_INFORMATION_UNEXPECTED", LogIdTypeDefintion::LOG_TYPE_EVENT_ITEM_INFORMATION_UNEXPECTED},
+    {"LOG_TYPE_EVENT_TARN_PENDING_FILE_ERROR", LogIdTypeDefintion::LOG_TYPE_EVENT_TARN_PENDING_FILE_ERROR},
+    {"LOG_TYPE_EVENT_LANE_PENDING_FILE_ERROR", LogIdTypeDefintion::LOG_TYPE_EVENT_LANE_PENDING_FILE_ERROR},
+    {"LOG_TYPE_EVENT_LOG_OBJECT_RECOVERY_FAILURE", LogIdTypeDefintion::LOG_TYPE_EVENT_LOG_OBJECT_RECOVERY_FAILURE},
+    {"LOG_TYPE_EVENT_BAGGING_AREA_FULL", LogIdTypeDefintion::LOG_TYPE_EVENT_BAGGING_AREA_FULL},
+    {"LOG_TYPE_EVENT_CONFUSED_DIALOG", LogIdTypeDefintion::LOG_TYPE_EVENT_CONFUSED_DIALOG},
+    {"LOG_TYPE_EVENT_STOPPED_BELT_TO_WEIGH", LogIdTypeDefintion::LOG_TYPE_EVENT_STOPPED_BELT_TO_WEIGH},
+    {"LOG_TYPE_EVENT_SEC_MODULE_FAILURE", LogIdTypeDefintion::LOG_TYPE_EVENT_SEC_MODULE_FAILURE},
+    {"LOG_TYPE_EVENT_SCANNER_SCALE_FAILURE", LogIdTypeDefintion::LOG_TYPE_EVENT_SCANNER_SCALE_FAILURE},
+    {"LOG_TYPE_EVENT_SIGNATURE_CAP_FAILURE", LogIdTypeDefintion::LOG_TYPE_EVENT_SIGNATURE_CAP_FAILURE},
+    {"LOG_TYPE_EVENT_SEC_SCALE_EXCEED_MAX_WEIGHT", LogIdTypeDefintion::LOG_TYPE_EVENT_SEC_SCALE_EXCEED_MAX_WEIGHT},
+    {"LOG_TYPE_EVENT_COUPON_PICKUP", LogIdTypeDefintion::LOG_TYPE_EVENT_COUPON_PICKUP},
+    {"LOG_TYPE_EVENT_AGE_CHECK", LogIdTypeDefintion::LOG_TYPE_EVENT_AGE_CHECK},
+    {"LOG_TYPE_EVENT_PRINT_REG_Z_DATA", LogIdTypeDefintion::LOG_TYPE_EVENT_PRINT_REG_Z_DATA},
+    {"LOG_TYPE_EVENT_PURGE_REG_Z_DATA", LogIdTypeDefintion::LOG_TYPE_EVENT_PURGE_REG_Z_DATA},
+    {"LOG_TYPE_EVENT_CASH_INCOMPLETIONS", LogIdTypeDefintion::LOG_TYPE_EVENT_CASH_INCOMPLETIONS},
+    {"LOG_TYPE_EVENT_EFT_TENDER_CANCELED", LogIdTypeDefintion::LOG_TYPE_EVENT_EFT_TENDER_CANCELED},
+    {"LOG_TYPE_EVENT_EFT_TENDER_FAILED", LogIdTypeDefintion::LOG_TYPE_EVENT_EFT_TENDER_FAILED},
+    {"LOG_TYPE_EVENT_EFT_TENDER_INSUFFICIENT_FUNDS", LogIdTypeDefintion::LOG_TYPE_EVENT_EFT_TENDER_INSUFFICIENT_FUNDS},
+    {"LOG_TYPE_EVENT_EFT_TENDER_USER_PARTIAL", LogIdTypeDefintion::LOG_TYPE_EVENT_EFT_TENDER_USER_PARTIAL},
+    {"LOG_TYPE_EVENT_CHECK_COLLECTED", LogIdTypeDefintion::LOG_TYPE_EVENT_CHECK_COLLECTED},
+    {"LOG_TYPE_EVENT_CHECK_NOT_COLLECTED", LogIdTypeDefintion::LOG_TYPE_EVENT_CHECK_NOT_COLLECTED},
+    {"LOG_TYPE_EVENT_SECURITY_MOD_UPLOAD", LogIdTypeDefintion::LOG_TYPE_EVENT_SECURITY_MOD_UPLOAD},
+    {"LOG_TYPE_EVENT_SUSPEND_ESCORT", LogIdTypeDefintion::LOG_TYPE_EVENT_SUSPEND_ESCORT},
+    {"LOG_TYPE_EVENT_END_ORDER_ITEM_AUDIT", LogIdTypeDefintion::LOG_TYPE_EVENT_END_ORDER_ITEM_AUDIT},
+    {"LOG_TYPE_EVENT_IN_TRANS_SECURITY_AUDIT", LogIdTypeDefintion::LOG_TYPE_EVENT_IN_TRANS_SECURITY_AUDIT},
+    {"LOG_TYPE_EVENT_END_TRANS_SECURITY_AUDIT", LogIdTypeDefintion::LOG_TYPE_EVENT_END_TRANS_SECURITY_AUDIT},
+    {"LOG_TYPE_EVENT_COUPON_LIMIT_INTERVENTION", LogIdTypeDefintion::LOG_TYPE_EVENT_COUPON_LIMIT_INTERVENTION},
+    {"LOG_TYPE_EVENT_SA_SCAN_WITH_NO_ACTION", LogIdTypeDefintion::LOG_TYPE_EVENT_SA_SCAN_WITH_NO_ACTION},
+    {"LOG_TYPE_EVENT_LAST_ITEM_CORRECTED", LogIdTypeDefintion::LOG_TYPE_EVENT_LAST_ITEM_CORRECTED},
+    {"LOG_TYPE_EVENT_EARLY_BAG_REMOVAL", LogIdTypeDefintion::LOG_TYPE_EVENT_EARLY_BAG_REMOVAL},
+    {"LOG_TYPE_EVENT_EARLY_BAG_FORGIVENESS", LogIdTypeDefintion::LOG_TYPE_EVENT_EARLY_BAG_FORGIVENESS},
+    {"LOG_TYPE_EVENT_BAG_REMOVAL", LogIdTypeDefintion::LOG_TYPE_EVENT_BAG_REMOVAL},
+    {"LOG_TYPE_EVENT_MAX_WEIGHT_WARNING", LogIdTypeDefintion::LOG_TYPE_EVENT_MAX_WEIGHT_WARNING},
+    {"LOG_TYPE_EVENT_MAX_WEIGHT_LIMIT", LogIdTypeDefintion::LOG_TYPE_EVENT_MAX_WEIGHT_LIMIT},
+    {"LOG_TYPE_EVENT_EXTRA_ITEM", LogIdTypeDefintion::LOG_TYPE_EVENT_EXTRA_ITEM},
+    {"LOG_TYPE_EVENT_LANGUAGE_SELECT", LogIdTypeDefintion::LOG_TYPE_EVENT_LANGUAGE_SELECT},
+    {"LOG_TYPE_EVENT_GREEN_BUTTON", LogIdTypeDefintion::LOG_TYPE_EVENT_GREEN_BUTTON},
+    {"LOG_TYPE_EVENT_RED_BUTTON", LogIdTypeDefintion::LOG_TYPE_EVENT_RED_BUTTON},
+    {"LOG_TYPE_EVENT_SA_SCANNED_DURING_TRANSACTION", LogIdTypeDefintion::LOG_TYPE_EVENT_SA_SCANNED_DURING_TRANSACTION},
+    {"LOG_TYPE_EVENT_MEMBERSHIP_BLOCK_OVERRIDE", LogIdTypeDefintion::LOG_TYPE_EVENT_MEMBERSHIP_BLOCK_OVERRIDE},
+    {"LOG_TYPE_EVENT_EXTRA_ITEM_REMOVED", LogIdTypeDefintion::LOG_TYPE_EVENT_EXTRA_ITEM_REMOVED},
+    {"LOG_TYPE_EVENT_BOTTLE_DEPOSIT_NOT_COLLECTED", LogIdTypeDefintion::LOG_TYPE_EVENT_BOTTLE_DEPOSIT_NOT_COLLECTED},
+    {"LOG_TYPE_EVENT_BOTTLE_DEPOSIT_COLLECTED", LogIdTypeDefintion::LOG_TYPE_EVENT_BOTTLE_DEPOSIT_COLLECTED},
+    {"LOG_TYPE_EVENT_CASH_VOUCHER_PRINTED", LogIdTypeDefintion::LOG_TYPE_EVENT_CASH_VOUCHER_PRINTED},
+};
+
 constexpr Framework::EnumerationWord kLogInformationTypeDefintionWords[] = {
     {"REPORT_APPLICATION_STATUS", LogInformationTypeDefintion::REPORT_APPLICATION_STATUS},
     {"SYSTEM_EVENT", LogInformationTypeDefintion::SYSTEM_EVENT},
@@ -198,6 +318,40 @@ constexpr Framework::EnumerationWord kPersistenceModelEnumWords[] = {
     {"Never", PersistenceModelEnum::Never},
 };
 
+constexpr Framework::EnumerationWord kScanDataTypeEnumWords[] = {
+    {"SCAN_SDT_UPCA", ScanDataTypeEnum::SCAN_SDT_UPCA},
+    {"SCAN_SDT_UPCA_S", ScanDataTypeEnum::SCAN_SDT_UPCA_S},
+    {"SCAN_SDT_UPCE", ScanDataTypeEnum::SCAN_SDT_UPCE},
+    {"SCAN_SDT_UPCE_S", ScanDataTypeEnum::SCAN_SDT_UPCE_S},
+    {"SCAN_SDT_UPCD1", ScanDataTypeEnum::SCAN_SDT_UPCD1},
+    {"SCAN_SDT_UPCD2", ScanDataTypeEnum::SCAN_SDT_UPCD2},
+    {"SCAN_SDT_UPCD3", ScanDataTypeEnum::SCAN_SDT_UPCD3},
+    {"SCAN_SDT_UPCD4", ScanDataTypeEnum::SCAN_SDT_UPCD4},
+    {"SCAN_SDT_UPCD5", ScanDataTypeEnum::SCAN_SDT_UPCD5},
+    {"SCAN_SDT_EAN8", ScanDataTypeEnum::SCAN_SDT_EAN8},
+    {"SCAN_SDT_JAN8", ScanDataTypeEnum::SCAN_SDT_JAN8},
+    {"SCAN_SDT_EAN8_S", ScanDataTypeEnum::SCAN_SDT_EAN8_S},
+    {"SCAN_SDT_EAN13", ScanDataTypeEnum::SCAN_SDT_EAN13},
+    {"SCAN_SDT_EAN128", ScanDataTypeEnum::SCAN_SDT_EAN128},
+    {"SCAN_SDT_TF", ScanDataTypeEnum::SCAN_SDT_TF},
+    {"SCAN_SDT_ITF", ScanDataTypeEnum::SCAN_SDT_ITF},
+    {"SCAN_SDT_Codabar", ScanDataTypeEnum::SCAN_SDT_Codabar},
+    {"SCAN_SDT_Code39", ScanDataTypeEnum::SCAN_SDT_Code39},
+    {"SCAN_SDT_Code93", ScanDataTypeEnum::SCAN_SDT_Code93},
+    {"SCAN_SDT_Code128", ScanDataTypeEnum::SCAN_SDT_Code128},
+    {"SCAN_SDT_OCRA", ScanDataTypeEnum::SCAN_SDT_OCRA},
+    {"SCAN_SDT_OCRB", ScanDataTypeEnum::SCAN_SDT_OCRB},
+    {"SCAN_SDT_PDF417", ScanDataTypeEnum::SCAN_SDT_PDF417},
+    {"SCAN_SDT_MAXICODE", ScanDataTypeEnum::SCAN_SDT_MAXICODE},
+    {"SCAN_SDT_OTHER", ScanDataTypeEnum::SCAN_SDT_OTHER},
+    {"SCAN_SDT_GS1DATABAR", ScanDataTypeEnum::SCAN_SDT_GS1DATABAR},
+    {"SCAN_SDT_GS1DATABAR_E", ScanDataTypeEnum::SCAN_SDT_GS1DATABAR_E},
+    {"SCAN_SDT_RSS14", ScanDataTypeEnum::SCAN_SDT_RSS14},
+    {"SCAN_SDT_RSS_EXPANDED", ScanDataTypeEnum::SCAN_SDT_RSS_EXPANDED},
+    {"HandKeyed", ScanDataTypeEnum::HandKeyed},
+    {"SCAN_SDT_UNKNOWN", ScanDataTypeEnum::SCAN_SDT_UNKNOWN},
+};
+
 constexpr Framework::EnumerationWord kSecurityModeEnumWords[] = {
     {"FULL_SECURITY", SecurityModeEnum::FULL_SECURITY},
     {"CUSTOMER_SPEED_MODE", SecurityModeEnum::CUSTOMER_SPEED_MODE},
@@ -227,6 +381,89 @@ constexpr Framework::EnumerationWord kSysmgmtLogEventSeverityDefinitionWords[] =
     {"SYSMGMT_CONSUMER", SysmgmtLogEventSeverityDefinition::SYSMGMT_CONSUMER},
     {"SYSMGMT_DEBUG", SysmgmtLogEventSeverityDefinition::SYSMGMT_DEBUG},
     {"SYSMGMT_TRACEPOINT", SysmgmtLogEventSeverityDefinition::SYSMGMT_TRACEPOINT},
+};
+
+constexpr Framework::EnumerationWord kSystemEventIdEnumWords[] = {
+    {"__NEW__", SystemEventIdEnum::__NEW__},
+    {"OPEN_LANE_WARM", SystemEventIdEnum::OPEN_LANE_WARM},
+    {"OPEN_LANE_COLD", SystemEventIdEnum::OPEN_LANE_COLD},
+    {"CLOSE_LANE", SystemEventIdEnum::CLOSE_LANE},
+    {"OPEN_DIAGNOSTICS", SystemEventIdEnum::OPEN_DIAGNOSTICS},
+    {"CLOSE_DIAGNOSTICS", SystemEventIdEnum::CLOSE_DIAGNOSTICS},
+    {"OPEN_EMULATOR", SystemEventIdEnum::OPEN_EMULATOR},
+    {"CLOSE_EMULATOR", SystemEventIdEnum::CLOSE_EMULATOR},
+    {"EXIT_TO_DESKTOP", SystemEventIdEnum::EXIT_TO_DESKTOP},
+    {"POWER_FAIL", SystemEventIdEnum::POWER_FAIL},
+    {"POWER_FAIL_RESUME", SystemEventIdEnum::POWER_FAIL_RESUME},
+    {"POWER_FAIL_SHUTDOWN", SystemEventIdEnum::POWER_FAIL_SHUTDOWN},
+    {"APPLICATION_STATUS", SystemEventIdEnum::APPLICATION_STATUS},
+    {"DEVICE_STATUS", SystemEventIdEnum::DEVICE_STATUS},
+    {"EXTRACT_AUTO", SystemEventIdEnum::EXTRACT_AUTO},
+    {"EXTRACT_MANUAL", SystemEventIdEnum::EXTRACT_MANUAL},
+    {"EXTRACT_RMA_REQUESTED", SystemEventIdEnum::EXTRACT_RMA_REQUESTED},
+    {"REQUEST_ASSISTANCE_AUTO", SystemEventIdEnum::REQUEST_ASSISTANCE_AUTO},
+    {"REQUEST_ASSISTANCE_MANUAL", SystemEventIdEnum::REQUEST_ASSISTANCE_MANUAL},
+    {"REQUEST_ASSISTANCE_CANCEL_AUTO", SystemEventIdEnum::REQUEST_ASSISTANCE_CANCEL_AUTO},
+    {"REQUEST_ASSISTANCE_CANCEL_MANUAL", SystemEventIdEnum::REQUEST_ASSISTANCE_CANCEL_MANUAL},
+    {"ASSISTANCE_ARRIVE", SystemEventIdEnum::ASSISTANCE_ARRIVE},
+    {"REAR_ARCH_BLOCKED", SystemEventIdEnum::REAR_ARCH_BLOCKED},
+    {"BAGGING_AREA_FULL", SystemEventIdEnum::BAGGING_AREA_FULL},
+    {"BAGGING_AREA_CLEARED", SystemEventIdEnum::BAGGING_AREA_CLEARED},
+    {"FRONT_SAFETY_SENSOR_BLOCKED", SystemEventIdEnum::FRONT_SAFETY_SENSOR_BLOCKED},
+    {"REAR_SAFETY_SENSOR_BLOCKED", SystemEventIdEnum::REAR_SAFETY_SENSOR_BLOCKED},
+    {"FRONT_SAFETY_SENSOR_CLEARED", SystemEventIdEnum::FRONT_SAFETY_SENSOR_CLEARED},
+    {"REAR_SAFETY_SENSOR_CLEARED", SystemEventIdEnum::REAR_SAFETY_SENSOR_CLEARED},
+    {"CASHIER_CLEAR_ARCHES_OR_SENSORS", SystemEventIdEnum::CASHIER_CLEAR_ARCHES_OR_SENSORS},
+    {"STOP_TO_WEIGH", SystemEventIdEnum::STOP_TO_WEIGH},
+    {"VALIDATE_1_CLEAR_2", SystemEventIdEnum::VALIDATE_1_CLEAR_2},
+    {"VERIFY_AGE", SystemEventIdEnum::VERIFY_AGE},
+    {"REPRINT_RECEIPT", SystemEventIdEnum::REPRINT_RECEIPT},
+    {"PRINT_REGZ", SystemEventIdEnum::PRINT_REGZ},
+    {"PURGE_REGZ", SystemEventIdEnum::PURGE_REGZ},
+    {"SUSPEND_ESCORT", SystemEventIdEnum::SUSPEND_ESCORT},
+    {"AUDIT_IN_TRANSACTION", SystemEventIdEnum::AUDIT_IN_TRANSACTION},
+    {"AUDIT_END_TRANSACTION", SystemEventIdEnum::AUDIT_END_TRANSACTION},
+    {"AUDIT_ITEM_REJECTS", SystemEventIdEnum::AUDIT_ITEM_REJECTS},
+    {"COUPON_REPORT", SystemEventIdEnum::COUPON_REPORT},
+    {"COUPON_PICKUP", SystemEventIdEnum::COUPON_PICKUP},
+    {"SA_SCAN", SystemEventIdEnum::SA_SCAN},
+    {"VARIABLE_WEIGHT_OVERRIDE_WARNING", SystemEventIdEnum::VARIABLE_WEIGHT_OVERRIDE_WARNING},
+    {"EARLY_BAG_REMOVAL", SystemEventIdEnum::EARLY_BAG_REMOVAL},
+    {"EARLY_BAG_FORGIVENESS", SystemEventIdEnum::EARLY_BAG_FORGIVENESS},
+    {"BAG_REMOVAL", SystemEventIdEnum::BAG_REMOVAL},
+    {"ITEM_SECURITY_INFO", SystemEventIdEnum::ITEM_SECURITY_INFO},
+    {"ITEM_SECURITY_ERROR", SystemEventIdEnum::ITEM_SECURITY_ERROR},
+    {"ITEM_SECURITY_WARNING", SystemEventIdEnum::ITEM_SECURITY_WARNING},
+    {"WEIGHT_MAX_WARNING", SystemEventIdEnum::WEIGHT_MAX_WARNING},
+    {"WEIGHT_MAX_LIMIT", SystemEventIdEnum::WEIGHT_MAX_LIMIT},
+    {"GREEN_BUTTON", SystemEventIdEnum::GREEN_BUTTON},
+    {"RED_BUTTON", SystemEventIdEnum::RED_BUTTON},
+    {"MEMBERSHIP_BLOCK", SystemEventIdEnum::MEMBERSHIP_BLOCK},
+    {"EXTRA_ITEM_DETECTED", SystemEventIdEnum::EXTRA_ITEM_DETECTED},
+    {"EXTRA_ITEM_REMOVED", SystemEventIdEnum::EXTRA_ITEM_REMOVED},
+    {"EXTRA_ITEM_CORRECTED", SystemEventIdEnum::EXTRA_ITEM_CORRECTED},
+    {"LATE_ITEM_VALIDATION", SystemEventIdEnum::LATE_ITEM_VALIDATION},
+    {"ITEM_SKIP_BAGGING", SystemEventIdEnum::ITEM_SKIP_BAGGING},
+    {"SKIPPED_SECURITY_CHECK", SystemEventIdEnum::SKIPPED_SECURITY_CHECK},
+    {"SA_SECURITY_OVERRIDE", SystemEventIdEnum::SA_SECURITY_OVERRIDE},
+    {"SHUTDOWN", SystemEventIdEnum::SHUTDOWN},
+    {"ZERO_SECURITY_SCALE", SystemEventIdEnum::ZERO_SECURITY_SCALE},
+    {"SECURITY_MODE_CHANGE", SystemEventIdEnum::SECURITY_MODE_CHANGE},
+    {"TOSS_THROUGH", SystemEventIdEnum::TOSS_THROUGH},
+    {"CONFUSED", SystemEventIdEnum::CONFUSED},
+    {"VOID_TRANSACTION", SystemEventIdEnum::VOID_TRANSACTION},
+    {"SUSPEND_TRANSACTION", SystemEventIdEnum::SUSPEND_TRANSACTION},
+    {"EXTRACT_TAKEN", SystemEventIdEnum::EXTRACT_TAKEN},
+    {"GUI_UPDATE_ERROR", SystemEventIdEnum::GUI_UPDATE_ERROR},
+    {"ITEM_HANDLER_BUG", SystemEventIdEnum::ITEM_HANDLER_BUG},
+    {"CASH_MAINTENANCE", SystemEventIdEnum::CASH_MAINTENANCE},
+    {"POS_CONTROLLER_OFFLINE", SystemEventIdEnum::POS_CONTROLLER_OFFLINE},
+    {"POS_CONTROLLER_ONLINE", SystemEventIdEnum::POS_CONTROLLER_ONLINE},
+    {"CONFIGURATION_STATUS", SystemEventIdEnum::CONFIGURATION_STATUS},
+    {"OPEN_LANE_HEALTH_CHECK", SystemEventIdEnum::OPEN_LANE_HEALTH_CHECK},
+    {"CASH_VOUCHER_PRINT", SystemEventIdEnum::CASH_VOUCHER_PRINT},
+    {"DATABASE_STATUS", SystemEventIdEnum::DATABASE_STATUS},
+    {"ITEM_HANDLER_TRACE", SystemEventIdEnum::ITEM_HANDLER_TRACE},
 };
 
 constexpr Framework::EnumerationWord kSystemsManagementPacketTypeEnumWords[] = {
@@ -722,6 +959,33 @@ void LinkTypeEnum::AssignValue(LPCTSTR szVal) {
     m_Value = Framework::NumberOf(kLinkTypeEnumWords, szVal);
 }
 
+LogIdTypeDefintion::LogIdTypeDefintion(LPCTSTR szValue) {
+    LogIdTypeDefintion::AssignValue(szValue);
+}
+
+LogIdTypeDefintion::~LogIdTypeDefintion() {}
+
+bool LogIdTypeDefintion::operator==(LPCTSTR _Cmp) const {
+    return Framework::IsWordOf(kLogIdTypeDefintionWords, m_Value, _Cmp);
+}
+
+LogIdTypeDefintion& LogIdTypeDefintion::operator=(LPCTSTR sVal) {
+    AssignValue(sVal);
+    return *this;
+}
+
+zelString LogIdTypeDefintion::StringOf() const {
+    return Framework::WordOf(kLogIdTypeDefintionWords, m_Value);
+}
+
+void LogIdTypeDefintion::GetContainedValueList(std::vector<zelString>& pList) {
+    Framework::AppendWords(kLogIdTypeDefintionWords, pList);
+}
+
+void LogIdTypeDefintion::AssignValue(LPCTSTR szVal) {
+    m_Value = Framework::NumberOf(kLogIdTypeDefintionWords, szVal);
+}
+
 LogInformationTypeDefintion::LogInformationTypeDefintion(LPCTSTR szValue) {
     LogInformationTypeDefintion::AssignValue(szValue);
 }
@@ -857,6 +1121,33 @@ void PersistenceModelEnum::AssignValue(LPCTSTR szVal) {
     m_Value = Framework::NumberOf(kPersistenceModelEnumWords, szVal);
 }
 
+ScanDataTypeEnum::ScanDataTypeEnum(LPCTSTR szValue) {
+    ScanDataTypeEnum::AssignValue(szValue);
+}
+
+ScanDataTypeEnum::~ScanDataTypeEnum() {}
+
+bool ScanDataTypeEnum::operator==(LPCTSTR _Cmp) const {
+    return Framework::IsWordOf(kScanDataTypeEnumWords, m_Value, _Cmp);
+}
+
+ScanDataTypeEnum& ScanDataTypeEnum::operator=(LPCTSTR sVal) {
+    AssignValue(sVal);
+    return *this;
+}
+
+zelString ScanDataTypeEnum::StringOf() const {
+    return Framework::WordOf(kScanDataTypeEnumWords, m_Value);
+}
+
+void ScanDataTypeEnum::GetContainedValueList(std::vector<zelString>& pList) {
+    Framework::AppendWords(kScanDataTypeEnumWords, pList);
+}
+
+void ScanDataTypeEnum::AssignValue(LPCTSTR szVal) {
+    m_Value = Framework::NumberOf(kScanDataTypeEnumWords, szVal);
+}
+
 SecurityModeEnum::SecurityModeEnum(LPCTSTR szValue) {
     SecurityModeEnum::AssignValue(szValue);
 }
@@ -963,6 +1254,33 @@ void SysmgmtLogEventSeverityDefinition::GetContainedValueList(std::vector<zelStr
 
 void SysmgmtLogEventSeverityDefinition::AssignValue(LPCTSTR szVal) {
     m_Value = Framework::NumberOf(kSysmgmtLogEventSeverityDefinitionWords, szVal);
+}
+
+SystemEventIdEnum::SystemEventIdEnum(LPCTSTR szValue) {
+    SystemEventIdEnum::AssignValue(szValue);
+}
+
+SystemEventIdEnum::~SystemEventIdEnum() {}
+
+bool SystemEventIdEnum::operator==(LPCTSTR _Cmp) const {
+    return Framework::IsWordOf(kSystemEventIdEnumWords, m_Value, _Cmp);
+}
+
+SystemEventIdEnum& SystemEventIdEnum::operator=(LPCTSTR sVal) {
+    AssignValue(sVal);
+    return *this;
+}
+
+zelString SystemEventIdEnum::StringOf() const {
+    return Framework::WordOf(kSystemEventIdEnumWords, m_Value);
+}
+
+void SystemEventIdEnum::GetContainedValueList(std::vector<zelString>& pList) {
+    Framework::AppendWords(kSystemEventIdEnumWords, pList);
+}
+
+void SystemEventIdEnum::AssignValue(LPCTSTR szVal) {
+    m_Value = Framework::NumberOf(kSystemEventIdEnumWords, szVal);
 }
 
 SystemsManagementPacketTypeEnum::SystemsManagementPacketTypeEnum(LPCTSTR szValue) {

@@ -824,6 +824,166 @@ protected:
     int m_Value = VALUE_UNKNOWN;
 };
 
+class FRAMEWORK_API LogIdTypeDefintion : public TypedDataEnumeration {
+public:
+    enum ContainedValues : int {
+        VALUE_UNKNOWN = -1,
+        LOG_TYPE_UNKNOWN = 1,
+        LOG_TYPE_TRANSACTION = 2,
+        LOG_TYPE_CASH = 3,
+        LOG_TYPE_SECURITY_RECORD_ADDED = 4,
+        LOG_TYPE_SECURITY_RECORD_DELETED = 5,
+        LOG_TYPE_SECURITY_RECORD_MODIFIED = 6,
+        LOG_TYPE_WEIGHT_REJECT = 7,
+        LOG_TYPE_WEIGHT_CHANGED_REJECT = 8,
+        LOG_TYPE_WEIGHT_HEIGHT_REJECT = 9,
+        LOG_TYPE_HEIGHT_REJECT = 10,
+        LOG_TYPE_EXTRA_BREAK_REJECT = 11,
+        LOG_TYPE_NOT_ON_BELT_REJECT = 12,
+        LOG_TYPE_ABORT_REJECT = 13,
+        LOG_TYPE_OTHER_ITEM_REJECT = 14,
+        LOG_TYPE_UNKNOWN_REJECT = 15,
+        LOG_TYPE_NOF_REJECT = 16,
+        LOG_TYPE_POS_RESTRICTED_REJECT = 17,
+        LOG_TYPE_POS_WGT_QTY_REJECT = 18,
+        LOG_TYPE_POS_LIMIT_REJECT = 19,
+        LOG_TYPE_POS_ITEM_DATA_REJECT = 20,
+        LOG_TYPE_POS_BAD_COUPON_REJECT = 21,
+        LOG_TYPE_POS_OTHER_REJECT = 22,
+        LOG_TYPE_POS_TIMEOUT_REJECT = 23,
+        LOG_TYPE_OVERRIDE_SECURITY = 24,
+        LOG_TYPE_LEARN_NOF = 25,
+        LOG_TYPE_DEPT_KEY_IN = 26,
+        LOG_TYPE_NEW_ITEM = 27,
+        LOG_TYPE_ITEM_VOID = 28,
+        LOG_TYPE_PROCESSED_NOF = 29,
+        LOG_TYPE_PROCESSED_TYPE2_OVRIDE = 30,
+        LOG_TYPE_CLEAR_LEARN_NOF = 31,
+        LOG_TYPE_ACCEPT_COUPON = 32,
+        LOG_TYPE_TRANSACTION_VOID = 33,
+        LOG_TYPE_COUPON_CANCEL_NOT_IN_BOX = 34,
+        LOG_TYPE_COUPON_VOID = 35,
+        LOG_TYPE_ACCEPT_COUPON_CASHIER_ASSISTED = 36,
+        LOG_TYPE_PRICE_OVERRIDE_NORMAL = 37,
+        LOG_TYPE_PRICE_OVERRIDE_WGT_REQ = 38,
+        LOG_TYPE_LONG_ITEM_REJECT = 39,
+        LOG_TYPE_VALIDATE_SECURITY_FAILED = 40,
+        LOG_TYPE_VALIDATE_NOT_IN_BAG = 41,
+        LOG_TYPE_CASHIER_QUANTITY_ENTRY = 42,
+        LOG_TYPE_MINI_LEARN = 43,
+        LOG_TYPE_HAND_HELD_SCANNER = 44,
+        LOG_TYPE_OVERRIDE_SECURITY_NEEDED = 45,
+        LOG_TYPE_OVERRIDE_SECUIRTY_NOT_REJECTED = 46,
+        LOG_TYPE_OVERRIDE_SECURITY_DB_SEC_OK = 47,
+        LOG_TYPE_OVERRIDE_NOT_ON_BELT = 48,
+        LOG_TYPE_EVENT_CRITICAL_ERROR = 49,
+        LOG_TYPE_EVENT_TRAP_ERROR = 50,
+        LOG_TYPE_EVENT_OPEN_LANE_COLD = 51,
+        LOG_TYPE_EVENT_OPEN_LANE_WARM = 52,
+        LOG_TYPE_EVENT_CLOSE_LANE = 53,
+        LOG_TYPE_EVENT_CONFIG_INFO_CHANGED = 54,
+        LOG_TYPE_EVENT_LANE_POWER_FAILURE = 55,
+        LOG_TYPE_EVENT_TARN_POWER_FAILURE = 56,
+        LOG_TYPE_EVENT_LAN_FAILURE = 57,
+        LOG_TYPE_EVENT_PRINTER_ERROR = 58,
+        LOG_TYPE_EVENT_TAKE_EXTRACT = 59,
+        LOG_TYPE_EVENT_ZERO_SCALE = 60,
+        LOG_TYPE_EVENT_TOUCHED_NEED_ASSISTANT = 61,
+        LOG_TYPE_EVENT_TOUCHED_HOW_TO_USE = 62,
+        LOG_TYPE_EVENT_AUTOMATIC_HELP = 63,
+        LOG_TYPE_EVENT_REPRINT_RECEIPT = 64,
+        LOG_TYPE_EVENT_TARN_ISP_CONNECT_ERROR = 65,
+        LOG_TYPE_EVENT_TARN_FILE_UPDATE_ERROR = 66,
+        LOG_TYPE_EVENT_TARN_MGR_RESTARTS = 67,
+        LOG_TYPE_EVENT_ASSISTANCE_CARD_SCANNED = 68,
+        LOG_TYPE_EVENT_LAST_ALTERNATE_RECORD_USED = 69,
+        LOG_TYPE_EVENT_TARN_SEC_DB_UPDATE_FAILURE = 70,
+        LOG_TYPE_EVENT_BEGIN_TRANSACTION_UNEXPECTED = 71,
+        LOG_TYPE_EVENT_END_TRANSACTION_UNEXPECTED = 72,
+        LOG_TYPE_EVENT_ITEM_INFORMATION_UNEXPECTED = 73,
+        LOG_TYPE_EVENT_TARN_PENDING_FILE_ERROR = 74,
+        LOG_TYPE_EVENT_LANE_PENDING_FILE_ERROR = 75,
+        LOG_TYPE_EVENT_LOG_OBJECT_RECOVERY_FAILURE = 76,
+        LOG_TYPE_EVENT_BAGGING_AREA_FULL = 77,
+        LOG_TYPE_EVENT_CONFUSED_DIALOG = 78,
+        LOG_TYPE_EVENT_STOPPED_BELT_TO_WEIGH = 79,
+        LOG_TYPE_EVENT_SEC_MODULE_FAILURE = 80,
+        LOG_TYPE_EVENT_SCANNER_SCALE_FAILURE = 81,
+        LOG_TYPE_EVENT_SIGNATURE_CAP_FAILURE = 82,
+        LOG_TYPE_EVENT_SEC_SCALE_EXCEED_MAX_WEIGHT = 83,
+        LOG_TYPE_EVENT_COUPON_PICKUP = 84,
+        LOG_TYPE_EVENT_AGE_CHECK = 85,
+        LOG_TYPE_EVENT_PRINT_REG_Z_DATA = 86,
+        LOG_TYPE_EVENT_PURGE_REG_Z_DATA = 87,
+        LOG_TYPE_EVENT_CASH_INCOMPLETIONS = 88,
+        LOG_TYPE_EVENT_EFT_TENDER_CANCELED = 89,
+        LOG_TYPE_EVENT_EFT_TENDER_FAILED = 90,
+        LOG_TYPE_EVENT_EFT_TENDER_INSUFFICIENT_FUNDS = 91,
+        LOG_TYPE_EVENT_EFT_TENDER_USER_PARTIAL = 92,
+        LOG_TYPE_EVENT_CHECK_COLLECTED = 93,
+        LOG_TYPE_EVENT_CHECK_NOT_COLLECTED = 94,
+        LOG_TYPE_EVENT_SECURITY_MOD_UPLOAD = 95,
+        LOG_TYPE_EVENT_SUSPEND_ESCORT = 96,
+        LOG_TYPE_EVENT_END_ORDER_ITEM_AUDIT = 97,
+        LOG_TYPE_EVENT_IN_TRANS_SECURITY_AUDIT = 98,
+        LOG_TYPE_EVENT_END_TRANS_SECURITY_AUDIT = 99,
+        LOG_TYPE_EVENT_COUPON_LIMIT_INTERVENTION = 100,
+        LOG_TYPE_EVENT_SA_SCAN_WITH_NO_ACTION = 101,
+        LOG_TYPE_EVENT_LAST_ITEM_CORRECTED = 102,
+        LOG_TYPE_EVENT_EARLY_BAG_REMOVAL = 103,
+        LOG_TYPE_EVENT_EARLY_BAG_FORGIVENESS = 104,
+        LOG_TYPE_EVENT_BAG_REMOVAL = 105,
+        LOG_TYPE_EVENT_MAX_WEIGHT_WARNING = 106,
+        LOG_TYPE_EVENT_MAX_WEIGHT_LIMIT = 107,
+        LOG_TYPE_EVENT_EXTRA_ITEM = 108,
+        LOG_TYPE_EVENT_LANGUAGE_SELECT = 109,
+        LOG_TYPE_EVENT_GREEN_BUTTON = 110,
+        LOG_TYPE_EVENT_RED_BUTTON = 111,
+        LOG_TYPE_EVENT_SA_SCANNED_DURING_TRANSACTION = 112,
+        LOG_TYPE_EVENT_MEMBERSHIP_BLOCK_OVERRIDE = 113,
+        LOG_TYPE_EVENT_EXTRA_ITEM_REMOVED = 114,
+        LOG_TYPE_EVENT_BOTTLE_DEPOSIT_NOT_COLLECTED = 115,
+        LOG_TYPE_EVENT_BOTTLE_DEPOSIT_COLLECTED = 116,
+        LOG_TYPE_EVENT_CASH_VOUCHER_PRINTED = 117,
+        VALUE_END_OF_LIST = 118,
+    };
+
+    LogIdTypeDefintion() noexcept = default;
+    LogIdTypeDefintion(const int& iValue) noexcept : m_Value(iValue) {}
+    LogIdTypeDefintion(const ContainedValues& eValue) noexcept : m_Value(eValue) {}
+    LogIdTypeDefintion(LPCTSTR szValue);
+    LogIdTypeDefintion(const LogIdTypeDefintion& other) noexcept = default;
+    ~LogIdTypeDefintion() override;
+
+    bool operator==(LPCTSTR _Cmp) const override;
+    bool operator==(const LogIdTypeDefintion& other) const noexcept { return m_Value == other.m_Value; }
+    bool operator==(const int& iValue) const noexcept { return m_Value == iValue; }
+    bool operator==(const ContainedValues& eValue) const noexcept { return m_Value == eValue; }
+    LogIdTypeDefintion& operator=(LPCTSTR sVal) override;
+    LogIdTypeDefintion& operator=(const LogIdTypeDefintion& other) noexcept = default;
+    LogIdTypeDefintion& operator=(const int& iValue) noexcept {
+        m_Value = iValue;
+        return *this;
+    }
+    LogIdTypeDefintion& operator=(const ContainedValues& eValue) noexcept {
+        m_Value = eValue;
+        return *this;
+    }
+    zelString StringOf() const override;
+
+    int Value() const noexcept { return m_Value; }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+
+    /// Appends every word, in order.
+    static void GetContainedValueList(std::vector<zelString>& pList);
+
+protected:
+    void AssignValue(LPCTSTR szVal) override;
+
+    int m_Value = VALUE_UNKNOWN;
+};
+
 /// Kinds of log record.
 class FRAMEWORK_API LogInformationTypeDefintion : public TypedDataEnumeration {
 public:
@@ -1063,6 +1223,80 @@ protected:
     int m_Value = VALUE_UNKNOWN;
 };
 
+class FRAMEWORK_API ScanDataTypeEnum : public TypedDataEnumeration {
+public:
+    enum ContainedValues : int {
+        VALUE_UNKNOWN = -1,
+        SCAN_SDT_UPCA = 1,
+        SCAN_SDT_UPCA_S = 2,
+        SCAN_SDT_UPCE = 3,
+        SCAN_SDT_UPCE_S = 4,
+        SCAN_SDT_UPCD1 = 5,
+        SCAN_SDT_UPCD2 = 6,
+        SCAN_SDT_UPCD3 = 7,
+        SCAN_SDT_UPCD4 = 8,
+        SCAN_SDT_UPCD5 = 9,
+        SCAN_SDT_EAN8 = 10,
+        SCAN_SDT_JAN8 = 11,
+        SCAN_SDT_EAN8_S = 12,
+        SCAN_SDT_EAN13 = 13,
+        SCAN_SDT_EAN128 = 14,
+        SCAN_SDT_TF = 15,
+        SCAN_SDT_ITF = 16,
+        SCAN_SDT_Codabar = 17,
+        SCAN_SDT_Code39 = 18,
+        SCAN_SDT_Code93 = 19,
+        SCAN_SDT_Code128 = 20,
+        SCAN_SDT_OCRA = 21,
+        SCAN_SDT_OCRB = 22,
+        SCAN_SDT_PDF417 = 23,
+        SCAN_SDT_MAXICODE = 24,
+        SCAN_SDT_OTHER = 25,
+        SCAN_SDT_GS1DATABAR = 26,
+        SCAN_SDT_GS1DATABAR_E = 27,
+        SCAN_SDT_RSS14 = 28,
+        SCAN_SDT_RSS_EXPANDED = 29,
+        HandKeyed = 30,
+        SCAN_SDT_UNKNOWN = 31,
+        VALUE_END_OF_LIST = 32,
+    };
+
+    ScanDataTypeEnum() noexcept = default;
+    ScanDataTypeEnum(const int& iValue) noexcept : m_Value(iValue) {}
+    ScanDataTypeEnum(const ContainedValues& eValue) noexcept : m_Value(eValue) {}
+    ScanDataTypeEnum(LPCTSTR szValue);
+    ScanDataTypeEnum(const ScanDataTypeEnum& other) noexcept = default;
+    ~ScanDataTypeEnum() override;
+
+    bool operator==(LPCTSTR _Cmp) const override;
+    bool operator==(const ScanDataTypeEnum& other) const noexcept { return m_Value == other.m_Value; }
+    bool operator==(const int& iValue) const noexcept { return m_Value == iValue; }
+    bool operator==(const ContainedValues& eValue) const noexcept { return m_Value == eValue; }
+    ScanDataTypeEnum& operator=(LPCTSTR sVal) override;
+    ScanDataTypeEnum& operator=(const ScanDataTypeEnum& other) noexcept = default;
+    ScanDataTypeEnum& operator=(const int& iValue) noexcept {
+        m_Value = iValue;
+        return *this;
+    }
+    ScanDataTypeEnum& operator=(const ContainedValues& eValue) noexcept {
+        m_Value = eValue;
+        return *this;
+    }
+    zelString StringOf() const override;
+
+    int Value() const noexcept { return m_Value; }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+
+    /// Appends every word, in order.
+    static void GetContainedValueList(std::vector<zelString>& pList);
+
+protected:
+    void AssignValue(LPCTSTR szVal) override;
+
+    int m_Value = VALUE_UNKNOWN;
+};
+
 /// How strictly items are checked.
 class FRAMEWORK_API SecurityModeEnum : public TypedDataEnumeration {
 public:
@@ -1240,6 +1474,129 @@ public:
         return *this;
     }
     SysmgmtLogEventSeverityDefinition& operator=(const ContainedValues& eValue) noexcept {
+        m_Value = eValue;
+        return *this;
+    }
+    zelString StringOf() const override;
+
+    int Value() const noexcept { return m_Value; }
+    operator const int() const noexcept { return m_Value; }
+    operator const ContainedValues() const noexcept { return static_cast<ContainedValues>(m_Value); }
+
+    /// Appends every word, in order.
+    static void GetContainedValueList(std::vector<zelString>& pList);
+
+protected:
+    void AssignValue(LPCTSTR szVal) override;
+
+    int m_Value = VALUE_UNKNOWN;
+};
+
+class FRAMEWORK_API SystemEventIdEnum : public TypedDataEnumeration {
+public:
+    enum ContainedValues : int {
+        VALUE_UNKNOWN = -1,
+        __NEW__ = 1,
+        OPEN_LANE_WARM = 2,
+        OPEN_LANE_COLD = 3,
+        CLOSE_LANE = 4,
+        OPEN_DIAGNOSTICS = 5,
+        CLOSE_DIAGNOSTICS = 6,
+        OPEN_EMULATOR = 7,
+        CLOSE_EMULATOR = 8,
+        EXIT_TO_DESKTOP = 9,
+        POWER_FAIL = 10,
+        POWER_FAIL_RESUME = 11,
+        POWER_FAIL_SHUTDOWN = 12,
+        APPLICATION_STATUS = 13,
+        DEVICE_STATUS = 14,
+        EXTRACT_AUTO = 15,
+        EXTRACT_MANUAL = 16,
+        EXTRACT_RMA_REQUESTED = 17,
+        REQUEST_ASSISTANCE_AUTO = 18,
+        REQUEST_ASSISTANCE_MANUAL = 19,
+        REQUEST_ASSISTANCE_CANCEL_AUTO = 20,
+        REQUEST_ASSISTANCE_CANCEL_MANUAL = 21,
+        ASSISTANCE_ARRIVE = 22,
+        REAR_ARCH_BLOCKED = 23,
+        BAGGING_AREA_FULL = 24,
+        BAGGING_AREA_CLEARED = 25,
+        FRONT_SAFETY_SENSOR_BLOCKED = 26,
+        REAR_SAFETY_SENSOR_BLOCKED = 27,
+        FRONT_SAFETY_SENSOR_CLEARED = 28,
+        REAR_SAFETY_SENSOR_CLEARED = 29,
+        CASHIER_CLEAR_ARCHES_OR_SENSORS = 30,
+        STOP_TO_WEIGH = 31,
+        VALIDATE_1_CLEAR_2 = 32,
+        VERIFY_AGE = 33,
+        REPRINT_RECEIPT = 34,
+        PRINT_REGZ = 35,
+        PURGE_REGZ = 36,
+        SUSPEND_ESCORT = 37,
+        AUDIT_IN_TRANSACTION = 38,
+        AUDIT_END_TRANSACTION = 39,
+        AUDIT_ITEM_REJECTS = 40,
+        COUPON_REPORT = 41,
+        COUPON_PICKUP = 42,
+        SA_SCAN = 43,
+        VARIABLE_WEIGHT_OVERRIDE_WARNING = 44,
+        EARLY_BAG_REMOVAL = 45,
+        EARLY_BAG_FORGIVENESS = 46,
+        BAG_REMOVAL = 47,
+        ITEM_SECURITY_INFO = 48,
+        ITEM_SECURITY_ERROR = 49,
+        ITEM_SECURITY_WARNING = 50,
+        WEIGHT_MAX_WARNING = 51,
+        WEIGHT_MAX_LIMIT = 52,
+        GREEN_BUTTON = 53,
+        RED_BUTTON = 54,
+        MEMBERSHIP_BLOCK = 55,
+        EXTRA_ITEM_DETECTED = 56,
+        EXTRA_ITEM_REMOVED = 57,
+        EXTRA_ITEM_CORRECTED = 58,
+        LATE_ITEM_VALIDATION = 59,
+        ITEM_SKIP_BAGGING = 60,
+        SKIPPED_SECURITY_CHECK = 61,
+        SA_SECURITY_OVERRIDE = 62,
+        SHUTDOWN = 63,
+        ZERO_SECURITY_SCALE = 64,
+        SECURITY_MODE_CHANGE = 65,
+        TOSS_THROUGH = 66,
+        CONFUSED = 67,
+        VOID_TRANSACTION = 68,
+        SUSPEND_TRANSACTION = 69,
+        EXTRACT_TAKEN = 70,
+        GUI_UPDATE_ERROR = 71,
+        ITEM_HANDLER_BUG = 72,
+        CASH_MAINTENANCE = 73,
+        POS_CONTROLLER_OFFLINE = 74,
+        POS_CONTROLLER_ONLINE = 75,
+        CONFIGURATION_STATUS = 76,
+        OPEN_LANE_HEALTH_CHECK = 77,
+        CASH_VOUCHER_PRINT = 78,
+        DATABASE_STATUS = 79,
+        ITEM_HANDLER_TRACE = 80,
+        VALUE_END_OF_LIST = 81,
+    };
+
+    SystemEventIdEnum() noexcept = default;
+    SystemEventIdEnum(const int& iValue) noexcept : m_Value(iValue) {}
+    SystemEventIdEnum(const ContainedValues& eValue) noexcept : m_Value(eValue) {}
+    SystemEventIdEnum(LPCTSTR szValue);
+    SystemEventIdEnum(const SystemEventIdEnum& other) noexcept = default;
+    ~SystemEventIdEnum() override;
+
+    bool operator==(LPCTSTR _Cmp) const override;
+    bool operator==(const SystemEventIdEnum& other) const noexcept { return m_Value == other.m_Value; }
+    bool operator==(const int& iValue) const noexcept { return m_Value == iValue; }
+    bool operator==(const ContainedValues& eValue) const noexcept { return m_Value == eValue; }
+    SystemEventIdEnum& operator=(LPCTSTR sVal) override;
+    SystemEventIdEnum& operator=(const SystemEventIdEnum& other) noexcept = default;
+    SystemEventIdEnum& operator=(const int& iValue) noexcept {
+        m_Value = iValue;
+        return *this;
+    }
+    SystemEventIdEnum& operator=(const ContainedValues& eValue) noexcept {
         m_Value = eValue;
         return *this;
     }

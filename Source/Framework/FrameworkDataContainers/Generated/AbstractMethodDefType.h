@@ -1,0 +1,52 @@
+// Generated from Methods.xsd; do not edit. Regenerate with the target "generate".
+#pragma once
+
+#include "Framework/TypedDataContainer.h"
+
+namespace Framework {
+struct FieldTableIndex;
+}
+
+/// What every definition of a method has: a class and its method.
+///
+/// Element `AbstractMethod` unless its parent names it otherwise.
+class FRAMEWORK_API AbstractMethodDefType : public TypedDataContainer {
+public:
+    explicit AbstractMethodDefType(bool bBuildFromScratch);
+    ~AbstractMethodDefType() override;
+
+    zelString GetBaseType() override;
+    void GetProperties(ParameterList& pList) override;
+    bool MergeDataMembers(XMLDataWrapper* pMergeData, zelString sFeatureID) override;
+    zelString GetAttributeList() override;
+    ParameterList* GetPLAttributeList() override;
+    TypedDataContainer* Clone() override;
+    bool DumpMergeContents(const zelString& sParentQuery, FullFunctionXMLDataWrapper* pOutput, int QueryPos,
+                           bool bIncludeMergeAttributes) override;
+    bool DumpMergeContentsII(DOMNode* pParentNode, FullFunctionXMLDataWrapper* pOutput, DOMNode*& pPassedCurrent,
+                             bool bIncludeMergeAttributes) override;
+    bool UpdateContainedData() override;
+    bool PopulateDataMembers(XalanNode* pNode) override;
+    void ResetDataMembers() override;
+
+    // The order is that of the virtual table.
+    virtual zelString GetClassName();
+    virtual void SetClassName(LPCTSTR szNew);
+    virtual zelString GetMethod();
+    virtual void SetMethod(LPCTSTR szNew);
+    virtual bool AutoFillTypeInfo();
+
+    bool GetAutoFillTypeInfo() const { return m_bAutoFillTypeInfo; }
+    void SetAutoFillTypeInfo(bool bNew) { m_bAutoFillTypeInfo = bNew; }
+
+protected:
+    bool m_bAutoFillTypeInfo = false;
+    zelString m_ClassName;
+    zelString m_Method;
+
+    static const Framework::FieldTable s_Table;
+    friend struct Framework::FieldTableIndex;
+
+private:
+    static const Framework::FieldRow s_Rows[];
+};

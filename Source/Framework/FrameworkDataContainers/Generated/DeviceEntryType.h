@@ -1,0 +1,58 @@
+// Generated from DeviceConfig.xsd; do not edit. Regenerate with the target "generate".
+#pragma once
+
+#include "Framework/TypedDataContainer.h"
+
+namespace Framework {
+struct FieldTableIndex;
+}
+
+/// A device, and the factory method that makes it.
+///
+/// Element `DeviceEntry` unless its parent names it otherwise.
+class FRAMEWORK_API DeviceEntryType : public TypedDataContainer {
+public:
+    explicit DeviceEntryType(bool bBuildFromScratch);
+    ~DeviceEntryType() override;
+
+    zelString GetBaseType() override;
+    void GetProperties(ParameterList& pList) override;
+    bool MergeDataMembers(XMLDataWrapper* pMergeData, zelString sFeatureID) override;
+    zelString GetAttributeList() override;
+    ParameterList* GetPLAttributeList() override;
+    TypedDataContainer* Clone() override;
+    bool DumpMergeContents(const zelString& sParentQuery, FullFunctionXMLDataWrapper* pOutput, int QueryPos,
+                           bool bIncludeMergeAttributes) override;
+    bool DumpMergeContentsII(DOMNode* pParentNode, FullFunctionXMLDataWrapper* pOutput, DOMNode*& pPassedCurrent,
+                             bool bIncludeMergeAttributes) override;
+    bool UpdateContainedData() override;
+    bool PopulateDataMembers(XalanNode* pNode) override;
+    void ResetDataMembers() override;
+
+    // The order is that of the virtual table.
+    virtual zelString GetFactoryName();
+    virtual void SetFactoryName(LPCTSTR szNew);
+    virtual zelString GetFactoryMethod();
+    virtual void SetFactoryMethod(LPCTSTR szNew);
+    virtual zelString GetInitializeString();
+    virtual void SetInitializeString(LPCTSTR szNew);
+    virtual zelString Getname();
+    virtual void Setname(LPCTSTR szNew);
+    virtual bool AutoFillTypeInfo();
+
+    bool GetAutoFillTypeInfo() const { return m_bAutoFillTypeInfo; }
+    void SetAutoFillTypeInfo(bool bNew) { m_bAutoFillTypeInfo = bNew; }
+
+protected:
+    bool m_bAutoFillTypeInfo = false;
+    zelString m_FactoryName;
+    zelString m_FactoryMethod;
+    zelString m_InitializeString;
+    zelString m_name;
+
+    static const Framework::FieldTable s_Table;
+    friend struct Framework::FieldTableIndex;
+
+private:
+    static const Framework::FieldRow s_Rows[];
+};

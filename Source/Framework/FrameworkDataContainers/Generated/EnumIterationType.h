@@ -1,0 +1,55 @@
+// Generated from StructureTransformDef.xsd; do not edit. Regenerate with the target "generate".
+#pragma once
+
+#include "Framework/TypedDataContainer.h"
+
+namespace Framework {
+struct FieldTableIndex;
+}
+
+/// One value of such an enumeration, with its number.
+///
+/// Element `EnumIteration` unless its parent names it otherwise.
+class FRAMEWORK_API EnumIterationType : public TypedDataContainer {
+public:
+    explicit EnumIterationType(bool bBuildFromScratch);
+    ~EnumIterationType() override;
+
+    zelString GetBaseType() override;
+    void GetProperties(ParameterList& pList) override;
+    bool MergeDataMembers(XMLDataWrapper* pMergeData, zelString sFeatureID) override;
+    zelString GetAttributeList() override;
+    ParameterList* GetPLAttributeList() override;
+    TypedDataContainer* Clone() override;
+    bool DumpMergeContents(const zelString& sParentQuery, FullFunctionXMLDataWrapper* pOutput, int QueryPos,
+                           bool bIncludeMergeAttributes) override;
+    bool DumpMergeContentsII(DOMNode* pParentNode, FullFunctionXMLDataWrapper* pOutput, DOMNode*& pPassedCurrent,
+                             bool bIncludeMergeAttributes) override;
+    bool UpdateContainedData() override;
+    bool PopulateDataMembers(XalanNode* pNode) override;
+    void ResetDataMembers() override;
+
+    // The order is that of the virtual table.
+    virtual int GetValue();
+    virtual void SetValue(int szNew);
+    virtual zelString GetRefId();
+    virtual void SetRefId(LPCTSTR szNew);
+    virtual zelString GetId();
+    virtual void SetId(LPCTSTR szNew);
+    virtual bool AutoFillTypeInfo();
+
+    bool GetAutoFillTypeInfo() const { return m_bAutoFillTypeInfo; }
+    void SetAutoFillTypeInfo(bool bNew) { m_bAutoFillTypeInfo = bNew; }
+
+protected:
+    bool m_bAutoFillTypeInfo = false;
+    int m_Value = 0;
+    zelString m_RefId;
+    zelString m_Id;
+
+    static const Framework::FieldTable s_Table;
+    friend struct Framework::FieldTableIndex;
+
+private:
+    static const Framework::FieldRow s_Rows[];
+};

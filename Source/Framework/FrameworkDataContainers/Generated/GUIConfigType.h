@@ -1,0 +1,55 @@
+// Generated from GUIConfigurations.xsd; do not edit. Regenerate with the target "generate".
+#pragma once
+
+#include "Framework/TypedDataContainer.h"
+
+namespace Framework {
+struct FieldTableIndex;
+}
+
+/// One screen setting.
+///
+/// Element `GUIConfig` unless its parent names it otherwise.
+class FRAMEWORK_API GUIConfigType : public TypedDataContainer {
+public:
+    explicit GUIConfigType(bool bBuildFromScratch);
+    ~GUIConfigType() override;
+
+    zelString GetBaseType() override;
+    void GetProperties(ParameterList& pList) override;
+    bool MergeDataMembers(XMLDataWrapper* pMergeData, zelString sFeatureID) override;
+    zelString GetAttributeList() override;
+    ParameterList* GetPLAttributeList() override;
+    TypedDataContainer* Clone() override;
+    bool DumpMergeContents(const zelString& sParentQuery, FullFunctionXMLDataWrapper* pOutput, int QueryPos,
+                           bool bIncludeMergeAttributes) override;
+    bool DumpMergeContentsII(DOMNode* pParentNode, FullFunctionXMLDataWrapper* pOutput, DOMNode*& pPassedCurrent,
+                             bool bIncludeMergeAttributes) override;
+    bool UpdateContainedData() override;
+    bool PopulateDataMembers(XalanNode* pNode) override;
+    void ResetDataMembers() override;
+
+    // The order is that of the virtual table.
+    virtual zelString GetKey();
+    virtual void SetKey(LPCTSTR szNew);
+    virtual zelString GetValue();
+    virtual void SetValue(LPCTSTR szNew);
+    virtual zelString GetRefLookup();
+    virtual void SetRefLookup(LPCTSTR szNew);
+    virtual bool AutoFillTypeInfo();
+
+    bool GetAutoFillTypeInfo() const { return m_bAutoFillTypeInfo; }
+    void SetAutoFillTypeInfo(bool bNew) { m_bAutoFillTypeInfo = bNew; }
+
+protected:
+    bool m_bAutoFillTypeInfo = false;
+    zelString m_Key;
+    zelString m_Value;
+    zelString m_RefLookup;
+
+    static const Framework::FieldTable s_Table;
+    friend struct Framework::FieldTableIndex;
+
+private:
+    static const Framework::FieldRow s_Rows[];
+};

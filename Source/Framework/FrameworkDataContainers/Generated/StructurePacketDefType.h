@@ -1,0 +1,67 @@
+// Generated from StructureTransformDef.xsd; do not edit. Regenerate with the target "generate".
+#pragma once
+
+#include "Framework/TypedDataContainer.h"
+
+namespace Framework {
+struct FieldTableIndex;
+}
+
+class StructureDataType;
+
+/// One packet: its fields in order.
+///
+/// Element `StructurePacketDef` unless its parent names it otherwise.
+class FRAMEWORK_API StructurePacketDefType : public TypedDataContainer {
+public:
+    explicit StructurePacketDefType(bool bBuildFromScratch);
+    ~StructurePacketDefType() override;
+
+    zelString GetBaseType() override;
+    void GetProperties(ParameterList& pList) override;
+    bool MergeDataMembers(XMLDataWrapper* pMergeData, zelString sFeatureID) override;
+    zelString GetAttributeList() override;
+    ParameterList* GetPLAttributeList() override;
+    TypedDataContainer* Clone() override;
+    bool DumpMergeContents(const zelString& sParentQuery, FullFunctionXMLDataWrapper* pOutput, int QueryPos,
+                           bool bIncludeMergeAttributes) override;
+    bool DumpMergeContentsII(DOMNode* pParentNode, FullFunctionXMLDataWrapper* pOutput, DOMNode*& pPassedCurrent,
+                             bool bIncludeMergeAttributes) override;
+    bool UpdateContainedData() override;
+    bool PopulateDataMembers(XalanNode* pNode) override;
+    void ResetDataMembers() override;
+
+    // The order is that of the virtual table.
+    virtual int GetDocLength();
+    virtual zelString GetDoc(int Index);
+    virtual zelString GetDoc(const zelString& sName);
+    virtual int GetStructureDataLength();
+    virtual StructureDataType* GetStructureData(int Index);
+    virtual StructureDataType* GetStructureData(const zelString& sName);
+    virtual void AddNewStructureData(StructureDataType* szNew, const zelString& sName);
+    virtual void RemoveStructureData(const zelString& sName, const zelString& sFeatureId);
+    virtual zelString GetName();
+    virtual void SetName(LPCTSTR szNew);
+    virtual bool AutoFillTypeInfo();
+    virtual void AddDoc(const zelString& pData, const zelString& sName);
+    virtual void ClearDoc();
+    virtual void AddStructureData(XMLDataWrapper* pData, XalanNode* spNode, const zelString& sName);
+    virtual void ClearStructureData();
+
+    bool GetAutoFillTypeInfo() const { return m_bAutoFillTypeInfo; }
+    void SetAutoFillTypeInfo(bool bNew) { m_bAutoFillTypeInfo = bNew; }
+
+protected:
+    bool m_bAutoFillTypeInfo = false;
+    Zelvon::SyncMap<zelString, SimpleDataContainer*> m_MapDocList;
+    std::vector<SimpleDataContainer*> m_DocList;
+    Zelvon::SyncMap<zelString, TypedDataContainer*> m_MapStructureDataList;
+    std::vector<TypedDataContainer*> m_StructureDataList;
+    zelString m_Name;
+
+    static const Framework::FieldTable s_Table;
+    friend struct Framework::FieldTableIndex;
+
+private:
+    static const Framework::FieldRow s_Rows[];
+};
