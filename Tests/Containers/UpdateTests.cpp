@@ -64,10 +64,10 @@ TEST(Update, WritesOneChangedValueAndNothingElse) {
     ForEveryClass([](CatalogClass type) {
         for (unsigned seed = 1; seed <= 4; ++seed) {
             const std::string xml = MakeDocument(type, seed);
-            Loaded loaded(type, xml);
-            const std::vector<Value> values = ValuesOf(*loaded.object);
-            for (std::size_t i = 0; i < values.size(); i += 1 + values.size() / 8) {
-                const Value& value = values[i];
+            const std::size_t count = ValuesOf(*Loaded(type, xml).object).size();
+            for (std::size_t i = 0; i < count; i += 1 + count / 8) {
+                Loaded loaded(type, xml);
+                const Value value = ValuesOf(*loaded.object)[i];
                 const zelString old = value.Get();
                 const zelString set = OtherThan(value.field, old);
                 SCOPED_TRACE(std::string(value.field.Name()) + "=" + set + ", seed " + std::to_string(seed));
@@ -82,6 +82,9 @@ TEST(Update, WritesOneChangedValueAndNothingElse) {
                     ASSERT_TRUE(Samples::Lines(*Loaded(type, changed).object) == expected) << changed;
                     const std::unique_ptr<TypedDataContainer> clone(loaded.object->Clone());
                     ASSERT_TRUE(Samples::Lines(*clone) == expected) << changed;
+                }
+                if (value.field.GetValue() == CatalogField::Enumeration && old.empty()) {
+                    continue; // no word is none that could be set again
                 }
                 ASSERT_TRUE(value.Set(old));
                 ASSERT_TRUE(loaded.object->UpdateContainedData());
@@ -152,6 +155,10 @@ struct Case {
     std::vector<std::pair<std::string, std::string>> changes;
     std::string after;
 };
+
+void PrintTo(const Case& each, std::ostream* out) {
+    *out << each.what;
+}
 
 class UpdateCase : public testing::TestWithParam<Case> {};
 
