@@ -13,7 +13,7 @@ constinit const Framework::FieldRow OptionsConfigDefType::s_Rows[] = {
     Framework::Element("LongDescription", &OptionsConfigDefType::m_LongDescription),
     Framework::Element("ShortDescription", &OptionsConfigDefType::m_ShortDescription),
     Framework::Element("DefaultValue", &OptionsConfigDefType::m_DefaultValue),
-    Framework::Element("XMLDefaultValue", &OptionsConfigDefType::m_XMLDefaultValue),
+    Framework::CDataElement("XMLDefaultValue", &OptionsConfigDefType::m_XMLDefaultValue),
     Framework::Element("AllowReload", &OptionsConfigDefType::m_AllowReload),
     Framework::Element("AllowRelease", &OptionsConfigDefType::m_AllowRelease),
     Framework::Element("AllowSessionManagement", &OptionsConfigDefType::m_AllowSessionManagement),
