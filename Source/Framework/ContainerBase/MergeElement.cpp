@@ -49,6 +49,7 @@ public:
     }
 
     bool MergeInto(TypedDataContainer& entry) {
+        entry.SetContainerName(m_node.name); // a caller may have handed it over under its class's own name
         return entry.MergeFromDataPacket(ContainerAccess::Lookup(m_node.parent), m_node.feature, &m_node.wrapper, true);
     }
 
