@@ -7,7 +7,6 @@
 
 #include <xercesc/dom/DOM.hpp>
 
-#include "Framework/FrameworkDataContainers/Walks/Walks.h"
 #include "Framework/XMLSupport/FaultPoint.h"
 #include "FrameworkDataContainers/FrameworkDataContainers.h"
 
@@ -272,34 +271,6 @@ TEST(DumpByQuery, WhatFailsIsNamedAndTheRestIsWritten) {
         EXPECT_NE(object.GetLastError().find("no output document"), std::string::npos) << object.GetLastError();
         EXPECT_FALSE(object.DumpMergeContentsII(nullptr, nowhere, passed, false));
         EXPECT_NE(object.GetLastError().find("no output document"), std::string::npos) << object.GetLastError();
-    }
-}
-
-/// A class of one CDATA element, which no document has yet.
-class Noted : public TypedDataContainer {
-public:
-    Noted() : TypedDataContainer(false) { SetContainerName("Noted"); }
-    zelString m_Note;
-};
-
-TEST(DumpByQuery, CDataElementsAreWrittenAsCData) {
-    const Framework::FieldRow rows[] = {Framework::CDataElement("Note", &Noted::m_Note)};
-    Framework::FieldTable table{};
-    table.rows = rows;
-    for (const char* const text : {"a <b> & ]]> c", "", "\xC3\xA9"}) {
-        Noted object;
-        object.m_Note = text;
-        FullFunctionXMLDataWrapper output;
-        ASSERT_TRUE(output.CreateOutputDocument("Noted"));
-        DOMNode* passed = nullptr;
-        EXPECT_TRUE(Framework::DumpByQuery(object, table, "", &output, -1, false));
-        EXPECT_TRUE(Framework::DumpByNode(object, table, nullptr, &output, passed, false));
-        XMLDataWrapper read;
-        ASSERT_TRUE(read.LoadXMLText(output.GetXMLText(), false)) << output.GetXMLText();
-        EXPECT_EQ(read.GetNodeCData(read.GetXalanNode("Note[1]", false)), text);
-        EXPECT_EQ(read.GetNodeCData(read.GetXalanNode("Note[2]", false)), text);
-        const std::string all = output.GetXMLText();
-        EXPECT_EQ(all.find("<![CDATA[") == std::string::npos, *text == 0) << all;
     }
 }
 

@@ -50,3 +50,45 @@ inline bool MergeText(TypedDataContainer& object, const std::string& feature, co
     EXPECT_TRUE(wrapper.LoadXMLText(xml, false)) << wrapper.GetLastError();
     return object.MergeFromDataPacket(nullptr, feature, &wrapper, false);
 }
+
+/// A text of the library's own writing without declaration and indentation.
+inline std::string Compact(XMLDataWrapper& output) {
+    const std::string text = output.GetXMLText();
+    std::string compact;
+    for (std::size_t at = text.find('\n') + 1; at < text.size(); ++at) {
+        if (text[at] == '\n') {
+            at = text.find_first_not_of(" \n", at) - 1;
+        } else {
+            compact += text[at];
+        }
+    }
+    return compact;
+}
+
+/// What the dump by node writes below nothing.
+inline std::string DumpedByNode(TypedDataContainer& object) {
+    const std::unique_ptr<XMLDataWrapper> output(object.BuildAndReturnDataContent());
+    EXPECT_NE(output, nullptr) << object.GetLastError();
+    return output == nullptr ? std::string() : Compact(*output);
+}
+
+/// What the dump by query makes of a document.
+inline std::string DumpedByQuery(TypedDataContainer& object, const std::string& into) {
+    FullFunctionXMLDataWrapper output;
+    EXPECT_TRUE(output.LoadXMLText(into, false)) << output.GetLastError();
+    EXPECT_NE(output.GetOutputDocument(), nullptr);
+    EXPECT_TRUE(object.DumpMergeContents("", &output, -1, false)) << object.GetLastError();
+    return Compact(output);
+}
+
+/// Loads from text and keeps the wrapper, so that what an update writes can be looked at.
+struct Loaded {
+    Loaded(CatalogClass type, const std::string& xml) : object(type.Create(false)) {
+        EXPECT_TRUE(wrapper.LoadXMLText(xml, false)) << wrapper.GetLastError();
+        EXPECT_TRUE(object->LoadFromDataPacket(nullptr, &wrapper, false));
+    }
+    std::string Text() { return wrapper.GetXMLText(); }
+
+    XMLDataWrapper wrapper;
+    std::unique_ptr<TypedDataContainer> object;
+};

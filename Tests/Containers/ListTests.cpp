@@ -58,23 +58,6 @@ TEST(KeyedList, RemoveTakesTheFirstMatchAndAlwaysTheKey) {
     EXPECT_NE(list.GetChildThread("c"), nullptr);
 }
 
-TEST(KeyedList, IntKeysAreFoundByNumberAndStoredByText) {
-    ActionRespType responses(false);
-    ASSERT_TRUE(LoadText(responses, "<ActionResp><PostActionResp Result='01'/><PostActionResp "
-                                    "Result='1'/><PostActionResp Result='2'/></ActionResp>"));
-    ASSERT_EQ(responses.GetPostActionRespLength(), 3);
-    StateActionRespType* const one = responses.GetPostActionResp("1");
-    EXPECT_EQ(one->GetResult(), 1);
-    EXPECT_NE(responses.GetPostActionResp("01"), one);
-    responses.RemovePostActionResp("1", ""); // destroys the first by number, stored under "01"; the one under "1" lives
-    ASSERT_EQ(responses.GetPostActionRespLength(), 2);
-    EXPECT_EQ(responses.GetPostActionResp("01"), nullptr);
-    EXPECT_EQ(responses.GetPostActionResp("1"), one);
-    responses.RemovePostActionResp("002", "");
-    EXPECT_EQ(responses.GetPostActionRespLength(), 1);
-    EXPECT_EQ(responses.GetPostActionResp("2"), nullptr); // no key may lead to what is destroyed
-}
-
 TEST(KeyedList, AddWithoutXmlNeedsBuildFromScratch) {
     for (const bool fromScratch : {false, true}) {
         ThreadChildListType list(fromScratch);
@@ -154,13 +137,8 @@ TEST(Child, SetterTakesOverAndStoringTheSameChangesNothing) {
     EXPECT_EQ(root.GetStateTable(), nullptr);
 }
 
-TEST(DerivedClass, PropertyListLeavesTheParentOut) {
+TEST(DerivedClass, EachClassOfAChainHasItsOwnMark) {
     ActionItemType item(false);
-    ParameterList list;
-    item.GetProperties(list);
-    ASSERT_EQ(list.size(), 1U);
-    EXPECT_EQ(list.ItemData(0)->ElementName, "Index");
-    EXPECT_EQ(item.GetBaseType(), "ActionItemType");
     EXPECT_TRUE(item.AutoFillTypeInfo());
     item.SetAutoFillTypeInfo(true);
     static_cast<StateActionBasicType&>(item).SetAutoFillTypeInfo(false);

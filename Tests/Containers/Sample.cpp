@@ -80,10 +80,11 @@ std::string Absent(const CatalogField& field) {
     return field.LoadText().empty() ? std::string(field.DefaultText()) : std::string(field.LoadText());
 }
 
-std::string WriteText(const std::string& text, Random& random, Noise noise) {
+/// Of a CDATA element nothing may stand outside the section, where it would not be read.
+std::string WriteText(const std::string& text, bool isCData, Random& random, Noise noise) {
     const bool canBeSection = text.find("]]>") == std::string::npos;
     if (noise != Noise::None && canBeSection && Chance(random, 30)) {
-        const std::size_t half = text.find('&') == std::string::npos ? text.size() : text.find('&');
+        const std::size_t half = isCData || text.find('&') == std::string::npos ? text.size() : text.find('&');
         return "<![CDATA[" + text.substr(0, half) + "]]>" + Escaped(text.substr(half));
     }
     return Escaped(text);
@@ -104,7 +105,8 @@ void WriteField(const FieldSample& sample, Random& random, Noise noise, std::vec
     if (sample.child != nullptr) {
         parts.push_back(WriteElement(*sample.child, random, noise));
     } else if (sample.field.IsScalar() && sample.present) {
-        parts.push_back("<" + name + ">" + WriteText(sample.text, random, noise) + "</" + name + ">");
+        parts.push_back("<" + name + ">" + WriteText(sample.text, sample.field.IsCData(), random, noise) + "</" + name +
+                        ">");
     }
 }
 
@@ -123,7 +125,7 @@ void WriteEntries(const FieldSample& sample, Random& random, Noise noise, std::v
             sample.field.KeyAttribute().empty()
                 ? ""
                 : " " + std::string(sample.field.KeyAttribute()) + "=\"" + Escaped(key) + "\"";
-        parts.push_back("<" + name + attribute + ">" + WriteText(entry.text, random, noise) + "</" + name + ">");
+        parts.push_back("<" + name + attribute + ">" + WriteText(entry.text, false, random, noise) + "</" + name + ">");
     }
 }
 

@@ -30,17 +30,6 @@ bool IsWithinOneValue(std::string_view stretch) {
     return text == "/" || text.find('<') == std::string::npos;
 }
 
-struct Loaded {
-    Loaded(CatalogClass type, const std::string& xml) : object(type.Create(false)) {
-        EXPECT_TRUE(wrapper.LoadXMLText(xml, false)) << wrapper.GetLastError();
-        EXPECT_TRUE(object->LoadFromDataPacket(nullptr, &wrapper, false));
-    }
-    std::string Text() { return wrapper.GetXMLText(); }
-
-    XMLDataWrapper wrapper;
-    std::unique_ptr<TypedDataContainer> object;
-};
-
 std::string MakeDocument(CatalogClass type, unsigned seed) {
     Samples::Random random(seed);
     const Samples::Sample sample = Samples::Make(type, std::string(type.ElementName()), random, 1, seed % 3 == 1);
