@@ -124,13 +124,4 @@ TEST(Dump, WhatXmlCannotHoldIsRefusedAndNamedAndTheFileStays) {
     EXPECT_NE(object.GetLastError().find("/nonexistent/folder"), std::string::npos) << object.GetLastError();
 }
 
-TEST(Dump, WordsOutsideAVocabularyAndFreshEnumerationsAreWrittenEmpty) {
-    ChildThreadType object(false);
-    ASSERT_TRUE(LoadText(object, "<ChildThread><ThreadPriority>PRIORITY_SILLY</ThreadPriority></ChildThread>"));
-    EXPECT_EQ(object.GetThreadPriority().Value(), -1);
-    const std::unique_ptr<XMLDataWrapper> content(object.BuildAndReturnDataContent());
-    EXPECT_TRUE(content->NodeExists("ThreadPriority", false));
-    EXPECT_EQ(content->GetStringValue("ThreadPriority", false), "");
-}
-
 } // namespace

@@ -81,6 +81,20 @@ inline std::string DumpedByQuery(TypedDataContainer& object, const std::string& 
     return Compact(output);
 }
 
+/// Names of the elements right below the root of a compact text, in order.
+inline std::vector<std::string> ElementNames(const std::string& compact) {
+    std::vector<std::string> names;
+    int depth = 0;
+    for (std::size_t at = compact.find('<'); at != std::string::npos; at = compact.find('<', at + 1)) {
+        const bool isEnd = compact[at + 1] == '/';
+        if (depth == 1 && !isEnd) {
+            names.push_back(compact.substr(at + 1, compact.find_first_of(" />", at) - at - 1));
+        }
+        depth += isEnd ? -1 : compact[compact.find('>', at) - 1] == '/' ? 0 : 1;
+    }
+    return names;
+}
+
 /// Loads from text and keeps the wrapper, so that what an update writes can be looked at.
 struct Loaded {
     Loaded(CatalogClass type, const std::string& xml) : object(type.Create(false)) {
