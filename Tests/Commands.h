@@ -17,7 +17,7 @@ namespace Framework {
 class TemporaryFolder {
 public:
     TemporaryFolder() {
-        std::string name = testing::TempDir() + "/generator-XXXXXX";
+        std::string name = testing::TempDir() + "/framework-XXXXXX";
         if (::mkdtemp(name.data()) == nullptr) {
             throw std::runtime_error("no temporary folder " + name);
         }
@@ -55,12 +55,6 @@ inline CommandResult RunCommand(const std::string& command) {
     const int status = ::pclose(pipe);
     result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     return result;
-}
-
-inline CommandResult RunGenerator(const std::filesystem::path& schemas, const std::filesystem::path& output,
-                                  const std::string& option = {}) {
-    return RunCommand(Quoted(FRAMEWORK_CONTAINER_GENERATOR) + " " + Quoted(schemas) + " " + Quoted(output) + " " +
-                      option);
 }
 
 inline std::string ReadText(const std::filesystem::path& path) {

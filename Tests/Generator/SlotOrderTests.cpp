@@ -1,4 +1,4 @@
-#include "Generator/Commands.h"
+#include "Generator/RunGenerator.h"
 
 #include <map>
 #include <vector>

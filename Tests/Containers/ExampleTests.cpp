@@ -1,0 +1,158 @@
+#include "Commands.h"
+#include "Containers/EveryClass.h"
+#include "Containers/Values.h"
+
+#include <algorithm>
+#include <map>
+
+#include "Framework/XMLDataWrapper.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using Framework::CommandResult;
+using Framework::Quoted;
+using Framework::ReadText;
+
+/// A document of the examples with its overrides, all by their paths.
+struct Example {
+    fs::path document;
+    std::vector<fs::path> overrides;
+};
+
+/// By root element. Two files are wrong by intent, and say so in their name.
+std::map<std::string, Example> Examples() {
+    std::map<std::string, Example> examples;
+    for (const fs::directory_entry& entry : fs::directory_iterator(FRAMEWORK_EXAMPLES)) {
+        const std::string name = entry.path().stem();
+        const std::size_t dot = name.find('.');
+        const std::string feature = dot == std::string::npos ? "" : name.substr(dot + 1);
+        if (entry.path().extension() != ".xml" || feature == "broken" || feature == "mistakes") {
+            continue;
+        }
+        Example& example = examples[name.substr(0, dot)];
+        if (feature.empty()) {
+            example.document = entry.path();
+        } else {
+            example.overrides.push_back(entry.path());
+        }
+    }
+    return examples;
+}
+
+void ForEveryExample(const std::function<void(CatalogClass, const Example&)>& check) {
+    for (auto& [root, example] : Examples()) {
+        SCOPED_TRACE(root);
+        std::sort(example.overrides.begin(), example.overrides.end());
+        check(ContainerCatalog::FindRoot(root), example);
+    }
+}
+
+/// The schema file that declares the root.
+fs::path SchemaOf(CatalogClass type) {
+    const std::string declaration = "\n  <xs:element name=\"" + std::string(type.ElementName()) + "\" ";
+    for (const fs::directory_entry& entry : fs::directory_iterator(FRAMEWORK_SCHEMA_FOLDER)) {
+        if (ReadText(entry.path()).find(declaration) != std::string::npos) {
+            return entry.path();
+        }
+    }
+    return {};
+}
+
+void ExpectValid(CatalogClass type, const fs::path& document) {
+    const CommandResult result =
+        Framework::RunCommand("xmllint --noout --schema " + Quoted(SchemaOf(type)) + " " + Quoted(document));
+    EXPECT_EQ(result.exitCode, 0) << result.output;
+}
+
+std::unique_ptr<TypedDataContainer> LoadFile(CatalogClass type, const fs::path& path) {
+    std::unique_ptr<TypedDataContainer> object = type.Create(false);
+    EXPECT_TRUE(object->LoadFromFile(nullptr, path.c_str(), false)) << object->GetLastError();
+    return object;
+}
+
+TEST(Examples, EveryRootHasADocumentAndAnOverride) {
+    const std::map<std::string, Example> examples = Examples();
+    const std::vector<std::string_view> roots = ContainerCatalog::Roots();
+    EXPECT_EQ(roots.size(), 26u);
+    EXPECT_EQ(examples.size(), roots.size());
+    for (const std::string_view root : roots) {
+        const auto example = examples.find(std::string(root));
+        ASSERT_NE(example, examples.end()) << root;
+        EXPECT_FALSE(example->second.document.empty()) << root;
+        EXPECT_FALSE(example->second.overrides.empty()) << root;
+    }
+}
+
+/// Other tools read the schema files too, and find nothing wrong in the documents.
+TEST(Examples, AreValidAndLoadWithoutAWord) {
+    ForEveryExample([](CatalogClass type, const Example& example) {
+        ExpectValid(type, example.document);
+        const IssueRecorder log;
+        LoadFile(type, example.document);
+        for (const fs::path& path : example.overrides) {
+            ExpectValid(type, path);
+            LoadFile(type, path);
+        }
+        EXPECT_TRUE(log.issues.empty()) << log.issues.front().ErrorText.c_str();
+    });
+}
+
+TEST(Examples, MergeWithoutAWordAndComeBackFromTheirDump) {
+    const Framework::TemporaryFolder folder;
+    ForEveryExample([&folder](CatalogClass type, const Example& example) {
+        const IssueRecorder log;
+        const std::unique_ptr<TypedDataContainer> object = LoadFile(type, example.document);
+        std::vector<std::string> lines = Samples::Lines(*object);
+        const fs::path dump = folder / "dump.xml";
+        const auto expectDumped = [&] {
+            ASSERT_TRUE(object->SaveContents(dump.c_str())) << object->GetLastError();
+            EXPECT_EQ(Samples::Lines(*LoadFile(type, dump)), lines);
+            ExpectValid(type, dump);
+        };
+        expectDumped();
+        for (const fs::path& path : example.overrides) {
+            SCOPED_TRACE(path.filename());
+            ASSERT_TRUE(object->MergeFromFile(nullptr, path.c_str())) << object->GetLastError();
+            std::vector<std::string> merged = Samples::Lines(*object);
+            EXPECT_NE(merged, lines) << "the override changes nothing";
+            lines = std::move(merged);
+            expectDumped();
+        }
+        EXPECT_TRUE(log.issues.empty()) << log.issues.front().ErrorText.c_str();
+    });
+}
+
+/// Whatever else stands in a file that people keep, comments, blanks and order, stays where it is.
+TEST(Examples, TakeEveryValueAndGiveTheirBytesBack) {
+    ForEveryExample([](CatalogClass type, const Example& example) {
+        const std::string bytes = ReadText(example.document);
+        XMLDataWrapper wrapper;
+        ASSERT_TRUE(wrapper.LoadXMLText(bytes, false)) << wrapper.GetLastError();
+        const std::unique_ptr<TypedDataContainer> object = type.Create(false);
+        ASSERT_TRUE(object->LoadFromDataPacket(nullptr, &wrapper, false)) << object->GetLastError();
+        const std::vector<Value> values = ValuesOf(*object);
+        std::vector<zelString> old;
+        for (const Value& value : values) {
+            old.push_back(value.Get());
+            const bool isUnsetWord = value.field.GetValue() == CatalogField::Enumeration && old.back().empty();
+            if (!isUnsetWord) {
+                ASSERT_TRUE(value.Set(OtherThan(value.field, old.back())));
+            }
+        }
+        ASSERT_TRUE(object->UpdateContainedData()) << wrapper.GetLastError();
+        const std::unique_ptr<TypedDataContainer> again = type.Create(false);
+        const IssueRecorder equalKeys; // whole numbers that are keys have become the same
+        ASSERT_TRUE(LoadText(*again, wrapper.GetXMLText()));
+        if (equalKeys.issues.empty()) {
+            EXPECT_EQ(Samples::Lines(*again), Samples::Lines(*object));
+        }
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            values[i].Set(old[i]);
+        }
+        ASSERT_TRUE(object->UpdateContainedData()) << wrapper.GetLastError();
+        EXPECT_EQ(wrapper.GetXMLText(), bytes);
+    });
+}
+
+} // namespace
