@@ -84,6 +84,11 @@ TEST_F(LanedocMerge, TellsEachKindOfDifference) {
   * StateTable/State[Name=A]  replaced, 4 values -> 2
   2 changed, 1 replaced, 1 removed, 1 moved
 )");
+    const std::string same(40, 'x');
+    Put("long.xml", Table("<State Name='A' BaseState='" + same + "é, then old'/>"));
+    Put("longer.xml", Table("<State Name='A' BaseState='" + same + "é, then new'/>"));
+    EXPECT_TRUE(Holds(Run("merge long.xml longer.xml -o out.xml --summary").errors,
+                      "\"…xxxxxxxé, then old\" -> \"…xxxxxxxé, then new\"\n"));
     EXPECT_EQ(Summary("<State Name='A' Transient='1'><Doc Index='3'>x</Doc></State>", "--depth 2"),
               "  ~ StateTable/State[Name=A]  1 added, 1 changed\n  1 added, 1 changed\n");
 }
@@ -131,6 +136,7 @@ Feature stdin, <stdin>
     Put("out.xml", result.out);
     EXPECT_EQ(Names("out.xml"), "NewACD");
     EXPECT_EQ(Run("merge - one.xml -o - < base.xml").out, Run("merge base.xml one.xml").out);
+    EXPECT_EQ(Run("merge base.xml one.xml -o /dev/null").code, 0);
 }
 
 TEST_F(LanedocMerge, RefusesAllOfItOrKeepsGoing) {

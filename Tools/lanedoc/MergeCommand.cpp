@@ -81,8 +81,16 @@ MergeInput ReadInput(const MergeOptions& options) {
     return input;
 }
 
+/// A device or a pipe, as /dev/null or >(command): it takes the document as standard output would.
+bool IsDevice(const std::string& output) {
+    std::error_code error;
+    const std::filesystem::file_type type = std::filesystem::status(output, error).type();
+    return type == std::filesystem::file_type::character || type == std::filesystem::file_type::fifo;
+}
+
 void Write(TypedDataContainer& tree, const std::string& output) {
-    if (output != "-") {
+    const bool isDevice = output != "-" && IsDevice(output);
+    if (output != "-" && !isDevice) {
         if (!tree.SaveContents(output.c_str())) {
             throw Failure(ExitCode::OutputFailed, WithSeverity(tree.GetLastError(), "error", output));
         }
@@ -95,7 +103,11 @@ void Write(TypedDataContainer& tree, const std::string& output) {
         throw Failure(ExitCode::OutputFailed,
                       "lanedoc: error: the merged document cannot be written: " + Printable(why));
     }
-    WriteOutput(text);
+    if (isDevice) {
+        WriteToDevice(output, text);
+    } else {
+        WriteOutput(text);
+    }
 }
 
 /// Loads the base; what is lost of it on the way is told.

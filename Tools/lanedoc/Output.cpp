@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <system_error>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include "Failure.h"
@@ -37,10 +38,11 @@ int WriteAll(int descriptor, std::string_view data) {
     return 0;
 }
 
-[[noreturn]] void FailOutput(int error) {
-    throw Failure(ExitCode::OutputFailed,
-                  "lanedoc: error: cannot write to standard output: " + std::generic_category().message(error));
+[[noreturn]] void FailOutput(int error, const std::string& what) {
+    throw Failure(ExitCode::OutputFailed, what + ": " + std::generic_category().message(error));
 }
+
+constexpr const char* standardOutputFails = "lanedoc: error: cannot write to standard output";
 
 bool IsContinuation(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
@@ -85,13 +87,27 @@ Style StyleOfErrors(ColorMode mode) {
 
 void WriteOutput(std::string_view data) {
     if (const int error = WriteAll(STDOUT_FILENO, data); error != 0) {
-        FailOutput(error);
+        FailOutput(error, standardOutputFails);
+    }
+}
+
+void WriteToDevice(const std::string& path, std::string_view data) {
+    const int descriptor = ::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
+    if (descriptor < 0) {
+        FailOutput(errno, Printable(path) + ": error: cannot write");
+    }
+    int error = WriteAll(descriptor, data);
+    if (::close(descriptor) != 0 && error == 0 && errno != EINTR) {
+        error = errno;
+    }
+    if (error != 0) {
+        FailOutput(error, Printable(path) + ": error: cannot write");
     }
 }
 
 void CloseOutput() {
     if (::close(STDOUT_FILENO) != 0 && errno != EINTR) {
-        FailOutput(errno);
+        FailOutput(errno, standardOutputFails);
     }
 }
 

@@ -33,6 +33,8 @@ Style StyleOfErrors(ColorMode mode);
 
 /// Writes data to standard output, all of it; throws a Failure when it takes no more.
 void WriteOutput(std::string_view data);
+/// Writes data to something that is there and is no regular file, a device or a pipe; throws a Failure.
+void WriteToDevice(const std::string& path, std::string_view data);
 /// Closes standard output, where a full disk may show only now; throws a Failure.
 void CloseOutput();
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 #include "DocPath.h"
 
@@ -81,6 +82,26 @@ std::vector<Difference> Collapse(const std::vector<Difference>& differences, std
         begin = next;
     }
     return collapsed;
+}
+
+/// Where two texts are shown from, so that one sees what differs: 0 while that is within what is shown anyway.
+std::size_t StartOfShown(std::string_view before, std::string_view after) {
+    constexpr std::size_t ahead = 16;
+    const auto same = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
+    std::size_t start = static_cast<std::size_t>(same.first - before.begin());
+    if (Width(before.substr(0, start)) + ahead <= shownOfValue) {
+        return 0;
+    }
+    start -= std::min(start, ahead);
+    while (start > 0 && (static_cast<unsigned char>(before[start]) & 0xC0U) == 0x80U) {
+        --start; // within a character
+    }
+    return start;
+}
+
+std::string Shown(std::string_view text, std::size_t from) {
+    const std::string shown = Quoted(text.substr(from), shownOfValue);
+    return from == 0 ? shown : "\"…" + shown.substr(1);
 }
 
 class SummaryPrinter {
@@ -166,15 +187,18 @@ private:
     }
 
     std::string Change(const Difference& difference) const {
-        return difference.isText ? m_style.Dim(Before(difference)) + " -> " + Quoted(difference.after, shownOfValue)
-                                 : difference.after;
+        if (!difference.isText) {
+            return difference.after;
+        }
+        const std::size_t from = StartOfShown(difference.before, difference.after);
+        return m_style.Dim(Before(difference, from)) + " -> " + Shown(difference.after, from);
     }
 
-    static std::string Before(const Difference& difference) {
+    static std::string Before(const Difference& difference, std::size_t from) {
         if (!difference.beforeIsDefault) {
-            return Quoted(difference.before, shownOfValue);
+            return Shown(difference.before, from);
         }
-        return difference.before.empty() ? "(not set)" : Quoted(difference.before, shownOfValue) + " (default)";
+        return difference.before.empty() ? "(not set)" : Shown(difference.before, from) + " (default)";
     }
 
     const Style& m_style;
