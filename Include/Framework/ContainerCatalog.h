@@ -12,6 +12,7 @@
 namespace Framework {
 struct FieldRow;
 struct FieldTable;
+struct VocabularyTable;
 } // namespace Framework
 
 /// A field of a class, and access to it in any object of that class. A value of a few words, copied freely; the texts
@@ -71,6 +72,9 @@ public:
     zelString EntryKey(TypedDataContainer& object, std::size_t position) const;
     /// Whether the XML that the object was loaded from holds the field: false for a value that is only a default.
     bool StandsInDocument(TypedDataContainer& object) const;
+    /// What the XML that the object was loaded from holds for the field, as it stands there, also where the value could
+    /// not take it: of a scalar one text or none, of a list of strings or enumerations one for each entry.
+    std::vector<zelString> DocumentTexts(TypedDataContainer& object) const;
 
 private:
     const Framework::FieldRow* m_pRow;
@@ -86,6 +90,8 @@ public:
     std::string_view Name() const;
     /// Element name that the constructor gives an object.
     std::string_view ElementName() const;
+    /// Its element is the root of a document or packet.
+    bool IsRoot() const;
     /// The generated class that it derives from, if any.
     CatalogClass Parent() const;
     /// Derives from StructuralConfigLoader.
@@ -101,10 +107,30 @@ private:
     const Framework::FieldTable* m_pTable;
 };
 
-/// All container classes, by name and by root element. Any thread may ask.
+/// An enumeration class, with the words of its vocabulary. A value of one word; see CatalogField.
+class FRAMEWORK_API CatalogEnumeration {
+public:
+    struct Word {
+        zelString text;
+        int number; ///< that it has in memory
+    };
+
+    explicit CatalogEnumeration(const Framework::VocabularyTable* table = nullptr) : m_pTable(table) {}
+
+    /// False for the answer to a question for a class that does not exist.
+    explicit operator bool() const { return m_pTable != nullptr; }
+    std::string_view Name() const;
+    /// The words, in order.
+    std::vector<Word> Words() const;
+
+private:
+    const Framework::VocabularyTable* m_pTable;
+};
+
+/// All container and enumeration classes, by name and by root element. Any thread may ask.
 class FRAMEWORK_API ContainerCatalog {
 public:
-    /// All classes, by name.
+    /// All container classes, by name.
     static std::vector<CatalogClass> Classes();
     /// The class of that name.
     static CatalogClass FindClass(std::string_view className);
@@ -116,4 +142,8 @@ public:
     static std::optional<CatalogField> FindField(CatalogClass container, std::string_view name);
     /// Root elements of all documents and packets, by name.
     static std::vector<std::string_view> Roots();
+    /// All enumeration classes, by name.
+    static std::vector<CatalogEnumeration> Enumerations();
+    /// The enumeration class of that name.
+    static CatalogEnumeration FindEnumeration(std::string_view className);
 };

@@ -59,6 +59,7 @@ constexpr auto kKeywords = std::to_array<std::string_view>({
 
 constexpr auto kReservedClassNames = std::to_array<std::string_view>({
     "CatalogClass",
+    "CatalogEnumeration",
     "CatalogField",
     "ContainerCatalog",
     "DOMDocument",

@@ -33,12 +33,13 @@ std::string WriteIndexHeader() {
     code.Line("namespace Framework {");
     code.Line();
     code.Line("struct FieldTable;");
+    code.Line("struct VocabularyTable;");
     code.Line();
-    code.Line("/// The field tables of all classes. For the library's own use.");
+    code.Line("/// The tables of all classes. For the library's own use; both sorted by class name, byte by byte.");
     code.Line("struct FieldTableIndex {");
     code.Indent();
-    code.Line("/// Sorted by class name, byte by byte.");
     code.Line("static std::span<const FieldTable* const> Tables();");
+    code.Line("static std::span<const VocabularyTable> Vocabularies();");
     code.Outdent();
     code.Line("};");
     code.Line();
@@ -46,11 +47,36 @@ std::string WriteIndexHeader() {
     return code.Text();
 }
 
+namespace {
+
+void WriteVocabularies(CodeText& code, const Model& model) {
+    code.Line();
+    code.Line("std::span<const VocabularyTable> FieldTableIndex::Vocabularies() {");
+    code.Indent();
+    if (model.vocabularies.empty()) {
+        code.Line("return {};");
+    } else {
+        code.Line("static constexpr VocabularyTable tables[] = {");
+        code.Indent();
+        for (const Vocabulary& vocabulary : model.vocabularies) {
+            code.Line("VocabularyOf<" + vocabulary.name + ">(" + Literal(vocabulary.name) + "),");
+        }
+        code.Outdent();
+        code.Line("};");
+        code.Line("return tables;");
+    }
+    code.Outdent();
+    code.Line("}");
+}
+
+} // namespace
+
 std::string WriteIndexSource(const Model& model) {
     CodeText code;
     code.Line(GeneratedMark("the schemas"));
     code.Line("#include \"FrameworkDataContainers/FieldTableIndex.h\"");
     code.Line();
+    code.Line("#include \"Framework/FrameworkDataContainers/Walks/VocabularyTable.h\"");
     code.Line("#include \"FrameworkDataContainers/FrameworkDataContainers.h\"");
     code.Line();
     code.Line("namespace Framework {");
@@ -67,6 +93,7 @@ std::string WriteIndexSource(const Model& model) {
     code.Line("return tables;");
     code.Outdent();
     code.Line("}");
+    WriteVocabularies(code, model);
     code.Line();
     code.Line("} // namespace Framework");
     return code.Text();

@@ -10,6 +10,56 @@
 
 using namespace Framework;
 
+namespace {
+
+/// The elements that an object was filled from: more than one when its element stands more than once.
+struct LoadedFrom {
+    explicit LoadedFrom(TypedDataContainer& object) {
+        const WrapperState* const state = LoadedState(object.GetContainedDataPtr());
+        const NodeRef own = state == nullptr ? NodeRef::None : ContainerAccess::Node(object);
+        if (own != NodeRef::None) {
+            tree = state->Tree();
+            elements = ContainerAccess::EarlierNodes(object);
+            std::erase(elements, NodeRef::None);
+            elements.push_back(own);
+        }
+    }
+
+    const XmlTree* tree = nullptr; ///< null when the object stands on no document
+    std::vector<NodeRef> elements;
+};
+
+std::vector<NodeRef> ElementsOf(const LoadedFrom& from, std::string_view name) {
+    std::vector<NodeRef> nodes;
+    for (const NodeRef element : from.elements) {
+        for (NodeRef child = from.tree->FirstChild(element); child != NodeRef::None;
+             child = from.tree->NextSibling(child)) {
+            if (from.tree->Kind(child) == NodeKind::Element && from.tree->Name(child) == name) {
+                nodes.push_back(child);
+            }
+        }
+    }
+    return nodes;
+}
+
+/// The node that a scalar has its value from. Attributes and load texts are assigned anew by every element.
+NodeRef ScalarNode(const LoadedFrom& from, const FieldRow& row) {
+    if (row.form == FieldForm::Attribute) {
+        return FindAttribute(*from.tree, from.elements.back(), row.name);
+    }
+    if (!row.loadText.empty()) {
+        return LastChildNamed(*from.tree, from.elements.back(), row.name);
+    }
+    for (auto element = from.elements.rbegin(); element != from.elements.rend(); ++element) {
+        if (const NodeRef node = LastChildNamed(*from.tree, *element, row.name); node != NodeRef::None) {
+            return node;
+        }
+    }
+    return NodeRef::None;
+}
+
+} // namespace
+
 std::string_view CatalogField::Name() const {
     return m_pRow->name;
 }
@@ -192,11 +242,24 @@ zelString CatalogField::EntryKey(TypedDataContainer& object, std::size_t positio
 }
 
 bool CatalogField::StandsInDocument(TypedDataContainer& object) const {
-    const WrapperState* const state = LoadedState(object.GetContainedDataPtr());
-    const NodeRef node = state == nullptr ? NodeRef::None : ContainerAccess::Node(object);
-    if (node == NodeRef::None) {
-        return false;
+    const LoadedFrom from(object);
+    return from.tree != nullptr && ScalarNode(from, *m_pRow) != NodeRef::None;
+}
+
+std::vector<zelString> CatalogField::DocumentTexts(TypedDataContainer& object) const {
+    const LoadedFrom from(object);
+    std::vector<NodeRef> nodes;
+    if (from.tree != nullptr && IsList() && m_pRow->value != FieldValue::Container) {
+        nodes = ElementsOf(from, m_pRow->name);
+    } else if (from.tree != nullptr && IsScalar()) {
+        nodes = {ScalarNode(from, *m_pRow)};
     }
-    return (m_pRow->form == FieldForm::Attribute ? FindAttribute(*state->Tree(), node, m_pRow->name)
-                                                 : LastChildNamed(*state->Tree(), node, m_pRow->name)) != NodeRef::None;
+    std::vector<zelString> texts;
+    texts.reserve(nodes.size());
+    for (const NodeRef node : nodes) {
+        if (node != NodeRef::None) {
+            texts.emplace_back(TextOf(*from.tree, node));
+        }
+    }
+    return texts;
 }

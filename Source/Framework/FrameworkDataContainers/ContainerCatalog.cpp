@@ -6,6 +6,7 @@
 
 #include "Framework/ContainerBase/ContainerAccess.h"
 #include "Framework/FrameworkDataContainers/Walks/TableIndex.h"
+#include "Framework/FrameworkDataContainers/Walks/VocabularyTable.h"
 #include "Framework/XMLSupport/TreeReading.h"
 #include "FrameworkDataContainers/FieldTableIndex.h"
 
@@ -32,6 +33,10 @@ std::string_view CatalogClass::ElementName() const {
     return m_pTable->elementName;
 }
 
+bool CatalogClass::IsRoot() const {
+    return m_pTable->isRoot;
+}
+
 CatalogClass CatalogClass::Parent() const {
     return CatalogClass(m_pTable->parent);
 }
@@ -54,6 +59,22 @@ std::vector<CatalogField> CatalogClass::OwnFields() const {
 
 std::unique_ptr<TypedDataContainer> CatalogClass::Create(bool bBuildFromScratch) const {
     return std::unique_ptr<TypedDataContainer>(m_pTable->create(bBuildFromScratch));
+}
+
+std::string_view CatalogEnumeration::Name() const {
+    return m_pTable->className;
+}
+
+std::vector<CatalogEnumeration::Word> CatalogEnumeration::Words() const {
+    std::vector<zelString> texts;
+    m_pTable->words(texts);
+    std::vector<Word> words;
+    words.reserve(texts.size());
+    for (zelString& text : texts) {
+        const int number = m_pTable->number(text.c_str());
+        words.push_back({std::move(text), number});
+    }
+    return words;
 }
 
 std::vector<CatalogClass> ContainerCatalog::Classes() {
@@ -100,4 +121,20 @@ std::vector<std::string_view> ContainerCatalog::Roots() {
     }
     std::sort(roots.begin(), roots.end());
     return roots;
+}
+
+std::vector<CatalogEnumeration> ContainerCatalog::Enumerations() {
+    std::vector<CatalogEnumeration> enumerations;
+    for (const VocabularyTable& table : FieldTableIndex::Vocabularies()) {
+        enumerations.emplace_back(&table);
+    }
+    return enumerations;
+}
+
+CatalogEnumeration ContainerCatalog::FindEnumeration(std::string_view className) {
+    const std::span<const VocabularyTable> tables = FieldTableIndex::Vocabularies();
+    const auto found =
+        std::lower_bound(tables.begin(), tables.end(), className,
+                         [](const VocabularyTable& table, std::string_view name) { return table.className < name; });
+    return CatalogEnumeration(found == tables.end() || found->className != className ? nullptr : &*found);
 }

@@ -1,6 +1,7 @@
 // Generated from the schemas; do not edit. Regenerate with the target "generate".
 #include "FrameworkDataContainers/FieldTableIndex.h"
 
+#include "Framework/FrameworkDataContainers/Walks/VocabularyTable.h"
 #include "FrameworkDataContainers/FrameworkDataContainers.h"
 
 namespace Framework {
@@ -171,6 +172,46 @@ std::span<const FieldTable* const> FieldTableIndex::Tables() {
         &ViewMapType::s_Table,
         &VoiceCurrencyType::s_Table,
         &XMLDataListDefType::s_Table,
+    };
+    return tables;
+}
+
+std::span<const VocabularyTable> FieldTableIndex::Vocabularies() {
+    static constexpr VocabularyTable tables[] = {
+        VocabularyOf<ActionStatusDefinition>("ActionStatusDefinition"),
+        VocabularyOf<AudioPriorityEnum>("AudioPriorityEnum"),
+        VocabularyOf<AvailabilityStateEnum>("AvailabilityStateEnum"),
+        VocabularyOf<CaptureLevelType>("CaptureLevelType"),
+        VocabularyOf<CommModeType>("CommModeType"),
+        VocabularyOf<CouponType>("CouponType"),
+        VocabularyOf<FlowControlType>("FlowControlType"),
+        VocabularyOf<ItemHandlerCorrectionType>("ItemHandlerCorrectionType"),
+        VocabularyOf<ItemLookupEnum>("ItemLookupEnum"),
+        VocabularyOf<ItemProcessingEnum>("ItemProcessingEnum"),
+        VocabularyOf<ItemResultEnum>("ItemResultEnum"),
+        VocabularyOf<ItemTypeDefinitionEnum>("ItemTypeDefinitionEnum"),
+        VocabularyOf<ItemValidationStatusType>("ItemValidationStatusType"),
+        VocabularyOf<LaneManagerActionsEnums>("LaneManagerActionsEnums"),
+        VocabularyOf<LaneTypeEnum>("LaneTypeEnum"),
+        VocabularyOf<LinkTypeEnum>("LinkTypeEnum"),
+        VocabularyOf<LogIdTypeDefintion>("LogIdTypeDefintion"),
+        VocabularyOf<LogInformationTypeDefintion>("LogInformationTypeDefintion"),
+        VocabularyOf<MultiBreakDefinition>("MultiBreakDefinition"),
+        VocabularyOf<OverrideModeDefinition>("OverrideModeDefinition"),
+        VocabularyOf<ParityType>("ParityType"),
+        VocabularyOf<PersistenceModelEnum>("PersistenceModelEnum"),
+        VocabularyOf<ScanDataTypeEnum>("ScanDataTypeEnum"),
+        VocabularyOf<SecurityModeEnum>("SecurityModeEnum"),
+        VocabularyOf<SpecialHandlingEnum>("SpecialHandlingEnum"),
+        VocabularyOf<StopBitsType>("StopBitsType"),
+        VocabularyOf<SysmgmtLogEventSeverityDefinition>("SysmgmtLogEventSeverityDefinition"),
+        VocabularyOf<SystemEventIdEnum>("SystemEventIdEnum"),
+        VocabularyOf<SystemsManagementPacketTypeEnum>("SystemsManagementPacketTypeEnum"),
+        VocabularyOf<TenderResultEnum>("TenderResultEnum"),
+        VocabularyOf<TenderTypeDefinition>("TenderTypeDefinition"),
+        VocabularyOf<ThreadPriorityType>("ThreadPriorityType"),
+        VocabularyOf<TransactionResultEnum>("TransactionResultEnum"),
+        VocabularyOf<TransportMethodDefinition>("TransportMethodDefinition"),
     };
     return tables;
 }

@@ -6,11 +6,12 @@
 namespace Framework {
 
 struct FieldTable;
+struct VocabularyTable;
 
-/// The field tables of all classes. For the library's own use.
+/// The tables of all classes. For the library's own use; both sorted by class name, byte by byte.
 struct FieldTableIndex {
-    /// Sorted by class name, byte by byte.
     static std::span<const FieldTable* const> Tables();
+    static std::span<const VocabularyTable> Vocabularies();
 };
 
 } // namespace Framework

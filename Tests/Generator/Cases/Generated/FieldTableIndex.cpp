@@ -1,6 +1,7 @@
 // Generated from the schemas; do not edit. Regenerate with the target "generate".
 #include "FrameworkDataContainers/FieldTableIndex.h"
 
+#include "Framework/FrameworkDataContainers/Walks/VocabularyTable.h"
 #include "FrameworkDataContainers/FrameworkDataContainers.h"
 
 namespace Framework {
@@ -14,6 +15,14 @@ std::span<const FieldTable* const> FieldTableIndex::Tables() {
         &EmptyType::s_Table,
         &ListsType::s_Table,
         &ScalarsType::s_Table,
+    };
+    return tables;
+}
+
+std::span<const VocabularyTable> FieldTableIndex::Vocabularies() {
+    static constexpr VocabularyTable tables[] = {
+        VocabularyOf<ShadeType>("ShadeType"),
+        VocabularyOf<SizeEnum>("SizeEnum"),
     };
     return tables;
 }
