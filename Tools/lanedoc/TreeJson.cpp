@@ -1,77 +1,91 @@
 #include "TreeJson.h"
 
-#include <charconv>
-#include <cmath>
-#include <string_view>
-#include <system_error>
+#include <utility>
+#include <vector>
 
-#include <nlohmann/json.hpp>
+#include "JsonValue.h"
 
 namespace Lanedoc {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
+// No field can be called like these: fields are C++ identifiers.
+constexpr const char* classKey = "$class";
+constexpr const char* defaultsKey = "$defaults";
+constexpr const char* unknownKey = "$unknown";
 
-constexpr int formatVersion = 1;
+Json ContainerAsJson(TypedDataContainer& object, bool defaults);
 
-template <typename Number> Json NumberOrText(const std::string& text) {
-    Number number{};
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    const bool whole = error == std::errc() && end == text.data() + text.size();
-    return whole && std::isfinite(static_cast<double>(number)) ? Json(number) : Json(text);
+/// A text that the document holds where the tree has no word for it must not pass for an unset value.
+Json WordAsJson(const CatalogField& field, const std::string& word, const zelString& written) {
+    Json value = ValueAsJson(field, word);
+    return value.is_null() && !written.empty() ? Json{{unknownKey, std::string(written)}} : value;
 }
 
 Json ScalarAsJson(const CatalogField& field, TypedDataContainer& object) {
     const std::string text = field.GetText(object);
-    switch (field.GetValue()) {
-    case CatalogField::Bool:
-        return text == "true";
-    case CatalogField::Int:
-        return NumberOrText<int>(text);
-    case CatalogField::Double:
-        return NumberOrText<double>(text);
-    default:
-        return text;
+    if (field.GetValue() != CatalogField::Enumeration || !text.empty()) {
+        return ValueAsJson(field, text);
     }
+    const std::vector<zelString> written = field.DocumentTexts(object);
+    return WordAsJson(field, text, written.empty() ? zelString() : written.front());
 }
 
-Json ContainerAsJson(TypedDataContainer& object, bool defaults);
-
-Json ListAsJson(const CatalogField& list, TypedDataContainer& object, bool defaults) {
+Json TextsAsJson(const CatalogField& list, TypedDataContainer& object) {
+    const bool words = list.GetValue() == CatalogField::Enumeration;
+    const std::vector<zelString> written = words ? list.DocumentTexts(object) : std::vector<zelString>();
     Json entries = Json::array();
     for (std::size_t i = 0; i < list.Length(object); ++i) {
-        if (HoldsContainers(list)) {
-            TypedDataContainer* const entry = list.Entry(object, i);
-            entries.push_back(entry == nullptr ? Json() : ContainerAsJson(*entry, defaults));
-            continue;
-        }
-        Json text = std::string(list.EntryText(object, i));
+        Json value = WordAsJson(list, list.EntryText(object, i), i < written.size() ? written[i] : zelString());
         if (list.GetForm() == CatalogField::KeyedList) {
-            text = Json{{"key", std::string(list.EntryKey(object, i))}, {"value", std::move(text)}};
+            value = Json{{"key", std::string(list.EntryKey(object, i))}, {"value", std::move(value)}};
         }
-        entries.push_back(std::move(text));
+        entries.push_back(std::move(value));
+    }
+    return entries;
+}
+
+Json ListAsJson(const CatalogField& list, TypedDataContainer& object, bool defaults) {
+    if (!HoldsContainers(list)) {
+        return TextsAsJson(list, object);
+    }
+    Json entries = Json::array();
+    for (std::size_t i = 0; i < list.Length(object); ++i) {
+        TypedDataContainer* const entry = list.Entry(object, i);
+        entries.push_back(entry == nullptr ? Json() : ContainerAsJson(*entry, defaults));
     }
     return entries;
 }
 
 Json ContainerAsJson(TypedDataContainer& object, bool defaults) {
-    Json fields = Json::object();
-    for (const CatalogField& field : ContainerCatalog::ClassOf(object).Fields()) {
+    const CatalogClass container = ContainerCatalog::ClassOf(object);
+    Json onlyDefaults = Json::array();
+    Json values = Json::object();
+    for (const CatalogField& field : container.Fields()) {
         const std::string name(field.Name());
         if (field.IsScalar()) {
-            if (defaults || field.StandsInDocument(object)) {
-                fields[name] = ScalarAsJson(field, object);
+            const bool isDefault = !field.StandsInDocument(object);
+            if (isDefault && !defaults) {
+                continue;
+            }
+            values[name] = ScalarAsJson(field, object);
+            if (isDefault) {
+                onlyDefaults.push_back(name);
             }
         } else if (field.IsList()) {
             if (defaults || field.Length(object) > 0) {
-                fields[name] = ListAsJson(field, object, defaults);
+                values[name] = ListAsJson(field, object, defaults);
             }
         } else if (TypedDataContainer* const child = field.GetChild(object)) {
-            fields[name] = ContainerAsJson(*child, defaults);
+            values[name] = ContainerAsJson(*child, defaults);
         }
     }
-    return fields;
+    Json json = {{classKey, std::string(container.Name())}};
+    if (!onlyDefaults.empty()) {
+        json[defaultsKey] = std::move(onlyDefaults);
+    }
+    json.update(std::move(values));
+    return json;
 }
 
 std::string ClassOfNode(const TreeNode& node) {
@@ -81,28 +95,33 @@ std::string ClassOfNode(const TreeNode& node) {
     return std::string(node.field->ClassName());
 }
 
+Json NodeAsJson(const TreeNode& node, bool defaults) {
+    switch (node.kind) {
+    case TreeNode::Kind::Container:
+        return ContainerAsJson(*node.object, defaults);
+    case TreeNode::Kind::List:
+        return ListAsJson(*node.field, *node.object, defaults);
+    case TreeNode::Kind::Scalar:
+        return ScalarAsJson(*node.field, *node.object);
+    case TreeNode::Kind::Text:
+        break;
+    }
+    const Json entry = TextsAsJson(*node.field, *node.object).at(node.position);
+    return node.field->GetForm() == CatalogField::KeyedList ? entry.at("value") : entry;
+}
+
 } // namespace
 
 std::string TreeAsJson(const TreeNode& node, const std::string& rootName, bool defaults) {
-    Json json = {{"format", formatVersion}, {"root", rootName}, {"path", node.path}};
+    Json json = {{"format", jsonFormat}, {"root", rootName}, {"path", node.path}};
     if (const std::string className = ClassOfNode(node); !className.empty()) {
         json["class"] = className;
     }
-    switch (node.kind) {
-    case TreeNode::Kind::Container:
-        json["value"] = ContainerAsJson(*node.object, defaults);
-        break;
-    case TreeNode::Kind::List:
-        json["value"] = ListAsJson(*node.field, *node.object, defaults);
-        break;
-    case TreeNode::Kind::Scalar:
-        json["value"] = ScalarAsJson(*node.field, *node.object);
-        break;
-    case TreeNode::Kind::Text:
-        json["value"] = std::string(node.field->EntryText(*node.object, node.position));
-        break;
+    if (node.kind == TreeNode::Kind::Scalar && !node.field->StandsInDocument(*node.object)) {
+        json["default"] = true;
     }
-    return json.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+    json["value"] = NodeAsJson(node, defaults);
+    return WriteJson(json);
 }
 
 } // namespace Lanedoc
