@@ -20,5 +20,6 @@ void AddMergeCommand(CLI::App& tool, Request& request);
 void AddShowCommand(CLI::App& tool, Request& request);
 void AddGetCommand(CLI::App& tool, Request& request);
 void AddSetCommand(CLI::App& tool, Request& request);
+void AddModelCommand(CLI::App& tool, Request& request);
 
 } // namespace Lanedoc

@@ -41,7 +41,9 @@ void AddShowCommand(CLI::App& tool, Request& request) {
     command->footer(R"(Examples:
   lanedoc show LoadConfig.xml
   lanedoc show StateProcessingRoot.xml 'StateTable/State[Name=Scan]' --no-defaults
-  lanedoc show CommConfig.xml --format json
+  lanedoc show CommConfig.xml --format json | jq '.value.CommEntry[] | {name, set: (keys - ."$defaults")}'
+
+The JSON is described in Docs/JsonFormat.md. It names the values that are only defaults under "$defaults".
 
 Exit codes: 0 shown, 1 there is no such part, 2 wrong use, 3 bad input, 5 output failed)");
     command->callback(
