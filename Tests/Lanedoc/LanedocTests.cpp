@@ -1,7 +1,5 @@
 #include <vector>
 
-#include <nlohmann/json.hpp>
-
 #include "LanedocRuns.h"
 
 namespace {
@@ -155,25 +153,6 @@ TEST_F(Lanedoc, ShowsTheTreeWithPathsThatLeadBack) {
     EXPECT_FALSE(Holds(Run("show base.xml --no-defaults").out, "(default)"));
     EXPECT_TRUE(Holds(Run("--color=always show base.xml").out, "\x1b[1mStateProcessingRoot\x1b[0m"));
     EXPECT_TRUE(Holds(Run("show base.xml --color always").out, "\x1b["));
-}
-
-TEST_F(Lanedoc, ShowsTheTreeAsJson) {
-    const auto whole = nlohmann::json::parse(Run("show base.xml --format json").out);
-    EXPECT_EQ(whole.at("format"), 1);
-    EXPECT_EQ(whole.at("class"), "StateProcessingRootType");
-    const auto& states = whole.at("value").at("StateTable").at("State");
-    ASSERT_EQ(states.size(), 3U);
-    EXPECT_EQ(states[0].at("CacheActions"), true);
-    EXPECT_EQ(states[0].at("Transient"), false);
-    EXPECT_EQ(states[0].at("Doc")[1], (nlohmann::json{{"key", "2"}, {"value", "two & \"2\""}}));
-    EXPECT_EQ(states[1].at("Name"), "a/b]\"c");
-
-    const auto part = nlohmann::json::parse(Run("show base.xml 'StateTable/State[1]' --format json --no-defaults").out);
-    EXPECT_EQ(part.at("path"), "StateTable/State[Name=Idle]");
-    EXPECT_FALSE(part.at("value").contains("Transient"));
-    const auto port =
-        nlohmann::json::parse(Run("show examples/CommConfig.xml 'CommEntry[1]/Parameters/Port' --format json").out);
-    EXPECT_EQ(port.at("value"), 7411);
 }
 
 TEST_F(Lanedoc, MergesIntoAFileAndToStandardOutput) {

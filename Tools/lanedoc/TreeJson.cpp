@@ -81,7 +81,7 @@ Json ContainerAsJson(TypedDataContainer& object, bool defaults) {
         }
     }
     Json json = {{classKey, std::string(container.Name())}};
-    if (!onlyDefaults.empty()) {
+    if (defaults) {
         json[defaultsKey] = std::move(onlyDefaults);
     }
     json.update(std::move(values));
@@ -117,8 +117,8 @@ std::string TreeAsJson(const TreeNode& node, const std::string& rootName, bool d
     if (const std::string className = ClassOfNode(node); !className.empty()) {
         json["class"] = className;
     }
-    if (node.kind == TreeNode::Kind::Scalar && !node.field->StandsInDocument(*node.object)) {
-        json["default"] = true;
+    if (node.kind == TreeNode::Kind::Scalar) {
+        json["isDefault"] = !node.field->StandsInDocument(*node.object);
     }
     json["value"] = NodeAsJson(node, defaults);
     return WriteJson(json);
