@@ -1,4 +1,4 @@
-# Install rules: the library, its headers, lanedoc, the CMake package and the documents.
+# Install rules: the library, its headers, lanedoc, the CMake package, the pkg-config file and the documents.
 
 include(CMakePackageConfigHelpers)
 
@@ -56,6 +56,34 @@ install(
         "${PROJECT_BINARY_DIR}/FrameworkDataContainersConfig.cmake"
         "${PROJECT_BINARY_DIR}/FrameworkDataContainersConfigVersion.cmake"
     DESTINATION "${packageFolder}"
+    COMPONENT Development
+)
+
+# The file finds the prefix from where it stands, so that an installed tree can be moved; not when the folders were given
+# as absolute paths.
+set(pcFolder "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}" OR IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDEDIR}")
+    set(pcPrefix "${CMAKE_INSTALL_PREFIX}")
+    set(pcLibraries "${CMAKE_INSTALL_FULL_LIBDIR}")
+    set(pcHeaders "${CMAKE_INSTALL_FULL_INCLUDEDIR}")
+else()
+    cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}/${pcFolder}" OUTPUT_VARIABLE up)
+    set(pcPrefix "\${pcfiledir}/${up}")
+    set(pcLibraries "\${prefix}/${CMAKE_INSTALL_LIBDIR}")
+    set(pcHeaders "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
+endif()
+# Debian's Xalan-C comes without a pkg-config file; its headers are searched without an option when they stand where the
+# compiler looks anyway.
+set(pcXalanCflags "")
+foreach(folder IN LISTS XalanC_INCLUDE_DIRS)
+    if(NOT folder IN_LIST CMAKE_CXX_IMPLICIT_INCLUDE_DIRECTORIES)
+        string(APPEND pcXalanCflags " -I${folder}")
+    endif()
+endforeach()
+configure_file(cmake/FrameworkDataContainers.pc.in "${PROJECT_BINARY_DIR}/FrameworkDataContainers.pc" @ONLY)
+install(
+    FILES "${PROJECT_BINARY_DIR}/FrameworkDataContainers.pc"
+    DESTINATION "${pcFolder}"
     COMPONENT Development
 )
 

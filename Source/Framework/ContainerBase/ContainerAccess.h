@@ -13,6 +13,7 @@ struct ContainerAccess {
     static bool IsReadOnly(const TypedDataContainer& object) { return object.m_bReadOnly; }
     static void SetReadOnly(TypedDataContainer& object, bool value) { object.m_bReadOnly = value; }
     static bool BuildsFromScratch(const TypedDataContainer& object) { return object.m_bBuildFromScratch; }
+    static void SetBuildsFromScratch(TypedDataContainer& object, bool value) { object.m_bBuildFromScratch = value; }
     static bool IsNested(const TypedDataContainer& object) { return object.m_bNested; }
     static void SetNested(TypedDataContainer& object, bool value) { object.m_bNested = value; }
     static void SetValid(TypedDataContainer& object, bool value) { object.m_bValid = value; }
