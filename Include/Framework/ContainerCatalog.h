@@ -106,7 +106,8 @@ public:
     /// log is told.
     TypedDataContainer* AddEntry(TypedDataContainer& object, const zelString& sKey = {}) const;
     /// The same for a list of strings or enumerations, with the entry's text. Where keys are numbered on load an empty
-    /// key stands for the next number. False also when the text cannot stand in XML or is no word of the vocabulary.
+    /// key stands for the next free number. False also when the text cannot stand in XML or is no word of the
+    /// vocabulary.
     bool AddText(TypedDataContainer& object, const zelString& sText, const zelString& sKey = {}) const;
     /// Takes an entry of any list out of it, with every key that leads to it, and destroys it: pointers to it dangle.
     /// Not by the class's Remove<Name>, which most kinds of lists do not have. Linear in the list. False past the end.

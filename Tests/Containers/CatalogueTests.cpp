@@ -61,7 +61,9 @@ TEST(Catalogue, BuildsWhatALoadGives) {
 }
 
 TEST(Catalogue, TakesAwayWhatWasBuilt) {
-    ForEveryClass([](CatalogClass type) {
+    IssueRecorder recorder;
+    std::size_t refused = 0;
+    ForEveryClass([&refused](CatalogClass type) {
         const Samples::Sample sample = MakeSample(type);
         const auto object = MakeBuilt(sample);
         for (const Samples::FieldSample& part : sample.fields) {
@@ -86,8 +88,14 @@ TEST(Catalogue, TakesAwayWhatWasBuilt) {
                 const bool isText = field.GetValue() == CatalogField::String;
                 EXPECT_FALSE(isText ? field.AddText(*object, "x", second) : field.AddEntry(*object, second) != nullptr);
                 EXPECT_EQ(object->GetLastErrorNum(), -2);
+                ++refused;
                 EXPECT_TRUE(isText ? field.AddText(*object, "x", first) : field.AddEntry(*object, first) != nullptr);
                 EXPECT_EQ(field.Length(*object), 2U);
+            }
+            if (field.HasNumberedKeys()) { // numbers go on behind the taken ones
+                EXPECT_TRUE(field.RemoveEntry(*object, 1));
+                EXPECT_TRUE(field.AddText(*object, "x"));
+                EXPECT_EQ(field.EntryKey(*object, 1), "3");
             }
         }
         for (const CatalogField& field : type.Fields()) {
@@ -98,6 +106,7 @@ TEST(Catalogue, TakesAwayWhatWasBuilt) {
         }
         EXPECT_EQ(Samples::Lines(*object), Samples::Lines(*type.Create(false)));
     });
+    EXPECT_EQ(recorder.issues.size(), refused);
 }
 
 CatalogField FieldOf(TypedDataContainer& object, std::string_view name) {

@@ -59,7 +59,7 @@ FindValues: stranger.xml: no document has the root Stranger
 END
 echo '<LoadConfig>' >broken.xml
 expect 2 find x broken.xml <<'END'
-FindValues: broken.xml:2:1: the document ends inside <LoadConfig>
+FindValues: broken.xml:1:13: the document ends within an element: expected </LoadConfig>, opened at 1:1
 END
 [[ ! -e no.xml ]] || { echo "a refused set wrote a file" >&2; failed=1; }
 

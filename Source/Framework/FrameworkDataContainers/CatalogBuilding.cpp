@@ -60,6 +60,18 @@ template <typename Entry> bool RemovePlain(std::vector<Entry>& entries, std::siz
     return true;
 }
 
+/// The number that a load would give the next entry; where that is taken, because others were removed, the next free
+/// one.
+zelString NextNumber(TypedDataContainer& object, const FieldRow& row) {
+    std::size_t number = (object.*row.member.keyedTexts).size();
+    zelString key;
+    TypedDataContainer::SimpleDataContainer* taken = nullptr;
+    do {
+        key = SupportFunc::GetStrValue(static_cast<long>(++number));
+    } while ((object.*row.map.texts).getValue(key, taken, true));
+    return key;
+}
+
 } // namespace
 
 std::optional<std::size_t> CatalogField::FindEntry(TypedDataContainer& object, const zelString& sKey) const {
@@ -127,8 +139,7 @@ bool CatalogField::AddText(TypedDataContainer& object, const zelString& sText, c
         }
     }
     const std::size_t before = Length(object);
-    const bool isNext = m_pRow->numberedKeys && sKey.empty();
-    m_pRow->list->addText(object, sText, isNext ? SupportFunc::GetStrValue(static_cast<long>(before + 1)) : sKey);
+    m_pRow->list->addText(object, sText, m_pRow->numberedKeys && sKey.empty() ? NextNumber(object, *m_pRow) : sKey);
     return Length(object) > before;
 }
 
