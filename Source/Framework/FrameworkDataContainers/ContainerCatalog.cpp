@@ -137,6 +137,8 @@ CatalogEnumeration ContainerCatalog::FindEnumeration(std::string_view className)
         std::lower_bound(tables.begin(), tables.end(), className,
                          [](const VocabularyTable& table, std::string_view name) { return table.className < name; });
     return CatalogEnumeration(found == tables.end() || found->className != className ? nullptr : &*found);
+}
+
 std::unique_ptr<TypedDataContainer> ContainerCatalog::Create(std::string_view name, bool bBuildFromScratch) {
     const CatalogClass ofRoot = FindRoot(name);
     const CatalogClass found = ofRoot ? ofRoot : FindClass(name);
