@@ -87,4 +87,13 @@ install(
     COMPONENT Development
 )
 
+# For editors and validators, on lanes too.
+install(
+    DIRECTORY Source/Framework/FrameworkDataContainers/Schema/
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/FrameworkDataContainers/schema"
+    COMPONENT Runtime
+    FILES_MATCHING
+    PATTERN "*.xsd"
+)
+
 install(FILES README.md CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT Runtime)
