@@ -93,7 +93,8 @@ public:
     std::vector<zelString> DocumentTexts(TypedDataContainer& object) const;
 
     // Building a tree. What is made here stands on no XML: a dump of the tree (SaveContents, DumpMergeContentsII) has
-    // it, but writing back adds no child and no entry to the loaded document, and takes none out of it.
+    // it, but writing back adds no child and no entry to the loaded document, and takes none out of it; entries of a
+    // plain list of texts are written back by their position.
 
     /// Position of the entry of a keyed list that EntryKey gives that key, the first of several; linear in the list.
     std::optional<std::size_t> FindEntry(TypedDataContainer& object, const zelString& sKey) const;
