@@ -74,7 +74,6 @@ std::unique_ptr<TypedDataContainer> LoadFile(CatalogClass type, const fs::path& 
 TEST(Examples, EveryRootHasADocumentAndAnOverride) {
     const std::map<std::string, Example> examples = Examples();
     const std::vector<std::string_view> roots = ContainerCatalog::Roots();
-    EXPECT_EQ(roots.size(), 26u);
     EXPECT_EQ(examples.size(), roots.size());
     for (const std::string_view root : roots) {
         const auto example = examples.find(std::string(root));
