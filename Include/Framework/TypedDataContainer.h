@@ -41,8 +41,8 @@ struct OverrideIssue {
 /// on with a private wrapper over the same document.
 ///
 /// **Threads.** One thread at a time loads, changes, updates, merges and dumps an object and all that hangs below it.
-/// Different trees may be used from different threads, also when they were loaded from one read-only document. The
-/// static operations may be called from any thread.
+/// Different trees may be used from different threads, also those loaded read only from one read-only document; others
+/// from one wrapper share its current node, and one thread at a time uses them. Static operations: from any thread.
 ///
 /// **Failures.** Operations return false, null or an empty text and leave number and text in GetLastErrorNum and
 /// GetLastError: -1, or -2 for a duplicate key. No exception leaves a load, update, merge or dump. A load or merge
