@@ -355,5 +355,38 @@ TEST(Document, IsReadByManyThreadsAtOnce) {
     }
 }
 
+// The parser is fed in pieces: whatever stands where two of them meet must read as it does alone.
+TEST(DocumentPieces, ReadAsOneDocument) {
+    const std::string part = "<p k='a&amp;b>' l=\"\t\n\">t\r\nu]] &lt;&#13;<!-- <x ]]> --><![CDATA[<y>]] &amp; -->\r]]>"
+                             "<?i <z ?>\xE2\x82\xAC]<q/>\r<q >\r\n</q\n>v&#x20AC;</p>";
+    const std::shared_ptr<const Document> alone = Parse(part);
+    const std::string expected = Dump(*alone, alone->Root(), false);
+    for (std::size_t shift = 0; shift < part.size(); shift += 7) { // so that the pieces end at other places
+        std::string text = "<r>" + std::string(shift, 'x');
+        while (text.size() < 300'000) {
+            text += part;
+        }
+        const std::shared_ptr<const Document> document = Parse(text + "</r>");
+        ASSERT_EQ(document->Bytes(), text + "</r>");
+        auto at = static_cast<std::uint32_t>(3 + shift);
+        for (NodeRef node = document->FirstChild(document->Root()); node != NodeRef::None;
+             node = document->NextSibling(node)) {
+            if (document->Kind(node) == NodeKind::Element) {
+                ASSERT_EQ(Dump(*document, node, false), expected);
+                const std::uint32_t end = at + static_cast<std::uint32_t>(part.size());
+                ASSERT_EQ(Printed(document->Range(node)), Printed({at, end}));
+                at = end;
+            }
+        }
+        ASSERT_EQ(at, text.size());
+        try {
+            Parse(text + "</wrong>");
+            ADD_FAILURE() << "loaded";
+        } catch (const ParseError& error) {
+            ASSERT_NE(error.Message().find("found </wrong>, expected </r>, opened at 1:1"), std::string::npos);
+        }
+    }
+}
+
 } // namespace
 } // namespace Framework

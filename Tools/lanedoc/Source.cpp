@@ -20,7 +20,7 @@ namespace {
 constexpr std::string_view nameOfTexts = "<text>";
 
 zelString ReadStandardInput(const std::string& name) {
-    const std::size_t most = LoadLimits::Default().bytes;
+    const std::size_t most = LoadLimits::Current().bytes;
     std::string text;
     std::string piece(std::size_t{1} << 16U, '\0');
     while (true) {

@@ -160,7 +160,7 @@ const std::vector<NodeRef>& ChildIndex::AllInDocument(std::string_view name) {
     static const Nodes none;
     if (m_inDocument.empty()) {
         const NodeRef root = m_tree->Root();
-        std::unordered_map<std::string_view, Nodes> made;
+        HashedMap<std::string_view, Nodes> made;
         for (NodeRef node = root; node != NodeRef::None; node = NextInOrder(*m_tree, node, root)) {
             if (m_tree->Kind(node) == NodeKind::Element) {
                 made[m_tree->Name(node)].push_back(node);

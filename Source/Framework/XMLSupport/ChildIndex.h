@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Framework/XMLSupport/QueryPath.h"
+#include "Framework/XMLSupport/TextHash.h"
 #include "Framework/XMLSupport/XmlTree.h"
 
 namespace Framework {
@@ -41,12 +42,12 @@ private:
     using Nodes = std::vector<NodeRef>;
     /// By the name and the names of the attributes asked for, then by the values of these attributes.
     struct FirstByValues {
-        std::unordered_map<std::string, NodeRef> nodes;
+        HashedMap<std::string, NodeRef> nodes;
         std::size_t taken = 0; ///< how many of the nodes of that name are in it
     };
-    using ByValues = std::unordered_map<std::string, FirstByValues>;
+    using ByValues = HashedMap<std::string, FirstByValues>;
     struct Parent {
-        std::unordered_map<std::string_view, Nodes> byName;
+        HashedMap<std::string_view, Nodes> byName;
         ByValues byValues;
         NodeRef last = NodeRef::None; ///< the last child that was taken in
     };
@@ -59,7 +60,7 @@ private:
 
     const XmlTree* m_tree;
     std::unordered_map<NodeRef, Parent> m_parents;
-    std::unordered_map<std::string_view, Nodes> m_inDocument;
+    HashedMap<std::string_view, Nodes> m_inDocument;
     ByValues m_inDocumentByValues;
 };
 

@@ -1,5 +1,6 @@
 #include "Framework/XMLSupport/DocumentBuilder.h"
 
+#include "Framework/XMLSupport/LimitMessages.h"
 #include "Framework/XMLSupport/ParserMessages.h"
 
 #include <algorithm>
@@ -11,11 +12,6 @@ namespace {
 constexpr std::uint32_t kSectionOpening = 9; // <![CDATA[
 constexpr std::uint32_t kSectionClosing = 3; // ]]>
 constexpr std::size_t kMostNodesReservedAtFirst = 65536;
-
-std::string LimitPassed(std::string_view what, std::size_t limit, std::string_view member) {
-    return std::string(what) + ", the limit is " + std::to_string(limit) +
-           "; raise LoadLimits::" + std::string(member) + " with LoadLimits::SetDefault";
-}
 
 } // namespace
 
@@ -31,7 +27,8 @@ DocumentBuilder::DocumentBuilder(DocumentData& data, const LoadLimits& limits) :
 void DocumentBuilder::StartElement(std::string_view name, const char* const* attributes, ByteRange tag) {
     FlushRun();
     if (m_depth >= m_limits.depth) {
-        throw ErrorAt(m_data, tag.begin, LimitPassed("elements are nested too deeply", m_limits.depth, "depth"));
+        throw ErrorAt(m_data, tag.begin,
+                      LimitPassed("elements are nested too deeply", std::to_string(m_limits.depth), "depth"));
     }
     const std::uint32_t element = Add(NodeKind::Element, tag);
     NodeRecord& record = m_data.nodes[element];
@@ -59,14 +56,9 @@ void DocumentBuilder::EndElement(std::uint32_t end) {
 void DocumentBuilder::AddAttributes(std::uint32_t element, const char* const* attributes, std::uint32_t at) {
     const std::string& text = m_data.source.text;
     std::uint32_t previous = 0;
-    for (std::size_t count = 1; *attributes != nullptr; attributes += 2, ++count) {
+    for (; *attributes != nullptr; attributes += 2) {
         const std::string_view name = attributes[0];
         const std::uint32_t begin = SkipBlanks(at);
-        if (count > m_limits.attributesPerElement) {
-            throw ErrorAt(
-                m_data, begin,
-                LimitPassed("too many attributes in one tag", m_limits.attributesPerElement, "attributesPerElement"));
-        }
         at = SkipBlanks(begin + static_cast<std::uint32_t>(name.size()));
         const std::uint32_t quote = SkipBlanks(at + 1);
         const auto rawEnd = static_cast<std::uint32_t>(text.find(text[quote], quote + 1));
@@ -164,7 +156,8 @@ void DocumentBuilder::SetValue(NodeRecord& record, std::string_view value, ByteR
 std::uint32_t DocumentBuilder::Add(NodeKind kind, ByteRange range) {
     const std::size_t number = m_data.nodes.size();
     if (number - 2 >= m_limits.nodes) {
-        throw ErrorAt(m_data, range.begin, LimitPassed("the document has too many nodes", m_limits.nodes, "nodes"));
+        throw ErrorAt(m_data, range.begin,
+                      LimitPassed("the document has too many nodes", std::to_string(m_limits.nodes), "nodes"));
     }
     if (number == m_data.nodes.capacity()) {
         MakeRoom(range.begin);
@@ -195,9 +188,16 @@ void DocumentBuilder::AddChild(std::uint32_t number) {
 // is seldom copied and little is reserved in vain. Growing by half at least keeps the whole linear whatever the
 // document does.
 void DocumentBuilder::MakeRoom(std::size_t consumed) {
-    const auto count = static_cast<double>(m_data.nodes.size());
+    const std::size_t count = m_data.nodes.size();
     const double share = static_cast<double>(m_data.source.text.size()) / static_cast<double>(consumed + 1);
-    m_data.nodes.reserve(static_cast<std::size_t>(std::clamp(count * share * 1.02, count * 1.5, count * 8)) + 16);
+    const auto expected = static_cast<std::size_t>(static_cast<double>(count) * std::min(share * 1.02, 8.0));
+    const std::size_t least = count + count / 2 + 16;
+    const std::size_t used = MemoryOf(m_data);
+    const std::size_t most = (m_limits.memory - std::min(used, m_limits.memory)) / sizeof(NodeRecord);
+    if (least > most) {
+        throw ErrorAt(m_data, consumed, MemoryPassed(m_limits));
+    }
+    m_data.nodes.reserve(std::clamp(expected, least, most));
 }
 
 std::uint32_t DocumentBuilder::SkipBlanks(std::uint32_t at) const {

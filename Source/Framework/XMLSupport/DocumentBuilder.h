@@ -9,7 +9,8 @@
 namespace Framework {
 
 /// Puts the tree of a document together from parser events in document order, and refuses it (ParseError) where it
-/// passes the limits. Ranges are those of the events in the source; texts are what the parser made of them.
+/// passes the limits that are its own: depth, nodes, memory of the tree. Ranges are those of the events in the source;
+/// texts are what the parser made of them.
 class DocumentBuilder {
 public:
     DocumentBuilder(DocumentData& data, const LoadLimits& limits);

@@ -28,4 +28,10 @@ struct DocumentData {
     DocumentChanges changes;
 };
 
+/// What a document as it was parsed takes of the heap, in bytes.
+inline std::size_t MemoryOf(const DocumentData& data) {
+    return data.source.text.capacity() + data.source.original.capacity() + data.pool.capacity() + data.names.Memory() +
+           data.nodes.capacity() * sizeof(NodeRecord);
+}
+
 } // namespace Framework

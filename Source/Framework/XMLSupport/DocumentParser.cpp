@@ -1,7 +1,10 @@
 #include "Framework/XMLSupport/DocumentParser.h"
 
 #include "Framework/XMLSupport/DocumentBuilder.h"
+#include "Framework/XMLSupport/LimitMessages.h"
+#include "Framework/XMLSupport/ParserMemory.h"
 #include "Framework/XMLSupport/ParserMessages.h"
+#include "Framework/XMLSupport/TagScanner.h"
 
 #include <expat.h>
 
@@ -24,13 +27,17 @@ double ThreadSeconds() {
 
 /// One run of expat over one document. Exceptions of the handlers wait here until the parser has returned: they must
 /// not cross its frames, and it may call further handlers after it was told to stop.
+///
+/// The parser copies what it is given, so it gets a document in pieces. It would read a token again from its start with
+/// each further piece, so none ends within a token.
 class ParserRun {
 public:
     ParserRun(DocumentData& data, const LoadLimits& limits, double startSeconds)
         : m_data(data), m_limits(limits), m_startSeconds(startSeconds), m_builder(data, limits),
+          m_scanner(data.source.text, limits), m_memory(limits.memory),
           // With the encoding named, a declaration of the encoding that the document once had is not applied to its
           // UTF-8 text.
-          m_parser(::XML_ParserCreate("UTF-8")) {
+          m_parser(::XML_ParserCreate_MM("UTF-8", &ParserMemory::Suite(), nullptr)) {
         if (!m_parser) {
             throw std::bad_alloc();
         }
@@ -46,20 +53,17 @@ public:
     }
 
     void Parse() {
-        const std::string& text = m_data.source.text;
-        const XML_Status status = ::XML_Parse(m_parser.get(), text.data(), static_cast<int>(text.size()), XML_TRUE);
-        if (m_failure) {
-            std::rethrow_exception(m_failure);
+        const std::size_t size = m_data.source.text.size();
+        for (std::size_t at = 0; at < size;) {
+            const std::size_t end = m_scanner.GoTo(at + kPieceBytes);
+            ParsePiece(at, end);
+            if (m_scanner.Forbidden().has_value()) {
+                RefuseTag(*m_scanner.Forbidden());
+            }
+            at = end;
+            CheckTime(at);
+            CheckMemory(at);
         }
-        if (status == XML_STATUS_OK) {
-            return;
-        }
-        const XML_Error code = ::XML_GetErrorCode(m_parser.get());
-        if (code == XML_ERROR_NO_MEMORY) {
-            throw std::bad_alloc();
-        }
-        const XML_Index offset = ::XML_GetCurrentByteIndex(m_parser.get());
-        throw ParserError(m_data, m_builder, code, offset < 0 ? 0 : static_cast<std::size_t>(offset));
     }
 
 private:
@@ -69,7 +73,6 @@ private:
             return;
         }
         try {
-            run.CheckTime();
             work(run);
         } catch (...) {
             run.m_failure = std::current_exception();
@@ -82,17 +85,57 @@ private:
         return {begin, begin + static_cast<std::uint32_t>(::XML_GetCurrentByteCount(m_parser.get()))};
     }
 
-    void CheckTime() {
-        constexpr unsigned eventsPerLook = 4096;
-        if (++m_events % eventsPerLook == 0 && ThreadSeconds() - m_startSeconds > m_limits.cpuSeconds) {
+    void ParsePiece(std::size_t begin, std::size_t end) {
+        const std::string& text = m_data.source.text;
+        const bool isLast = end == text.size() && !m_scanner.Forbidden().has_value();
+        const XML_Status status = ::XML_Parse(m_parser.get(), text.data() + begin, static_cast<int>(end - begin),
+                                              isLast ? XML_TRUE : XML_FALSE);
+        if (m_failure) {
+            std::rethrow_exception(m_failure);
+        }
+        if (status == XML_STATUS_OK) {
+            return;
+        }
+        const XML_Error code = ::XML_GetErrorCode(m_parser.get());
+        const XML_Index offset = ::XML_GetCurrentByteIndex(m_parser.get());
+        const std::size_t place = offset < 0 ? 0 : static_cast<std::size_t>(offset);
+        if (code == XML_ERROR_NO_MEMORY) {
+            if (m_memory.IsExceeded()) {
+                RefuseMemory(place);
+            }
+            throw std::bad_alloc();
+        }
+        throw ParserError(m_data, m_builder, code, place);
+    }
+
+    [[noreturn]] void RefuseTag(const ForbiddenTag& tag) const {
+        if (tag.reason == ForbiddenTag::Reason::TooManyAttributes) {
+            throw ErrorAt(m_data, tag.offset,
+                          LimitPassed("too many attributes in one tag", std::to_string(m_limits.attributesPerElement),
+                                      "attributesPerElement"));
+        }
+        throw ErrorAt(m_data, tag.offset,
+                      LimitPassed("a tag has too many bytes", std::to_string(m_limits.bytesPerTag), "bytesPerTag"));
+    }
+
+    void CheckTime(std::size_t at) const {
+        if (ThreadSeconds() - m_startSeconds > m_limits.cpuSeconds) {
             std::ostringstream limit;
             limit.imbue(std::locale::classic());
-            limit << m_limits.cpuSeconds;
-            throw ErrorAt(m_data, Event().begin,
-                          "parsing takes too much processor time, the limit is " + limit.str() +
-                              " s; raise LoadLimits::cpuSeconds with LoadLimits::SetDefault");
+            limit << m_limits.cpuSeconds << " s";
+            throw ErrorAt(m_data, at, LimitPassed("parsing takes too much processor time", limit.str(), "cpuSeconds"));
         }
     }
+
+    void CheckMemory(std::size_t at) {
+        const std::size_t used = MemoryOf(m_data);
+        if (used > m_limits.memory || m_memory.Used() > m_limits.memory - used) {
+            RefuseMemory(at);
+        }
+        m_memory.SetMost(m_limits.memory - used);
+    }
+
+    [[noreturn]] void RefuseMemory(std::size_t at) const { throw ErrorAt(m_data, at, MemoryPassed(m_limits)); }
 
     static void XMLCALL OnStart(void* user, const char* name, const char** attributes) {
         Handle(user, [&](ParserRun& run) { run.m_builder.StartElement(name, attributes, run.Event()); });
@@ -137,6 +180,8 @@ private:
         });
     }
 
+    static constexpr std::size_t kPieceBytes = std::size_t{64} * 1024;
+
     struct ParserDeleter {
         void operator()(XML_Parser parser) const { ::XML_ParserFree(parser); }
     };
@@ -144,9 +189,10 @@ private:
     DocumentData& m_data;
     const LoadLimits& m_limits;
     double m_startSeconds;
-    unsigned m_events = 0;
     std::exception_ptr m_failure;
     DocumentBuilder m_builder;
+    TagScanner m_scanner;
+    ParserMemory m_memory;
     std::unique_ptr<XML_ParserStruct, ParserDeleter> m_parser;
 };
 
@@ -168,16 +214,20 @@ void CheckText(const DocumentData& data) {
 
 } // namespace
 
+void CheckDocumentSize(std::size_t bytes, const std::string& sourceName, const LoadLimits& limits) {
+    if (bytes > limits.bytes) {
+        throw ParseError(
+            sourceName, {1, 1},
+            LimitPassed("the document has " + std::to_string(bytes) + " bytes", std::to_string(limits.bytes), "bytes"));
+    }
+}
+
 DocumentData ParseDocument(std::string bytes, std::string sourceName, const LoadLimits& limits) {
     const double startSeconds = ThreadSeconds();
-    if (bytes.size() > limits.bytes) {
-        throw ParseError(sourceName, {1, 1},
-                         "the document has " + std::to_string(bytes.size()) + " bytes, the limit is " +
-                             std::to_string(limits.bytes) + "; raise LoadLimits::bytes with LoadLimits::SetDefault");
-    }
+    CheckDocumentSize(bytes.size(), sourceName, limits);
     DocumentData data;
     data.sourceName = std::move(sourceName);
-    data.source = DecodeDocument(std::move(bytes), data.sourceName);
+    data.source = DecodeDocument(std::move(bytes), data.sourceName, limits);
     CheckText(data);
     ParserRun(data, limits, startSeconds).Parse();
     return data;

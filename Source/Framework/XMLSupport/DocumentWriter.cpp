@@ -258,7 +258,7 @@ std::string WriteDocument(const DocumentData& data) {
         return Encode(data, data.source.text);
     }
     std::string bytes = Encode(data, Apply(data.source.text, patches));
-    const std::size_t most = std::min(LoadLimits::Default().bytes, kMostDocumentBytes);
+    const std::size_t most = std::min(LoadLimits::Current().bytes, kMostDocumentBytes);
     if (bytes.size() > most) {
         throw WriteError("cannot write " + data.sourceName + ": it would have " + std::to_string(bytes.size()) +
                          " bytes, more than the " + std::to_string(most) + " that can be loaded again");

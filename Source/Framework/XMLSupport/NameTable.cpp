@@ -1,47 +1,15 @@
 #include "Framework/XMLSupport/NameTable.h"
 
-#include <cstring>
-#include <random>
+#include "Framework/XMLSupport/TextHash.h"
+
 #include <utility>
 
 namespace Framework {
 
 namespace {
 
-struct HashKey {
-    std::uint64_t first;
-    std::uint64_t second;
-};
-
-const HashKey& ProcessKey() {
-    static const HashKey key = [] {
-        std::random_device device;
-        const auto word = [&device] { return (std::uint64_t{device()} << 32U) | device() | 1U; };
-        return HashKey{word(), word()};
-    }();
-    return key;
-}
-
-std::uint64_t Mix(std::uint64_t left, std::uint64_t right) {
-    __extension__ using Wide = unsigned __int128;
-    const Wide product = static_cast<Wide>(left) * right;
-    return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64U);
-}
-
 std::uint32_t HashOf(std::string_view name) {
-    const HashKey& key = ProcessKey();
-    std::uint64_t hash = key.first ^ name.size();
-    while (name.size() >= sizeof(std::uint64_t)) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, name.data(), sizeof word);
-        hash = Mix(hash ^ word, key.second);
-        name.remove_prefix(sizeof word);
-    }
-    if (!name.empty()) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, name.data(), name.size());
-        hash = Mix(hash ^ word, key.second);
-    }
+    const std::uint64_t hash = TextHash()(name);
     return static_cast<std::uint32_t>(hash ^ (hash >> 32U));
 }
 
@@ -73,7 +41,9 @@ std::uint32_t NameTable::Intern(std::string_view name) {
             Grow();
             at = SlotOf(name, hash);
         }
-        m_names.emplace_back(name);
+        const std::string& kept = m_names.emplace_back(name);
+        constexpr std::size_t withoutHeap = 15;
+        m_letters += kept.size() > withoutHeap ? kept.capacity() + 1 : 0;
         m_slots[at] = {static_cast<std::uint32_t>(m_names.size() - 1), hash};
     }
     return m_slots[at].number;

@@ -9,8 +9,7 @@
 namespace Framework {
 
 /// The distinct names of one document, numbered from 1; 0 is the empty name. Names never move, so views of them stay
-/// good as long as the table. The hash is keyed per process, so that no document can be written whose names all
-/// collide.
+/// good as long as the table.
 class NameTable {
 public:
     NameTable();
@@ -20,6 +19,10 @@ public:
     /// The number of the name, 0 when it is not in the table.
     std::uint32_t Find(std::string_view name) const;
     std::string_view Name(std::uint32_t number) const { return m_names[number]; }
+    /// What the table takes of the heap, in bytes.
+    std::size_t Memory() const {
+        return m_letters + m_names.size() * sizeof(std::string) + m_slots.capacity() * sizeof(Slot);
+    }
 
 private:
     std::size_t SlotOf(std::string_view name, std::uint32_t hash) const;
@@ -30,6 +33,7 @@ private:
         std::uint32_t hash = 0;
     };
     std::deque<std::string> m_names;
+    std::size_t m_letters = 0; // of names that have a place of their own on the heap
     std::vector<Slot> m_slots; // a power of two, at most half full
 };
 

@@ -1,6 +1,7 @@
 #include "Framework/XMLSupport/NodeViews.h"
 
 #include "Framework/XMLSupport/NodeFacades.h"
+#include "Framework/XMLSupport/TextHash.h"
 #include "Framework/XMLSupport/TreeReading.h"
 #include "Framework/XMLSupport/Utf.h"
 #include "Framework/XMLSupport/XmlRuntime.h"
@@ -112,7 +113,7 @@ private:
     std::mutex m_mutex; // guards all that follows
     ViewTable m_views;
     std::deque<ViewName> m_names;
-    std::unordered_map<std::string_view, const ViewName*> m_nameIndex;
+    HashedMap<std::string_view, const ViewName*> m_nameIndex;
     std::deque<Text> m_values;
     std::deque<AttributeList> m_attributeLists;
     std::unordered_map<NodeRef, unsigned long> m_indexes;

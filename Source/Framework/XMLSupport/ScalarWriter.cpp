@@ -35,7 +35,7 @@ void CheckText(const XmlTree& tree, NodeRef where, const std::string& below, std
 
 /// What is added must load again under the limits that stand.
 void CheckLimits(const XmlTree& tree, NodeRef parent, bool isAttribute, const std::string& below) {
-    const LoadLimits limits = LoadLimits::Default();
+    const LoadLimits limits = LoadLimits::Current();
     std::size_t count = 0;
     if (isAttribute) {
         for (NodeRef each = tree.FirstAttribute(parent); each != NodeRef::None; each = tree.NextSibling(each)) {

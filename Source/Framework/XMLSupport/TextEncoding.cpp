@@ -1,5 +1,6 @@
 #include "Framework/XMLSupport/TextEncoding.h"
 
+#include "Framework/XMLSupport/LimitMessages.h"
 #include "Framework/XMLSupport/ParseError.h"
 
 #include <iconv.h>
@@ -17,6 +18,8 @@ using namespace std::literals;
 
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 constexpr std::string_view kUtf8 = "UTF-8";
+/// "<?xm" in every code page of EBCDIC.
+constexpr std::string_view kEbcdicDeclaration = "\x4C\x6F\xA7\x94";
 
 struct Signature {
     std::string_view bytes;
@@ -124,7 +127,8 @@ public:
     enum class Outcome { Complete, Invalid, CutOff, TooLarge };
 
     /// Appends the converted bytes to `out`; `consumed` tells how many bytes of `in` are good.
-    Outcome Convert(std::string_view in, std::string& out, std::size_t& consumed) {
+    Outcome Convert(std::string_view in, std::string& out, std::size_t& consumed,
+                    std::size_t most = kMostDocumentBytes) {
         char* from = const_cast<char*>(in.data()); // iconv takes a char** for old times' sake and writes nothing there
         std::size_t left = in.size();
         std::size_t written = out.size();
@@ -138,8 +142,8 @@ public:
             const int error = result == static_cast<std::size_t>(-1) ? errno : 0;
             written = out.size() - room;
             consumed = in.size() - left;
-            if (error == E2BIG && out.size() <= kMostDocumentBytes) {
-                out.resize(out.size() * 2);
+            if (error == E2BIG && out.size() <= most) {
+                out.resize(out.size() + out.size() / 2);
                 continue;
             }
             if (error == 0 && !flushing) {
@@ -147,7 +151,7 @@ public:
                 continue;
             }
             out.resize(written);
-            if (error == E2BIG || written > kMostDocumentBytes) {
+            if (error == E2BIG || written > most) {
                 return Outcome::TooLarge;
             }
             return error == 0 ? Outcome::Complete : error == EINVAL ? Outcome::CutOff : Outcome::Invalid;
@@ -160,16 +164,21 @@ private:
 
 /// Turns what follows the first `skipped` bytes (the byte order mark) into UTF-8.
 std::string ToUtf8(const std::string& bytes, std::size_t skipped, const std::string& encoding,
-                   const std::string& sourceName) {
+                   const std::string& sourceName, const LoadLimits& limits) {
     std::string text;
     std::size_t consumed = 0;
     const std::string_view in = std::string_view(bytes).substr(skipped);
-    const Converter::Outcome outcome = Converter("UTF-8", encoding).Convert(in, text, consumed);
+    const std::size_t memoryLeft = limits.memory - std::min(limits.memory, bytes.size());
+    const Converter::Outcome outcome =
+        Converter("UTF-8", encoding).Convert(in, text, consumed, std::min(memoryLeft, kMostDocumentBytes));
     const std::string offset = std::to_string(skipped + consumed);
     switch (outcome) {
     case Converter::Outcome::Complete:
         return text;
     case Converter::Outcome::TooLarge:
+        if (memoryLeft < kMostDocumentBytes) {
+            throw ParseError(sourceName, {1, 1}, MemoryPassed(limits));
+        }
         throw ParseError(sourceName, {1, 1}, "the document is larger than 1 GiB as UTF-8, the most that can be loaded");
     case Converter::Outcome::CutOff:
         throw ParseError(sourceName, PlaceIn(text, text.size()),
@@ -207,7 +216,7 @@ void CheckDeclared(const DecodedText& source, const std::string& sourceName) {
 }
 
 /// A document without byte order mark whose declaration can be read as ASCII.
-DecodedText DecodeByDeclaration(std::string bytes, const std::string& sourceName) {
+DecodedText DecodeByDeclaration(std::string bytes, const std::string& sourceName, const LoadLimits& limits) {
     const std::string_view declaration = Declaration(bytes);
     const std::string_view declared = DeclaredEncoding(declaration);
     DecodedText source;
@@ -229,10 +238,33 @@ DecodedText DecodeByDeclaration(std::string bytes, const std::string& sourceName
     if (converter.Convert(declaration, asText, consumed) != Converter::Outcome::Complete || asText != declaration) {
         refuse("the declaration says " + source.encoding + ", but is not written in it itself");
     }
-    source.text = ToUtf8(bytes, 0, source.encoding, sourceName);
+    source.text = ToUtf8(bytes, 0, source.encoding, sourceName, limits);
     if (source.text != bytes) {
         source.original = std::move(bytes);
     }
+    return source;
+}
+
+/// A document whose declaration is in EBCDIC. The characters of declarations are the same in all its code pages.
+DecodedText DecodeEbcdic(std::string bytes, const std::string& sourceName, const LoadLimits& limits) {
+    constexpr std::size_t longestDeclaration = 1000;
+    std::string declaration;
+    std::size_t consumed = 0;
+    Converter("UTF-8", "IBM037").Convert(std::string_view(bytes).substr(0, longestDeclaration), declaration, consumed);
+    DecodedText source;
+    source.encoding = DeclaredEncoding(Declaration(declaration));
+    const auto refuse = [&](const std::string& message) { throw ParseError(sourceName, {1, 1}, message); };
+    if (source.encoding.empty()) {
+        refuse("the document begins in EBCDIC, but its declaration names no encoding");
+    }
+    if (!Converter("UTF-8", source.encoding).IsKnown()) {
+        refuse("unknown encoding " + source.encoding + ", expected one that this system can convert");
+    }
+    source.text = ToUtf8(bytes, 0, source.encoding, sourceName, limits);
+    if (DeclaredEncoding(Declaration(source.text)) != source.encoding) {
+        refuse("the declaration says " + source.encoding + ", but is not written in it itself");
+    }
+    source.original = std::move(bytes);
     return source;
 }
 
@@ -244,14 +276,15 @@ std::string HexByte(char byte) {
     return {'0', 'x', digits[value >> 4U], digits[value & 15U]};
 }
 
-DecodedText DecodeDocument(std::string bytes, const std::string& sourceName) {
+DecodedText DecodeDocument(std::string bytes, const std::string& sourceName, const LoadLimits& limits) {
     if (bytes.size() > kMostDocumentBytes) {
         throw ParseError(sourceName, {1, 1}, "the document is larger than 1 GiB, the most that can be loaded");
     }
     const auto* const signature = std::find_if(kSignatures.begin(), kSignatures.end(),
                                                [&](const Signature& each) { return bytes.starts_with(each.bytes); });
     if (signature == kSignatures.end()) {
-        return DecodeByDeclaration(std::move(bytes), sourceName);
+        return bytes.starts_with(kEbcdicDeclaration) ? DecodeEbcdic(std::move(bytes), sourceName, limits)
+                                                     : DecodeByDeclaration(std::move(bytes), sourceName, limits);
     }
     DecodedText source;
     source.encoding = signature->encoding;
@@ -261,7 +294,7 @@ DecodedText DecodeDocument(std::string bytes, const std::string& sourceName) {
         source.text = std::move(bytes);
         source.text.erase(0, skipped);
     } else {
-        source.text = ToUtf8(bytes, skipped, source.encoding, sourceName);
+        source.text = ToUtf8(bytes, skipped, source.encoding, sourceName, limits);
         source.original = std::move(bytes);
     }
     CheckDeclared(source, sourceName);

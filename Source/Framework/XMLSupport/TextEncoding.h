@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Framework/LoadLimits.h"
+
 #include <deque>
 #include <optional>
 #include <string>
@@ -23,9 +25,10 @@ struct DecodedText {
 };
 
 /// Detects the encoding of a document and turns it into UTF-8. A byte order mark decides, else `<` with its zero bytes,
-/// else the declaration, else it is UTF-8. Throws ParseError when these contradict each other or the bytes are not of
-/// that encoding; text that is UTF-8 already is not checked, the parser does that.
-DecodedText DecodeDocument(std::string bytes, const std::string& sourceName);
+/// else the declaration, which may stand in ASCII or in what EBCDIC's code pages have in common, else it is UTF-8.
+/// Throws ParseError when these contradict each other, the bytes are not of that encoding, or it would take more memory
+/// than the limit; text that is UTF-8 already is not checked, the parser does that.
+DecodedText DecodeDocument(std::string bytes, const std::string& sourceName, const LoadLimits& limits);
 
 /// "0xE9": a byte as error texts name it.
 std::string HexByte(char byte);

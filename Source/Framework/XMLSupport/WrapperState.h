@@ -12,6 +12,7 @@
 #include "Framework/XMLSupport/DomBuilder.h"
 #include "Framework/XMLSupport/DomTree.h"
 #include "Framework/XMLSupport/QueryChain.h"
+#include "Framework/XMLSupport/TextHash.h"
 #include "Framework/XMLSupport/TreeEditor.h"
 
 namespace Framework {
@@ -36,7 +37,7 @@ struct WrapperState {
     bool readOnly = false;
     NodeRef current = NodeRef::None;
     QueryChain query;
-    std::unordered_map<std::string, std::vector<NodeRef>> lists;
+    HashedMap<std::string, std::vector<NodeRef>> lists;
     std::weak_ptr<Attachment> attachment;
     /// Documents that were left behind for a copy of their own when they had to be changed while shared: callers may
     /// still hold nodes of them, which have the same numbers in the copy.

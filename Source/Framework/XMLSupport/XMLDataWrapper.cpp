@@ -2,6 +2,7 @@
 
 #include "Framework/XMLSupport/AtomicFile.h"
 #include "Framework/XMLSupport/Attachment.h"
+#include "Framework/XMLSupport/DocumentParser.h"
 #include "Framework/XMLSupport/FaultPoint.h"
 #include "Framework/XMLSupport/NodeViews.h"
 #include "Framework/XMLSupport/WrapperState.h"
@@ -40,14 +41,17 @@ XMLDataWrapper::~XMLDataWrapper() {
 bool XMLDataWrapper::LoadXMLFile(const char* sPath, bool bReadOnly) {
     return Guarded(*m_pState, [&] {
         const std::string path = sPath == nullptr ? "" : sPath;
-        const LoadLimits limits = LoadLimits::Default();
+        const LoadLimits limits = LoadLimits::Current();
         m_pState->Load(Document::Parse(ReadFile(path, limits.bytes), path, limits), bReadOnly);
     });
 }
 
 bool XMLDataWrapper::LoadXMLText(const zelString& sXML, bool bReadOnly) {
     return Guarded(*m_pState, [&] {
-        m_pState->Load(Document::Parse(std::string(sXML), "<text>", LoadLimits::Default()), bReadOnly);
+        const std::string name = "<text>";
+        const LoadLimits limits = LoadLimits::Current();
+        CheckDocumentSize(sXML.size(), name, limits); // before it is copied
+        m_pState->Load(Document::Parse(std::string(sXML), name, limits), bReadOnly);
     });
 }
 

@@ -2,10 +2,10 @@
 
 #include "Framework/XMLSupport/DomTree.h"
 #include "Framework/XMLSupport/NodePath.h"
+#include "Framework/XMLSupport/TextHash.h"
 #include "Framework/XMLSupport/XmlEscapes.h"
 
 #include <algorithm>
-#include <unordered_set>
 #include <vector>
 
 namespace Framework {
@@ -51,7 +51,7 @@ private:
     std::string m_room;
     std::vector<Layout> m_open;
     std::vector<std::string_view> m_attributeNames;
-    std::unordered_set<std::string_view> m_goodNames;
+    HashedSet<std::string_view> m_goodNames;
 };
 
 void Writer::Refuse(NodeRef node, const std::string& what) const {

@@ -6,6 +6,7 @@
 
 #include "Framework/ContainerBase/ContainerAccess.h"
 #include "Framework/FrameworkDataContainers/Walks/FieldTable.h"
+#include "Framework/XMLSupport/TextHash.h"
 
 namespace Framework {
 
@@ -53,7 +54,7 @@ private:
     const std::vector<NodeRef>& m_nodes;
     bool m_isIndexed = false;
     bool m_countsOnly = false; ///< no element carries its number: the n-th has number n
-    std::unordered_map<std::string, NodeRef> m_byKey;
+    HashedMap<std::string, NodeRef> m_byKey;
     std::unordered_set<NodeRef> m_taken;
 };
 
