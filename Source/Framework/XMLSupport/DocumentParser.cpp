@@ -1,5 +1,6 @@
 #include "Framework/XMLSupport/DocumentParser.h"
 
+#include "Framework/SupportFunc.h"
 #include "Framework/XMLSupport/DocumentBuilder.h"
 #include "Framework/XMLSupport/LimitMessages.h"
 #include "Framework/XMLSupport/ParserMemory.h"
@@ -12,7 +13,6 @@
 #include <exception>
 #include <memory>
 #include <new>
-#include <sstream>
 #include <utility>
 
 namespace Framework {
@@ -120,10 +120,8 @@ private:
 
     void CheckTime(std::size_t at) const {
         if (ThreadSeconds() - m_startSeconds > m_limits.cpuSeconds) {
-            std::ostringstream limit;
-            limit.imbue(std::locale::classic());
-            limit << m_limits.cpuSeconds << " s";
-            throw ErrorAt(m_data, at, LimitPassed("parsing takes too much processor time", limit.str(), "cpuSeconds"));
+            const std::string limit = SupportFunc::GetStrValue(m_limits.cpuSeconds) + " s";
+            throw ErrorAt(m_data, at, LimitPassed("parsing takes too much processor time", limit, "cpuSeconds"));
         }
     }
 

@@ -1,0 +1,110 @@
+// Every text that a value can be given comes back equal from what is written, or is refused by the name of its element.
+
+#include "Containers/EveryClass.h"
+#include "Containers/Values.h"
+
+#include <set>
+
+#include "Framework/FrameworkDataContainers/Walks/Scalars.h"
+#include "Framework/FrameworkDataContainers/Walks/TableIndex.h"
+
+namespace {
+
+using namespace std::literals;
+
+const std::string goodTexts[] = {"",
+                                 " \t\r\n x \r\n ",
+                                 "]]>",
+                                 "<a b='c'>&amp;&#13;\"'</a>",
+                                 "\xC2\x85\xE2\x80\xA8\xEF\xBF\xBD",
+                                 "\xF0\x9F\x98\x80\xF4\x8F\xBF\xBF",
+                                 "%s%n{}\\0",
+                                 "\x7F\xC2\x80",
+                                 "\xEF\xBB\xBFmark"};
+
+const std::string badTexts[] = {"a\x01",        "\x1F",
+                                "a\0b"s,        "\xFF",
+                                "\xC3",         "\xC0\x80",
+                                "\xED\xA0\x80", "\xED\xB0\x80x",
+                                "\xEF\xBF\xBE", "\xF5\x80\x80\x80",
+                                "\xE2\x82",     "\xF0\x80\x80\x80"};
+
+bool IsText(const Value& value) {
+    return value.field.GetValue() == CatalogField::String;
+}
+
+/// As a setter of the class does: the catalogue itself refuses such texts.
+void SetPastTheCatalogue(const Value& value, const std::string& text) {
+    for (const auto* table = Framework::TableOf(*value.object); table != nullptr; table = table->parent) {
+        for (const Framework::FieldRow& row : table->rows) {
+            if (row.name == value.field.Name()) {
+                Framework::SetScalar(*value.object, row, zelString(text));
+            }
+        }
+    }
+    ASSERT_EQ(value.Get(), text);
+}
+
+std::string SampleText(CatalogClass type) {
+    Samples::Random random(7);
+    return Samples::ToXml(Samples::Make(type, std::string(type.ElementName()), random), random, false);
+}
+
+TEST(EveryValue, ComesBackFromAnUpdateAndADump) {
+    ForEveryClass([](CatalogClass type) {
+        Loaded loaded(type, SampleText(type));
+        for (std::size_t shift = 0; shift < std::size(goodTexts); ++shift) {
+            std::size_t number = shift;
+            for (const Value& value : ValuesOf(*loaded.object)) {
+                if (IsText(value)) {
+                    const std::string& text = goodTexts[number++ % std::size(goodTexts)];
+                    // Attributes may be keys, which must differ.
+                    const bool mayBeKey = value.field.GetForm() == CatalogField::Attribute;
+                    ASSERT_TRUE(value.Set(text + (mayBeKey ? std::to_string(number) : std::string())));
+                }
+            }
+            ASSERT_TRUE(loaded.object->UpdateContainedData()) << loaded.object->GetLastError();
+            const std::vector<std::string> lines = Samples::Lines(*loaded.object);
+            ASSERT_EQ(Samples::Lines(*Loaded(type, loaded.Text()).object), lines);
+            const std::unique_ptr<XMLDataWrapper> dump(loaded.object->BuildAndReturnDataContent());
+            ASSERT_NE(dump, nullptr) << loaded.object->GetLastError();
+            ASSERT_EQ(Samples::Lines(*Loaded(type, dump->GetXMLText()).object), lines);
+        }
+    });
+}
+
+TEST(EveryValue, ThatXmlCannotHoldIsRefusedByName) {
+    std::set<std::pair<std::string, std::string_view>> seen; // by class and field
+    ForEveryClass([&](CatalogClass type) {
+        const std::string text = SampleText(type);
+        Loaded loaded(type, text);
+        std::size_t number = 0;
+        for (const Value& value : ValuesOf(*loaded.object)) {
+            const std::string owner(ContainerCatalog::ClassOf(*value.object).Name());
+            if (!IsText(value) || value.position || !seen.emplace(owner, value.field.Name()).second) {
+                continue;
+            }
+            const std::string before = loaded.Text();
+            const zelString old = value.Get();
+            const std::string& bad = badTexts[number++ % std::size(badTexts)];
+            const std::string name(value.field.Name());
+            SCOPED_TRACE(name);
+            SetPastTheCatalogue(value, bad);
+            // The result of an update is that of its last write; what was refused, the document says.
+            value.object->UpdateContainedData();
+            const std::string sign = value.field.GetForm() == CatalogField::Attribute ? "/@" : "/";
+            EXPECT_NE(loaded.wrapper.GetLastError().find(sign + name + ": "), std::string::npos)
+                << loaded.wrapper.GetLastError();
+            EXPECT_EQ(loaded.Text(), before);
+            const std::unique_ptr<XMLDataWrapper> dump(loaded.object->BuildAndReturnDataContent());
+            EXPECT_TRUE(dump == nullptr || dump->GetXMLText().empty());
+            const zelString error = dump == nullptr ? loaded.object->GetLastError() : dump->GetLastError();
+            EXPECT_NE(error.find(name), std::string::npos) << error;
+            ASSERT_TRUE(value.Set(old));
+        }
+        EXPECT_TRUE(loaded.object->UpdateContainedData());
+    });
+    EXPECT_GT(seen.size(), 300U);
+}
+
+} // namespace
