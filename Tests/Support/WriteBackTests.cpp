@@ -92,24 +92,36 @@ TEST(WriteBackEncodings, WriteOnlyWhatComesBack) {
     EXPECT_EQ(japanese.GetXMLText(), "<?xml version='1.0' encoding='EUC-JP'?><R><A>&#165;\xA4\xA4</A></R>");
 }
 
-/// Sets other limits for as long as it lives.
-struct LimitScope {
-    explicit LimitScope(const LoadLimits& limits) { LoadLimits::SetDefault(limits); }
-    ~LimitScope() { LoadLimits::SetDefault(LoadLimits()); }
-};
-
 TEST(WriteBackLimits, NothingGrowsBeyondWhatLoads) {
     XMLDataWrapper wrapper;
     ASSERT_TRUE(wrapper.LoadXMLText("<R><A>v</A></R>", false));
     LoadLimits limits;
     limits.bytes = 20;
-    const LimitScope scope(limits);
+    const LoadLimits::Scope scope(limits);
     ASSERT_TRUE(wrapper.SetQueryValue("A", std::string(10, 'w'), false));
     EXPECT_EQ(wrapper.GetXMLText(), "");
     EXPECT_EQ(wrapper.GetLastError(),
               "cannot write <text>: it would have 24 bytes, more than the 20 that can be loaded again");
     ASSERT_TRUE(wrapper.SetQueryValue("A", "w", false));
     EXPECT_EQ(wrapper.GetXMLText(), "<R><A>w</A></R>");
+}
+
+TEST(WriteBackLimits, NoTagGrowsBeyondWhatLoads) {
+    XMLDataWrapper wrapper;
+    ASSERT_TRUE(wrapper.LoadXMLText("<R>\n<A k='v' l='w'/></R>", false));
+    LoadLimits limits;
+    limits.bytesPerTag = 30;
+    const LoadLimits::Scope scope(limits);
+    for (const bool asDom : {false, true}) {
+        ASSERT_TRUE(!asDom || wrapper.GetDOMNode("//A", true) != nullptr);
+        ASSERT_TRUE(wrapper.SetQueryValue("A/@k", std::string(30, 'x'), false));
+        EXPECT_EQ(wrapper.GetXMLText(), "");
+        EXPECT_NE(wrapper.GetLastError().find("the tag of A in line "), std::string::npos);
+        EXPECT_NE(wrapper.GetLastError().find(" would have more than the 30 bytes that can be"), std::string::npos)
+            << wrapper.GetLastError();
+        ASSERT_TRUE(wrapper.SetQueryValue("A/@k", "y", false));
+        EXPECT_NE(wrapper.GetXMLText(), "");
+    }
 }
 
 TEST(WriteBackNames, AreLookedForAsChildThenAsAttribute) {

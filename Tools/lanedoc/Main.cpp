@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "Commands.h"
+#include "LimitOption.h"
 
 namespace Lanedoc {
 
@@ -36,6 +37,7 @@ void Describe(CLI::App& tool, Request& request) {
     tool.add_option("--color", request.color, "auto (default: on a terminal, unless NO_COLOR is set), always or never")
         ->type_name("WHEN")
         ->transform(CLI::CheckedTransformer(modes).description(""));
+    AddLimitOption(tool);
     tool.require_subcommand(1);
     tool.fallthrough();
     AddMergeCommand(tool, request);

@@ -10,6 +10,7 @@
 
 #include "Failure.h"
 #include "Framework/LoadLimits.h"
+#include "LimitOption.h"
 #include "NearestName.h"
 #include "Output.h"
 
@@ -36,8 +37,8 @@ zelString ReadStandardInput(const std::string& name) {
         }
         text.append(piece, 0, static_cast<std::size_t>(length));
         if (text.size() > most) {
-            throw Failure(ExitCode::BadInput,
-                          name + ": error: more than " + std::to_string(most) + " bytes, the most that is read");
+            throw Failure(ExitCode::BadInput, name + ": error: the document has more bytes than the limit of " +
+                                                  std::to_string(most) + "; raise it with --limit bytes=NUMBER");
         }
     }
 }
@@ -45,7 +46,7 @@ zelString ReadStandardInput(const std::string& name) {
 } // namespace
 
 std::string WithSeverity(const std::string& text, const std::string& severity, const std::string& name) {
-    std::string named = text;
+    std::string named = WithLimitOption(text);
     if (named.starts_with(nameOfTexts)) {
         named.replace(0, nameOfTexts.size(), name);
     }

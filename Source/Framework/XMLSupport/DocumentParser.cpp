@@ -39,7 +39,7 @@ public:
           // UTF-8 text.
           m_parser(::XML_ParserCreate_MM("UTF-8", &ParserMemory::Suite(), nullptr)) {
         if (!m_parser) {
-            throw std::bad_alloc();
+            FailForMemory(0);
         }
         XML_Parser parser = m_parser.get();
         ::XML_SetUserData(parser, this);
@@ -100,10 +100,7 @@ private:
         const XML_Index offset = ::XML_GetCurrentByteIndex(m_parser.get());
         const std::size_t place = offset < 0 ? 0 : static_cast<std::size_t>(offset);
         if (code == XML_ERROR_NO_MEMORY) {
-            if (m_memory.IsExceeded()) {
-                RefuseMemory(place);
-            }
-            throw std::bad_alloc();
+            FailForMemory(place);
         }
         throw ParserError(m_data, m_builder, code, place);
     }
@@ -128,12 +125,18 @@ private:
     void CheckMemory(std::size_t at) {
         const std::size_t used = MemoryOf(m_data);
         if (used > m_limits.memory || m_memory.Used() > m_limits.memory - used) {
-            RefuseMemory(at);
+            throw ErrorAt(m_data, at, MemoryPassed(m_limits));
         }
         m_memory.SetMost(m_limits.memory - used);
     }
 
-    [[noreturn]] void RefuseMemory(std::size_t at) const { throw ErrorAt(m_data, at, MemoryPassed(m_limits)); }
+    /// The parser got no memory: from the limit, or from the machine.
+    [[noreturn]] void FailForMemory(std::size_t at) const {
+        if (m_memory.IsExceeded()) {
+            throw ErrorAt(m_data, at, MemoryPassed(m_limits));
+        }
+        throw std::bad_alloc();
+    }
 
     static void XMLCALL OnStart(void* user, const char* name, const char** attributes) {
         Handle(user, [&](ParserRun& run) { run.m_builder.StartElement(name, attributes, run.Event()); });

@@ -1,6 +1,6 @@
 #include "Framework/XMLSupport/DocumentWriter.h"
 
-#include "Framework/LoadLimits.h"
+#include "Framework/XMLSupport/LoadsAgain.h"
 #include "Framework/XMLSupport/XmlEscapes.h"
 #include "Framework/XMLSupport/XmlWriter.h"
 
@@ -257,12 +257,10 @@ std::string WriteDocument(const DocumentData& data) {
     if (patches.empty()) {
         return Encode(data, data.source.text);
     }
-    std::string bytes = Encode(data, Apply(data.source.text, patches));
-    const std::size_t most = std::min(LoadLimits::Current().bytes, kMostDocumentBytes);
-    if (bytes.size() > most) {
-        throw WriteError("cannot write " + data.sourceName + ": it would have " + std::to_string(bytes.size()) +
-                         " bytes, more than the " + std::to_string(most) + " that can be loaded again");
-    }
+    std::string text = Apply(data.source.text, patches);
+    CheckTagsLoadAgain(text, data.sourceName);
+    std::string bytes = Encode(data, std::move(text));
+    CheckSizeLoadsAgain(bytes.size(), data.sourceName);
     return bytes;
 }
 

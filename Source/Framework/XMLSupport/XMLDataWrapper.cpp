@@ -4,6 +4,7 @@
 #include "Framework/XMLSupport/Attachment.h"
 #include "Framework/XMLSupport/DocumentParser.h"
 #include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/LoadsAgain.h"
 #include "Framework/XMLSupport/NodeViews.h"
 #include "Framework/XMLSupport/WrapperState.h"
 #include "Framework/XMLSupport/XmlWriter.h"
@@ -64,7 +65,11 @@ zelString XMLDataWrapper::GetXMLText() {
         }
         if (m_pState->domIsMaster) {
             const DomTree& tree = *m_pState->dom->tree;
-            text = WriteXml(tree, tree.DocumentNode(), {.declaration = true, .indent = m_pState->isOutput});
+            std::string written =
+                WriteXml(tree, tree.DocumentNode(), {.declaration = true, .indent = m_pState->isOutput});
+            CheckTagsLoadAgain(written, "the document");
+            CheckSizeLoadsAgain(written.size(), "the document");
+            text = std::move(written);
         } else {
             text = m_pState->document->Bytes();
         }
