@@ -103,6 +103,7 @@ TEST(DocumentRefusal, RefusesWhatIsNotWellFormedWhereAPersonWouldLook) {
         {"<a>1 < 2</a>", "f:1:7: unexpected ' ' behind '<': expected a name, or &lt;"},
         {"<a k=v/>", "f:1:6: unexpected 'v' within a tag: expected attributes name=\"value\""},
         {"<a k/>", "f:1:5: unexpected '/' within a tag"},
+        {"<a/\r\n>", "f:1:4: unexpected U+000D within a tag"},
         {"<a k='1'j='2'/>", "f:1:9: unexpected 'j' within a tag"},
         {"<a k='1'\n k='2'/>", "f:2:2: the attribute k stands twice"},
         {"<a>]]></a>", "f:1:4: \"]]>\" is not allowed in text: expected ]]&gt;"},

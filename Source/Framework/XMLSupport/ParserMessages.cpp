@@ -56,6 +56,12 @@ std::string ForbiddenCharacter(std::string_view character) {
                                                          : std::string();
 }
 
+/// A character as error texts show it: an error stays one line.
+std::string Quoted(std::string_view character) {
+    const bool isControl = static_cast<unsigned char>(character.front()) < 0x20;
+    return isControl ? "U+00" + HexByte(character.front()).substr(2) : "'" + std::string(character) + "'";
+}
+
 /// The last `opening` before the offset is not followed by a `closing`.
 bool IsWithin(std::string_view text, std::size_t offset, std::string_view opening, std::string_view closing) {
     const std::string_view before = text.substr(0, offset);
@@ -106,7 +112,7 @@ ParseError InvalidToken(const DocumentData& data, const DocumentBuilder& builder
         return shown == "/" && isOutside
                    ? ErrorAt(data, offset - 1, "an end tag without a start tag")
                    : ErrorAt(data, offset,
-                             "unexpected '" + shown + "' behind '<': expected a name, or &lt; for a plain '<'");
+                             "unexpected " + Quoted(shown) + " behind '<': expected a name, or &lt; for a plain '<'");
     }
     if (before.ends_with("<!")) {
         return ErrorAt(data, offset - 2, std::string(kNoMarkup));
@@ -117,11 +123,11 @@ ParseError InvalidToken(const DocumentData& data, const DocumentBuilder& builder
     }
     if (IsWithin(text, offset, "<", ">")) {
         return ErrorAt(data, offset,
-                       "unexpected '" + shown +
-                           "' within a tag: expected attributes name=\"value\" with white space between, and '>'");
+                       "unexpected " + Quoted(shown) +
+                           " within a tag: expected attributes name=\"value\" with white space between, and '>'");
     }
     return ErrorAt(data, offset,
-                   "unexpected '" + shown + "'" + (isOutside ? ": " + std::string(kOutside) : std::string()));
+                   "unexpected " + Quoted(shown) + (isOutside ? ": " + std::string(kOutside) : std::string()));
 }
 
 std::string OpenedAt(const DocumentData& data, std::uint32_t element) {
