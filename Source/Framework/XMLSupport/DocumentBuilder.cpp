@@ -185,19 +185,19 @@ void DocumentBuilder::AddChild(std::uint32_t number) {
 }
 
 // Documents are alike from end to end: what has been read tells how many nodes the rest will need, so that a large one
-// is seldom copied and little is reserved in vain. Growing by half at least keeps the whole linear whatever the
-// document does.
+// is hardly ever copied. Room that stays unused is address space and no memory, but counts for the limit, so half of
+// what is left is kept for the rest. Growing by half at least keeps the whole linear whatever the document does.
 void DocumentBuilder::MakeRoom(std::size_t consumed) {
     const std::size_t count = m_data.nodes.size();
     const double share = static_cast<double>(m_data.source.text.size()) / static_cast<double>(consumed + 1);
-    const auto expected = static_cast<std::size_t>(static_cast<double>(count) * std::min(share * 1.02, 8.0));
+    const auto expected = static_cast<std::size_t>(static_cast<double>(count) * share * 1.02);
     const std::size_t least = count + count / 2 + 16;
     const std::size_t used = MemoryOf(m_data);
     const std::size_t most = (m_limits.memory - std::min(used, m_limits.memory)) / sizeof(NodeRecord);
     if (least > most) {
         throw ErrorAt(m_data, consumed, MemoryPassed(m_limits));
     }
-    m_data.nodes.reserve(std::clamp(expected, least, most));
+    m_data.nodes.reserve(std::clamp(expected, least, std::max(least, most / 2)));
 }
 
 std::uint32_t DocumentBuilder::SkipBlanks(std::uint32_t at) const {
