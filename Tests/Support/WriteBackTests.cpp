@@ -124,6 +124,16 @@ TEST(WriteBackLimits, NoTagGrowsBeyondWhatLoads) {
     }
 }
 
+TEST(WriteBackErrors, NameThePlaceInWhateverOrderTheyCome) {
+    XMLDataWrapper wrapper;
+    ASSERT_TRUE(wrapper.LoadXMLText("<R><L/><M/><L/><M/><L/><N/></R>", false));
+    for (const char* const path : {"L[3]", "L[1]", "M[2]", "L[2]", "L[2]", "L[3]", "N", "M[1]", "M[2]"}) {
+        EXPECT_FALSE(wrapper.SetQueryValue(path, "\x01", false));
+        EXPECT_EQ(wrapper.GetLastError(),
+                  "cannot write R/" + std::string(path) + ": character U+0001 is not allowed in XML");
+    }
+}
+
 TEST(WriteBackNames, AreLookedForAsChildThenAsAttribute) {
     XMLDataWrapper wrapper;
     ASSERT_TRUE(wrapper.LoadXMLText("<R k='1'><k>2</k><L i='1'/><L i='2'/></R>", false));

@@ -24,15 +24,33 @@ std::string Printable(std::string_view name) {
     return text;
 }
 
-std::string StepOf(const XmlTree& tree, NodeRef element) {
+std::size_t NamesakesBefore(const XmlTree& tree, NodeRef element, CountedPositions* counted) {
+    const std::string_view name = tree.Name(element);
+    CountedPositions::Counted last{NodeRef::None, 0};
+    if (counted != nullptr) {
+        last = counted->byParent.try_emplace(tree.Parent(element), last).first->second;
+    }
+    const bool canStop = last.element != NodeRef::None && tree.Name(last.element) == name;
+    std::size_t before = 0;
+    for (NodeRef node = element; node != NodeRef::None; node = tree.PreviousSibling(node)) {
+        if (canStop && node == last.element) {
+            before += last.before + (node == element ? 0 : 1);
+            break;
+        }
+        before += node != element && tree.Kind(node) == NodeKind::Element && tree.Name(node) == name ? 1 : 0;
+    }
+    if (counted != nullptr) {
+        counted->byParent[tree.Parent(element)] = {element, before};
+    }
+    return before;
+}
+
+std::string StepOf(const XmlTree& tree, NodeRef element, CountedPositions* counted) {
     const std::string_view name = tree.Name(element);
     const auto isNamesake = [&](NodeRef node) {
         return tree.Kind(node) == NodeKind::Element && tree.Name(node) == name;
     };
-    std::size_t before = 0;
-    for (NodeRef node = tree.PreviousSibling(element); node != NodeRef::None; node = tree.PreviousSibling(node)) {
-        before += isNamesake(node) ? 1 : 0;
-    }
+    const std::size_t before = NamesakesBefore(tree, element, counted);
     bool alone = before == 0;
     for (NodeRef node = tree.NextSibling(element); alone && node != NodeRef::None; node = tree.NextSibling(node)) {
         alone = !isNamesake(node);
@@ -42,7 +60,7 @@ std::string StepOf(const XmlTree& tree, NodeRef element) {
 
 } // namespace
 
-std::string NodePath(const XmlTree& tree, NodeRef node) {
+std::string NodePath(const XmlTree& tree, NodeRef node, CountedPositions* counted) {
     std::string path;
     if (tree.Kind(node) == NodeKind::Attribute) {
         path = "@" + Printable(tree.Name(node));
@@ -53,7 +71,7 @@ std::string NodePath(const XmlTree& tree, NodeRef node) {
             continue;
         }
         const bool tooDeep = ++steps > kMostSteps;
-        path = (tooDeep ? "..." : StepOf(tree, node)) + (path.empty() ? "" : "/") + path;
+        path = (tooDeep ? "..." : StepOf(tree, node, counted)) + (path.empty() ? "" : "/") + path;
         if (tooDeep) {
             break;
         }

@@ -3,7 +3,6 @@
 #include "Framework/LoadLimits.h"
 #include "Framework/SupportFunc.h"
 #include "Framework/XMLSupport/FaultPoint.h"
-#include "Framework/XMLSupport/NodePath.h"
 #include "Framework/XMLSupport/TreeReading.h"
 #include "Framework/XMLSupport/WrapperState.h"
 #include "Framework/XMLSupport/XmlEscapes.h"
@@ -27,14 +26,15 @@ zelString Canonical(ValueKind kind, std::string_view text) {
     return given;
 }
 
-void CheckText(const XmlTree& tree, NodeRef where, const std::string& below, std::string_view text) {
+void CheckText(WrapperState& wrapper, NodeRef where, const std::string& below, std::string_view text) {
     if (const std::string forbidden = DescribeForbidden(text); !forbidden.empty()) {
-        throw EditError("cannot write " + NodePath(tree, where) + below + ": " + forbidden + " is not allowed in XML");
+        throw EditError("cannot write " + wrapper.PathOf(where) + below + ": " + forbidden + " is not allowed in XML");
     }
 }
 
 /// What is added must load again under the limits that stand.
-void CheckLimits(const XmlTree& tree, NodeRef parent, bool isAttribute, const std::string& below) {
+void CheckLimits(WrapperState& wrapper, NodeRef parent, bool isAttribute, const std::string& below) {
+    const XmlTree& tree = *wrapper.Tree();
     const LoadLimits limits = LoadLimits::Current();
     std::size_t count = 0;
     if (isAttribute) {
@@ -47,7 +47,7 @@ void CheckLimits(const XmlTree& tree, NodeRef parent, bool isAttribute, const st
         }
     }
     if (count >= (isAttribute ? limits.attributesPerElement : limits.depth)) {
-        throw EditError("cannot write " + NodePath(tree, parent) + below +
+        throw EditError("cannot write " + wrapper.PathOf(parent) + below +
                         ": the document could not be loaded again, " +
                         (isAttribute ? "there are too many attributes" : "elements would be nested too deeply"));
     }
@@ -56,8 +56,8 @@ void CheckLimits(const XmlTree& tree, NodeRef parent, bool isAttribute, const st
 void Add(WrapperState& wrapper, NodeRef parent, const FieldHint& hint, std::string_view text) {
     const XmlTree& tree = *wrapper.Tree();
     const std::string below = (hint.isAttribute ? "/@" : "/") + std::string(hint.name);
-    CheckText(tree, parent, below, text);
-    CheckLimits(tree, parent, hint.isAttribute, below);
+    CheckText(wrapper, parent, below, text);
+    CheckLimits(wrapper, parent, hint.isAttribute, below);
     if (hint.isAttribute) {
         wrapper.Edit().AddAttribute(parent, hint.name, text);
         wrapper.ForgetAttribute(parent, hint.name);
@@ -77,7 +77,7 @@ bool Reads(const XmlTree& tree, NodeRef node, TextForm form, ValueKind kind, std
 }
 
 void Change(WrapperState& wrapper, NodeRef node, std::string_view text, TextForm form, ValueKind kind) {
-    CheckText(*wrapper.Tree(), node, "", text);
+    CheckText(wrapper, node, "", text);
     TreeEditor& editor = wrapper.Edit();
     const std::optional<std::string> parsed = editor.Parsed(node, form);
     const bool isAttribute = wrapper.Tree()->Kind(node) == NodeKind::Attribute;
@@ -105,7 +105,7 @@ void WriteNode(WrapperState& wrapper, NodeRef node, std::string_view text, TextF
     const XmlTree& tree = *wrapper.Tree();
     const NodeKind nodeKind = tree.Kind(node);
     if (nodeKind != NodeKind::Element && nodeKind != NodeKind::Attribute) {
-        throw EditError("cannot write " + NodePath(tree, node) + ": only elements and attributes have a value");
+        throw EditError("cannot write " + wrapper.PathOf(node) + ": only elements and attributes have a value");
     }
     if (!Reads(tree, node, form, kind, text)) {
         Change(wrapper, node, text, form, kind);

@@ -11,6 +11,7 @@
 #include "Framework/XMLSupport/Document.h"
 #include "Framework/XMLSupport/DomBuilder.h"
 #include "Framework/XMLSupport/DomTree.h"
+#include "Framework/XMLSupport/NodePath.h"
 #include "Framework/XMLSupport/QueryChain.h"
 #include "Framework/XMLSupport/TextHash.h"
 #include "Framework/XMLSupport/TreeEditor.h"
@@ -73,7 +74,12 @@ struct WrapperState {
     /// first, so nobody else sees the change; numbers of nodes stay. Throws WriteError on a read-only document.
     TreeEditor& Edit();
     /// To be called when an element came or went: the index is made anew.
-    void ForgetIndex() { m_index.reset(); }
+    void ForgetIndex() {
+        m_index.reset();
+        m_positions.byParent.clear();
+    }
+    /// Where a node of Tree() stands, for messages.
+    std::string PathOf(NodeRef node) { return NodePath(*Tree(), node, domIsMaster ? nullptr : &m_positions); }
     /// To be called when an attribute got a value, came or went.
     void ForgetAttribute(NodeRef element, std::string_view name);
     /// A document that was loaded becomes this wrapper's, which starts afresh. Throws std::runtime_error on a private
@@ -85,6 +91,7 @@ struct WrapperState {
 
 private:
     std::optional<ChildIndex> m_index;
+    CountedPositions m_positions;
     std::unique_ptr<TreeEditor> m_editor;
     void BuildDom();
 };

@@ -2,7 +2,6 @@
 #include "Framework/XMLDataWrapper.h"
 
 #include "Framework/XMLSupport/FaultPoint.h"
-#include "Framework/XMLSupport/NodePath.h"
 #include "Framework/XMLSupport/ScalarWriter.h"
 #include "Framework/XMLSupport/TreeReading.h"
 #include "Framework/XMLSupport/WrapperState.h"
@@ -21,8 +20,7 @@ NodeRef NodeToWrite(WrapperState& state, const zelString& sName, bool bFromDocum
         node = FindAttribute(*state.Tree(), state.Here(), sName);
     }
     if (node == NodeRef::None) {
-        const std::string where =
-            state.Here() == NodeRef::None ? "the document" : NodePath(*state.Tree(), state.Here());
+        const std::string where = state.Here() == NodeRef::None ? "the document" : state.PathOf(state.Here());
         throw EditError("cannot write " + sName + ": there is no such element or attribute in " + where);
     }
     return node;
