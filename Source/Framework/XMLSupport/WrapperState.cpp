@@ -17,6 +17,18 @@ namespace Framework {
 
 thread_local FaultFunction faultFunction = nullptr;
 
+namespace {
+
+/// Whether others have a share of the document. Where they have not, one in another thread may just have let go of it,
+/// and what that read comes before what is written now: taking a share orders the two, which asking for the count alone
+/// does not.
+bool IsShared(const std::shared_ptr<const Document>& document) {
+    const std::shared_ptr<const Document> another = document;
+    return another.use_count() > 2;
+}
+
+} // namespace
+
 NodeRef WrapperState::Here() const {
     if (current != NodeRef::None || !IsLoaded()) {
         return current;
@@ -113,7 +125,7 @@ TreeEditor& WrapperState::Edit() {
         m_editor = std::make_unique<DomEditor>(*dom->document);
         return *m_editor;
     }
-    if (document.use_count() > 1) {
+    if (IsShared(document)) {
         std::shared_ptr<const Document> copy = document->Copy();
         m_index.reset();
         left.push_back(document);
