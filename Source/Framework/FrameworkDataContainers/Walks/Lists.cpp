@@ -133,8 +133,11 @@ zelString TextAt(const TextVector& texts, int Index) {
 }
 
 zelString TextByKey(TextMap& map, const zelString& sName) {
+    // Copied under the lock: as soon as that is given back, another thread may clear the list.
+    map.readLock();
+    const std::unique_lock guard(map, std::adopt_lock);
     TypedDataContainer::SimpleDataContainer* entry = nullptr;
-    return map.getValue(sName, entry, true) && entry != nullptr ? entry->strValue : zelString();
+    return map.getValue(sName, entry, false) && entry != nullptr ? entry->strValue : zelString();
 }
 
 void AddKeyedText(TypedDataContainer& object, const FieldRow& row, const zelString& pData, const zelString& sName,
