@@ -25,13 +25,15 @@ std::optional<zelString> TextStore::Find(const char* store, const char* xmlName)
     return std::nullopt;
 }
 
+// Both stay for ever: threads may still load while the process ends.
+
 TextStore& Templates() {
-    static TextStore templates(TypedDataContainer::TDC_BASE_DATA_TEMPLATE);
+    static auto& templates = *new TextStore(TypedDataContainer::TDC_BASE_DATA_TEMPLATE);
     return templates;
 }
 
 TextStore& Models() {
-    static TextStore models(nullptr);
+    static auto& models = *new TextStore(nullptr);
     return models;
 }
 
