@@ -7,13 +7,14 @@
 
 /// A text as UTF-16, for the length of a DOM call: `pElement->setAttribute(zelStringToWideChar(sName), ...)`.
 ///
-/// The conversion is from UTF-8 whatever the platform or locale. The buffer is from Xerces-C's memory manager and given
-/// back by the destructor, so Xerces-C must be initialised for all of the object's life. One object is for one thread
-/// at a time.
+/// The conversion is from UTF-8 whatever the platform or locale. The buffer is from Xerces-C's memory manager, which is
+/// started where it is not yet, and given back by the destructor.
+///
+/// **Threads.** One object is for one thread at a time; different ones, also the very first, are for any.
 class FRAMEWORK_API zelStringToWideChar {
 public:
     /// Converts all of `text`, which need not outlive the call. Throws std::invalid_argument when it is not UTF-8,
-    /// std::logic_error when Xerces-C is not initialised, and what its memory manager throws when memory runs out.
+    /// std::runtime_error when Xerces-C cannot be started, and what its memory manager throws when memory runs out.
     explicit zelStringToWideChar(const zelString& text);
     ~zelStringToWideChar();
 

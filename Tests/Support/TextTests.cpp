@@ -250,18 +250,15 @@ TEST(Utf, EveryCharacterConvertsThereAndBack) {
                                "b\xEF\xBF\xBD\xEF\xBF\xBD\xF0\x9F\x98\x80\xEF\xBF\xBD");
 }
 
-TEST(Utf, WideBufferComesFromXerces) {
-    if (!xercesc::XMLPlatformUtils::fgMemoryManager) {
-        EXPECT_THROW(zelStringToWideChar("early"), std::logic_error);
-    }
-    xercesc::XMLPlatformUtils::Initialize();
-    {
+TEST(Utf, WideBufferComesFromXercesWhoeverStartedIt) {
+    for (int round = 0; round < 2; ++round) {
         const zelStringToWideChar wide("\xE2\x82\xAC 5");
         EXPECT_TRUE(std::u16string_view(wide) == u"\u20AC 5");
         EXPECT_EQ(static_cast<const XMLCh*>(zelStringToWideChar(""))[0], 0);
         EXPECT_THROW(zelStringToWideChar("\xFF"), std::invalid_argument);
+        xercesc::XMLPlatformUtils::Initialize(); // a host that uses it too, and is done before us
+        xercesc::XMLPlatformUtils::Terminate();
     }
-    xercesc::XMLPlatformUtils::Terminate();
 }
 
 } // namespace
