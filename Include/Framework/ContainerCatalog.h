@@ -72,7 +72,8 @@ public:
     bool SetEntryText(TypedDataContainer& object, std::size_t position, const zelString& sText) const;
     /// Writes a scalar, and nothing else, into the XML that the object stands on, by the rules of UpdateContainedData.
     /// True when it stands there now, or its absence says the same. False when the object is read only, stands on no
-    /// document, or the text cannot stand in it; the last error of the object's wrapper tells which.
+    /// document, or the text cannot stand in it; the last error of the object's wrapper, over a read-only document that
+    /// of the object, tells which.
     bool WriteBack(TypedDataContainer& object) const;
     /// The same for one entry of a list of strings or enumerations; false also when the entry has no node there.
     bool WriteBack(TypedDataContainer& object, std::size_t position) const;
@@ -194,6 +195,7 @@ public:
     /// CatalogClass::Create. Null when there is neither.
     static std::unique_ptr<TypedDataContainer> Create(std::string_view name, bool bBuildFromScratch);
     /// Name of the root element of a document, wherever the wrapper stands; empty when nothing is loaded. With it any
-    /// document is loaded by Create and TypedDataContainer::LoadFromDataPacket. One thread at a time uses a wrapper.
+    /// document is loaded by Create and TypedDataContainer::LoadFromDataPacket. Moves nothing; for threads see
+    /// XMLDataWrapper.
     static zelString RootElement(XMLDataWrapper& document);
 };

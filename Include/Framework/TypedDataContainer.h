@@ -40,9 +40,22 @@ struct OverrideIssue {
 /// a wrapper, packet or merge source may be deleted as soon as the call that took it has returned; the object then goes
 /// on with a private wrapper over the same document.
 ///
-/// **Threads.** One thread at a time loads, changes, updates, merges and dumps an object and all that hangs below it.
-/// Different trees may be used from different threads, also those loaded read only from one read-only document; others
-/// from one wrapper share its current node, and one thread at a time uses them. Static operations: from any thread.
+/// **Threads.** One thread at a time uses an object and all that hangs below it. Different trees may be used in
+/// different threads, the very first use of the library included. For trees that came from one document this holds:
+///
+/// - Through one wrapper that was loaded read only any number of threads may load and merge at the same time, each into
+///   an object of its own: the wrapper is read, and nothing of it moved. What they loaded they use, copy and destroy as
+///   they like, also while the wrapper ends in another thread.
+/// - Through any other wrapper one thread at a time loads and merges. The trees loaded from it may then be read,
+///   cloned, dumped, merged into and destroyed in different threads. But an update writes into the document of all of
+///   them: while one is updated, or the wrapper is used or ends, no other tree is used.
+/// - A document that is a DOM, from the start or because GetDOMNode made it one (see XMLDataWrapper), is used by one
+///   thread at a time, with all trees that were loaded or merged from it: a DOM must not even be read by two threads
+///   at once.
+///
+/// Beside the one thread that adds entries to a keyed list, takes them out or clears it, others may look keys up by
+/// Get<Name>(key). A container that was found may be used until it is taken out. Lengths and positions are for the one
+/// thread alone. Static operations: from any thread.
 ///
 /// **Failures.** Operations return false, null or an empty text and leave number and text in GetLastErrorNum and
 /// GetLastError: -1, or -2 for a duplicate key. No exception leaves a load, update, merge or dump. A load or merge
@@ -83,8 +96,10 @@ public:
     /// Appends one text entry for each attribute and each element with a text, bool or number of the class's own
     /// fields.
     virtual void GetProperties(ParameterList& pList);
-    /// The wrapper over the XML that the object stands on, null when there is none. Lent; lives until the object is
-    /// loaded anew, merged, cleared or destroyed, or the caller deletes the wrapper that it handed in.
+    /// The wrapper over the XML that the object stands on, null when there is none: the one it was loaded through, as
+    /// long as that lives and holds the document, else a private one. Lent; lives until the object is loaded anew,
+    /// merged, cleared or destroyed, or the caller deletes the wrapper that it handed in. Over a read-only document
+    /// operations on the object never move it: they work through a private one.
     virtual XMLDataWrapper* GetContainedDataPtr();
 
     // Loading. Each returns true when the object was populated. On false the object is as it was, and the error tells
@@ -103,7 +118,8 @@ public:
     /// ID.
     virtual bool LoadFromFile(ValueLookupBase* pLookup, const char* sPath, bool bReadOnly);
     /// From a loaded wrapper: from its current node when that bears the container's name, else from the root or the
-    /// first element in document order that does. The wrapper stays the caller's and may be deleted afterwards.
+    /// first element in document order that does. The wrapper stays the caller's, where it stands, and may be deleted
+    /// afterwards.
     virtual bool LoadFromDataPacket(ValueLookupBase* pLookup, XMLDataWrapper* pData, bool bReadOnly);
     /// From a DOM element, which is copied; the node stays the caller's.
     virtual bool LoadFromDOMNode(ValueLookupBase* pLookup, DOMNode* pNode, bool bReadOnly);
@@ -121,7 +137,8 @@ public:
     virtual bool MergeFromModel(ValueLookupBase* pLookup, const char* sModel, const char* sXMLName);
     virtual bool MergeFromFile(ValueLookupBase* pLookup, const char* sPath);
     /// `bNested`: true merges from the node the wrapper stands on; false from the first element that bears the
-    /// container's name. The wrapper stays the caller's and may be deleted afterwards.
+    /// container's name. The wrapper stays the caller's and may be deleted afterwards. The walk moves it, but for a
+    /// read-only one, which MergeDataMembers gets another wrapper for.
     virtual bool MergeFromDataPacket(ValueLookupBase* pLookup, zelString sFeatureID, XMLDataWrapper* pMergeData,
                                      bool bNested);
     virtual bool MergeFromDOMNode(ValueLookupBase* pLookup, zelString sFeatureID, DOMNode* pNode);
@@ -191,9 +208,9 @@ public:
     /// Writes the members of the object and of all that hangs below it back into the XML that each stands on: only what
     /// reads otherwise there, and exactly where a load reads it. An absent element or attribute is made only for a
     /// value that its absence does not give. Children and entries without a node are passed over. The result is that of
-    /// the last single value or text of a plain list; the wrapper's GetLastError tells why one could not be written.
-    /// False, with "Update not supported for read only objects", for a read-only object; true when it stands on no
-    /// document.
+    /// the last single value or text of a plain list; the wrapper's GetLastError, over a read-only document the
+    /// object's, tells why one could not be written. False, with "Update not supported for read only objects", for a
+    /// read-only object; true when it stands on no document.
     virtual bool UpdateContainedData();
     /// The walk of a load over the child nodes of `pNode`, not null. Adds to what the object holds.
     virtual bool PopulateDataMembers(XalanNode* pNode);
@@ -226,8 +243,9 @@ public:
 
     using OverrideIssueHandler = void (*)(void* pContext, const OverrideIssue& issue);
     /// Installs the handler of the override log for the whole process; null restores the default. The handler may be
-    /// called from any thread that loads or merges, and must not throw. `pContext` is handed to it and stays the
-    /// caller's.
+    /// called from any thread that loads or merges, from several at the same time, and must not throw. `pContext` is
+    /// handed to it and stays the caller's; loads and merges that run while the handler changes may still use the
+    /// earlier one.
     static void SetOverrideIssueHandler(OverrideIssueHandler pHandler, void* pContext);
 
     /// Registers the XML text that LoadFromTemplate and MergeFromTemplate find under a store and an XML name, in place

@@ -49,7 +49,13 @@ struct WrapperAccess;
 /// the DOM, and the text of the document is written from it; content is kept exactly, formatting is not. On a read-only
 /// document the DOM is a copy that nobody reads back.
 ///
-/// **Threads.** One thread at a time uses a wrapper. Several wrappers over one document may be used by several threads.
+/// **Threads.** One thread at a time uses a wrapper; different ones may be used by different threads, also those over
+/// one document. Through one wrapper over a read-only document any number of threads may at the same time do what moves
+/// nothing: NodeExists, GetXalanNode, all reads of texts and values, GetXMLText, SaveXMLFile and the questions about
+/// its state; GetLastError may then tell of another thread's question. They may load and merge from it, too
+/// (TypedDataContainer). SelectNode, node lists, SetCurrentNode, SetStoredQuery, GetDOMNode, loading and the end of the
+/// wrapper are for one thread that has it for itself. Where a DOM is in charge of a document, one thread at a time uses
+/// it.
 ///
 /// **Failures.** Operations return false, null, zero or an empty text; those that load, save or write leave number (-1)
 /// and text in GetLastErrorNum and GetLastError. A failed load leaves the wrapper as it was. std::bad_alloc may be
@@ -62,7 +68,7 @@ public:
     XMLDataWrapper& operator=(const XMLDataWrapper&) = delete;
 
     /// Reads and parses a file; the name is a path, never a URL. `bReadOnly` keeps the document from ever being edited,
-    /// so that any number of threads may read it through wrappers of their own. A text that is not well-formed, a
+    /// so that any number of threads may read it and load from it. A text that is not well-formed, a
     /// DOCTYPE, XML other than 1.0 or a document beyond LoadLimits is refused with "file:line:column: what is wrong".
     bool LoadXMLFile(const char* sPath, bool bReadOnly);
     /// The same from memory: the bytes exactly as a file would hold them, in the document's own encoding.

@@ -166,4 +166,52 @@ TEST(Ownership, AWrapperMayDieOrBeReloadedUnderEverythingThatStandsOnIt) {
     EXPECT_EQ(object.GetContainedDataPtr(), own);
 }
 
+TEST(Ownership, AReadOnlyWrapperStaysWhereItStandsAndIsShownByAllThatWasLoadedThroughIt) {
+    auto wrapper = std::make_unique<XMLDataWrapper>();
+    ASSERT_TRUE(wrapper->LoadXMLText(
+        "<r><Other/><CommConfig><CommEntry name='a'><Parameters><Port>7</Port></Parameters></CommEntry></CommConfig>"
+        "<CommConfig><CommEntry name='b'/></CommConfig></r>",
+        true));
+    XalanNode* const node = wrapper->SelectNode("CommConfig[2]", false);
+    wrapper->SetStoredQuery("mine");
+    CommConfigType second(false);
+    ASSERT_TRUE(second.LoadFromDataPacket(nullptr, wrapper.get(), true)); // from where the wrapper stands
+    EXPECT_NE(second.GetCommEntry("b"), nullptr);
+    ASSERT_TRUE(second.MergeFromDataPacket(nullptr, "F", wrapper.get(), false)); // from the first of the document
+    EXPECT_NE(second.GetCommEntry("a"), nullptr);
+    EXPECT_EQ(second.GetCommEntryLength(), 2);
+    CommConfigType merged(false);
+    ASSERT_TRUE(merged.MergeFromDataPacket(nullptr, "F", wrapper.get(), true)); // from where it stands again
+    EXPECT_EQ(merged.GetCommEntry(0)->Getname(), "b");
+    wrapper->SetCurrentNode(wrapper->GetXalanNode("//CommConfig", true));
+    CommConfigType object(false);
+    ASSERT_TRUE(object.LoadFromDataPacket(nullptr, wrapper.get(), false));
+    wrapper->SetCurrentNode(node);
+    object.AddCommEntry(wrapper.get(), wrapper->GetXalanNode("CommEntry", false), "b");
+    EXPECT_FALSE(object.UpdateContainedData() && object.GetCommEntry("a")->GetParameters()->GetPort() != 7);
+    const std::unique_ptr<TypedDataContainer> clone(object.GetCommEntry("a")->Clone());
+    EXPECT_EQ(static_cast<CommEntryType&>(*clone).GetParameters()->GetPort(), 7);
+    EXPECT_EQ(wrapper->GetXalanNode("", false), node);
+    EXPECT_EQ(wrapper->GetStoredQuery(), "mine");
+    const auto expectAll = [&](const XMLDataWrapper* shown) {
+        for (TypedDataContainer* const each :
+             {static_cast<TypedDataContainer*>(&object), static_cast<TypedDataContainer*>(object.GetCommEntry("a")),
+              static_cast<TypedDataContainer*>(object.GetCommEntry("a")->GetParameters()),
+              static_cast<TypedDataContainer*>(object.GetCommEntry("b")),
+              static_cast<TypedDataContainer*>(merged.GetCommEntry(0)), static_cast<TypedDataContainer*>(&second),
+              clone.get()}) {
+            ASSERT_NE(each->GetContainedDataPtr(), nullptr);
+            EXPECT_EQ(each->GetContainedDataPtr() == shown, shown == wrapper.get());
+        }
+    };
+    expectAll(wrapper.get());
+    object.GetCommEntry("a")->GetParameters()->SetPort(8);
+    object.GetCommEntry("a")->GetParameters()->UpdateContainedData();
+    EXPECT_EQ(object.GetCommEntry("a")->GetParameters()->GetLastError(), "the document is read only");
+    const XMLDataWrapper* const gone = wrapper.get();
+    wrapper.reset();
+    expectAll(gone);
+    EXPECT_EQ(object.GetContainedDataPtr()->GetStringValue("//Port", true), "7");
+}
+
 } // namespace

@@ -24,9 +24,21 @@ struct ContainerAccess {
         object.m_sMergeFeature = feature;
     }
 
-    /// The wrapper the object stands on, null when there is none.
+    /// The wrapper the library reaches the object's XML through, null when it stands on none.
     static XMLDataWrapper* Wrapper(const TypedDataContainer& object) {
         return object.m_pContainedData == nullptr ? nullptr : object.m_pContainedData->Wrapper();
+    }
+    /// The wrapper the object was given.
+    static XMLDataWrapper* ShownWrapper(const TypedDataContainer& object) {
+        return object.m_pContainedData == nullptr ? nullptr : object.m_pContainedData->ShownWrapper();
+    }
+    /// The wrapper by which a part of the object is to stand on the document of `given`: where that is the object's,
+    /// the one the library works through, so that all parts of a tree share it.
+    static XMLDataWrapper* WrapperForParts(const TypedDataContainer& object, XMLDataWrapper* given) {
+        return given != nullptr && given == ShownWrapper(object) ? Wrapper(object) : given;
+    }
+    static const std::shared_ptr<Attachment>& AttachmentOf(const TypedDataContainer& object) {
+        return object.m_pContainedData;
     }
 
     /// Stands the object on a node of the tree that the wrapper reads from at this moment.
@@ -117,6 +129,9 @@ private:
 inline WrapperState* LoadedState(XMLDataWrapper* wrapper) {
     return wrapper != nullptr && wrapper->IsDataLoaded() ? &WrapperAccess::State(*wrapper) : nullptr;
 }
+
+/// Loads an object from the node that another one stands on, by the rules of LoadFromDataPacket; no wrapper is moved.
+bool LoadFromNodeOf(TypedDataContainer& object, const TypedDataContainer& original);
 
 /// Takes everything out of an object: members to their defaults, lists cleared, children deleted. Done by the walk over
 /// its class's fields, which stands above this layer.

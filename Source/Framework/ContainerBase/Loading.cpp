@@ -29,7 +29,7 @@ bool LoadOwn(TypedDataContainer& object, ValueLookupBase* lookup, std::unique_pt
         return false;
     }
     const WrapperState& state = WrapperAccess::State(*source);
-    const NodeRef node = StartNode(state, name);
+    const NodeRef node = StartNode(state, state.current, name);
     if (node == NodeRef::None) {
         SetNoElementError(object, state, name);
         return false;
@@ -41,6 +41,25 @@ bool LoadOwn(TypedDataContainer& object, ValueLookupBase* lookup, std::unique_pt
 }
 
 } // namespace
+
+bool Framework::LoadFromNodeOf(TypedDataContainer& object, const TypedDataContainer& original) {
+    return Guarded(object, [&] {
+        const zelString name = object.GetContainerName();
+        const WrapperState* const state = LoadedState(ContainerAccess::Wrapper(original));
+        if (state == nullptr) {
+            object.SetLastError(-1, "the data packet holds no document");
+            return false;
+        }
+        const NodeRef node = StartNode(*state, ContainerAccess::Node(original), name);
+        if (node == NodeRef::None) {
+            SetNoElementError(object, *state, name);
+            return false;
+        }
+        return LoadAt(object, ContainerAccess::Lookup(original),
+                      Attachment::ForCopy(ContainerAccess::AttachmentOf(original)), node,
+                      ContainerAccess::IsReadOnly(original));
+    });
+}
 
 bool TypedDataContainer::LoadFromTemplate(ValueLookupBase* pLookup, const char* sStore, const char* sXMLName,
                                           const char*, bool bReadOnly) {
@@ -64,7 +83,8 @@ bool TypedDataContainer::LoadFromModel(ValueLookupBase* pLookup, const char* sMo
 bool TypedDataContainer::LoadFromFile(ValueLookupBase* pLookup, const char* sPath, bool bReadOnly) {
     return Guarded(*this, [&] {
         std::unique_ptr<XMLDataWrapper> source = OpenFile(*this, sPath, bReadOnly);
-        if (source == nullptr || StartNode(WrapperAccess::State(*source), GetContainerName()) == NodeRef::None) {
+        if (source == nullptr ||
+            StartNode(WrapperAccess::State(*source), NodeRef::None, GetContainerName()) == NodeRef::None) {
             return LoadOwn(*this, pLookup, std::move(source), GetContainerName(), bReadOnly);
         }
         // Before the walk: children and entries take the feature of their parent.
@@ -80,12 +100,12 @@ bool TypedDataContainer::LoadFromDataPacket(ValueLookupBase* pLookup, XMLDataWra
             SetLastError(-1, "the data packet holds no document");
             return false;
         }
-        const NodeRef node = StartNode(*state, GetContainerName());
+        const NodeRef node = StartNode(*state, state->current, GetContainerName());
         if (node == NodeRef::None) {
             SetNoElementError(*this, *state, GetContainerName());
             return false;
         }
-        return LoadAt(*this, pLookup, Attachment::Of(*pData), node, bReadOnly);
+        return LoadAt(*this, pLookup, Attachment::ForTree(*pData), node, bReadOnly);
     });
 }
 
@@ -119,7 +139,8 @@ bool TypedDataContainer::SetContainedDataPtr(XMLDataWrapper* pData, XalanNode* s
         }
         ContainerAccess::SetReadOnly(*this, bReadOnly);
         ContainerAccess::SetNested(*this, bNested);
-        ContainerAccess::AttachAgain(*this, Attachment::Of(*pData), node);
+        XMLDataWrapper& wrapper = *ContainerAccess::WrapperForParts(*this, pData);
+        ContainerAccess::AttachAgain(*this, Attachment::Of(wrapper), node);
         const bool success = PopulateDataMembers(tree->View(node));
         ContainerAccess::SetValid(*this, success);
         return success;

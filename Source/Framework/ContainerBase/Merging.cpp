@@ -5,6 +5,7 @@
 #include "Framework/XMLSupport/TreeReading.h"
 
 #include <filesystem>
+#include <optional>
 
 using namespace Framework;
 
@@ -24,6 +25,45 @@ public:
 private:
     TypedDataContainer& m_object;
     bool m_before;
+};
+
+/// The wrapper that a merge moves over its source. It is the caller's, except over a read-only document: that may be
+/// the source of many threads at once, so the merge gets a wrapper of its own there.
+class SourceWrapper {
+public:
+    SourceWrapper(XMLDataWrapper& given, bool nested) : m_wrapper(&given) {
+        const WrapperState& source = WrapperAccess::State(given);
+        if (!source.readOnly) {
+            if (!nested) {
+                m_scope.emplace(given);
+            }
+        } else if (!source.isMergeSource) {
+            m_own = nested ? Attachment::ForTree(given) : Attachment::Owning(Attachment::AnotherWrapper(given));
+            m_wrapper = m_own->Wrapper();
+            WrapperState& own = WrapperAccess::State(*m_wrapper);
+            own.isMergeSource = true;
+            own.current = source.current;
+            own.query = QueryChain(source.query.Text()); // not shared: a chain counts for one thread at a time
+        }
+    }
+    ~SourceWrapper() {
+        if (m_own != nullptr) { // what was taken over may stand on it from now on
+            WrapperState& own = WrapperAccess::State(*m_wrapper);
+            own.isMergeSource = false;
+            own.current = NodeRef::None;
+            own.query = {};
+            own.lists.clear();
+        }
+    }
+    SourceWrapper(const SourceWrapper&) = delete;
+    SourceWrapper& operator=(const SourceWrapper&) = delete;
+
+    XMLDataWrapper* Get() const { return m_wrapper; }
+
+private:
+    XMLDataWrapper* m_wrapper;
+    std::shared_ptr<Attachment> m_own;
+    std::optional<AttachmentScope> m_scope;
 };
 
 /// The node of the source that an outer merge starts from; None, with an error, when there is none.
@@ -105,16 +145,13 @@ bool TypedDataContainer::MergeFromDataPacket(ValueLookupBase* pLookup, zelString
             return false;
         }
         const NestedScope nested(*this, bNested);
-        std::optional<AttachmentScope> ownAttachment;
-        if (!bNested) {
-            ownAttachment.emplace(*pMergeData);
-        }
+        const SourceWrapper wrapper(*pMergeData, bNested);
         if (pLookup != nullptr) {
             ContainerAccess::SetLookup(*this, pLookup);
         }
         ContainerAccess::SetMergeFeature(*this, sFeatureID);
         Prepare(*this, control.action);
-        const bool success = MergeDataMembers(pMergeData, sFeatureID);
+        const bool success = MergeDataMembers(wrapper.Get(), sFeatureID);
         ContainerAccess::SetValid(*this, success || m_bValid);
         return success;
     });

@@ -71,11 +71,11 @@ std::unique_ptr<XMLDataWrapper> OpenModel(TypedDataContainer& object, const char
     return OpenText(object, Models().Find(model, xmlName), "model", model, xmlName, readOnly);
 }
 
-NodeRef StartNode(const WrapperState& state, const zelString& name) {
+NodeRef StartNode(const WrapperState& state, NodeRef standing, const zelString& name) {
     const XmlTree& tree = *state.Tree();
-    if (state.current != NodeRef::None && tree.Kind(state.current) == NodeKind::Element &&
-        tree.Name(state.current) == std::string_view(name)) {
-        return state.current;
+    if (standing != NodeRef::None && tree.Kind(standing) == NodeKind::Element &&
+        tree.Name(standing) == std::string_view(name)) {
+        return standing;
     }
     return FirstDescendantNamed(tree, tree.Root(), name);
 }

@@ -17,9 +17,9 @@ std::unique_ptr<XMLDataWrapper> OpenTemplate(TypedDataContainer& object, const c
 std::unique_ptr<XMLDataWrapper> OpenModel(TypedDataContainer& object, const char* model, const char* xmlName,
                                           bool readOnly);
 
-/// Where an object of that element name starts in a document: the current node, the root, or the first element that
-/// bears the name.
-NodeRef StartNode(const WrapperState& state, const zelString& name);
+/// Where an object of that element name starts in a document: the node that is stood on, the root, or the first element
+/// that bears the name.
+NodeRef StartNode(const WrapperState& state, NodeRef standing, const zelString& name);
 /// The error for a source in which no such element stands.
 void SetNoElementError(TypedDataContainer& object, const WrapperState& state, const zelString& name);
 /// The FeatureID of the source's root, else the given text.

@@ -29,7 +29,7 @@ zelString TypedDataContainer::GetBaseType() {
 void TypedDataContainer::GetProperties(ParameterList&) {}
 
 XMLDataWrapper* TypedDataContainer::GetContainedDataPtr() {
-    return ContainerAccess::Wrapper(*this);
+    return ContainerAccess::ShownWrapper(*this);
 }
 
 zelString TypedDataContainer::GetMergeAttributes() {

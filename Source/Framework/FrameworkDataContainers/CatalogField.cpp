@@ -15,7 +15,7 @@ namespace {
 /// The elements that an object was filled from: more than one when its element stands more than once.
 struct LoadedFrom {
     explicit LoadedFrom(TypedDataContainer& object) {
-        const WrapperState* const state = LoadedState(object.GetContainedDataPtr());
+        const WrapperState* const state = LoadedState(ContainerAccess::Wrapper(object));
         const NodeRef own = state == nullptr ? NodeRef::None : ContainerAccess::Node(object);
         if (own != NodeRef::None) {
             tree = state->Tree();

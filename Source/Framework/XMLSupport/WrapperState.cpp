@@ -1,7 +1,5 @@
 #include "Framework/XMLSupport/WrapperState.h"
 
-#include <algorithm>
-
 #include "Framework/XMLSupport/Attachment.h"
 #include "Framework/XMLSupport/DocumentEditor.h"
 #include "Framework/XMLSupport/DomEditor.h"
@@ -56,6 +54,7 @@ NodeRef WrapperState::Find(std::string_view path, bool fromDocument) {
         return NodeRef::None;
     }
     const PathStart start = StartOf(path, fromDocument);
+    const std::unique_lock<std::mutex> lock = LockReading();
     return FindByPath(*Tree(), Index(), start.node, start.rest);
 }
 
@@ -137,6 +136,12 @@ TreeEditor& WrapperState::Edit() {
 }
 
 void WrapperState::Load(std::shared_ptr<const Document> loaded, bool isReadOnly) {
+    WrapperState fresh;
+    fresh.document = std::move(loaded);
+    fresh.readOnly = isReadOnly;
+    if (isReadOnly) {
+        fresh.reading = std::make_shared<SharedReading>();
+    }
     if (const std::shared_ptr<Attachment> attached = attachment.lock()) {
         if (attached->IsPrivate()) {
             throw std::runtime_error(
@@ -144,68 +149,33 @@ void WrapperState::Load(std::shared_ptr<const Document> loaded, bool isReadOnly)
         }
         attached->MoveToPrivateWrapper(); // whoever stands on the old document stays there
     }
-    *this = WrapperState();
-    document = std::move(loaded);
-    readOnly = isReadOnly;
+    *this = std::move(fresh);
 }
 
 void WrapperState::Share(WrapperState& other) const noexcept {
     other.document = document;
-    other.dom = dom;
+    if (domIsMaster) {
+        other.dom = dom;
+    }
     other.domIsMaster = domIsMaster;
     other.isOutput = isOutput;
     other.readOnly = readOnly;
 }
 
 void WrapperState::SetError(int number, std::string text) {
-    errorNumber = number;
-    error = std::move(text);
+    const std::unique_lock<std::mutex> lock = LockReading();
+    m_errorNumber = number;
+    m_error = std::move(text);
 }
 
-std::shared_ptr<Attachment> Attachment::Of(XMLDataWrapper& wrapper) {
-    WrapperState& state = WrapperAccess::State(wrapper);
-    std::shared_ptr<Attachment> attachment = state.attachment.lock();
-    if (attachment == nullptr) {
-        attachment = std::make_shared<Attachment>();
-        attachment->m_private = std::make_unique<XMLDataWrapper>();
-        attachment->m_wrapper = &wrapper;
-        state.attachment = attachment;
-    }
-    return attachment;
+std::string WrapperState::Error() const {
+    const std::unique_lock<std::mutex> lock = LockReading();
+    return m_error;
 }
 
-std::shared_ptr<Attachment> Attachment::Owning(std::unique_ptr<XMLDataWrapper> wrapper) {
-    auto attachment = std::make_shared<Attachment>();
-    WrapperAccess::State(*wrapper).attachment = attachment;
-    attachment->m_wrapper = wrapper.get();
-    attachment->m_private = std::move(wrapper);
-    return attachment;
-}
-
-void Attachment::TakeOver(std::unique_ptr<WrapperState> state) noexcept {
-    m_wrapper = m_private.get();
-    WrapperAccess::Pointer(*m_private) = std::move(state);
-}
-
-void Attachment::MoveToPrivateWrapper() noexcept {
-    if (IsPrivate()) {
-        return;
-    }
-    WrapperState& own = WrapperAccess::State(*m_private);
-    WrapperAccess::State(*m_wrapper).Share(own);
-    own.attachment = std::exchange(WrapperAccess::State(*m_wrapper).attachment, {});
-    m_wrapper = m_private.get();
-}
-
-AttachmentScope::AttachmentScope(XMLDataWrapper& wrapper)
-    : m_state(WrapperAccess::State(wrapper)), m_before(std::exchange(m_state.attachment, {})),
-      m_during(Attachment::Of(wrapper)) {}
-
-AttachmentScope::~AttachmentScope() {
-    if (m_during.use_count() > 1) {
-        m_during->MoveToPrivateWrapper();
-    }
-    m_state.attachment = m_before;
+int WrapperState::ErrorNumber() const {
+    const std::unique_lock<std::mutex> lock = LockReading();
+    return m_errorNumber;
 }
 
 } // namespace Framework

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -29,6 +30,12 @@ struct DomSide {
     std::unordered_map<const DOMNode*, NodeRef> refOf;
 };
 
+/// What the threads share that read through one wrapper over a read-only document. It ends when the wrapper does, or
+/// takes another document.
+struct SharedReading {
+    std::mutex mutex; ///< guards the wrapper's index and its last error
+};
+
 /// Everything an XMLDataWrapper is. Private wrappers are made by copying the parts that say which document it is.
 struct WrapperState {
     std::shared_ptr<const Document> document; ///< the reading tree; null in an output document
@@ -36,6 +43,8 @@ struct WrapperState {
     bool domIsMaster = false; ///< reads go to the DOM
     bool isOutput = false;    ///< made by us: written with line breaks and indentation
     bool readOnly = false;
+    std::shared_ptr<SharedReading> reading; ///< null unless it is read only
+    bool isMergeSource = false;             ///< made for a merge that is going on, which moves it
     NodeRef current = NodeRef::None;
     QueryChain query;
     HashedMap<std::string, std::vector<NodeRef>> lists;
@@ -44,8 +53,6 @@ struct WrapperState {
     /// still hold nodes of them, which have the same numbers in the copy.
     std::vector<std::shared_ptr<const Document>> left;
     const OutputScope* output = nullptr; ///< the innermost walk that writes into the DOM at this moment
-    std::string error;
-    int errorNumber = 0;
 
     /// The tree that reads go to, null when nothing is loaded.
     const XmlTree* Tree() const {
@@ -85,11 +92,21 @@ struct WrapperState {
     /// A document that was loaded becomes this wrapper's, which starts afresh. Throws std::runtime_error on a private
     /// wrapper, whose objects have nowhere to go.
     void Load(std::shared_ptr<const Document> loaded, bool isReadOnly);
-    /// Puts another state, a new one, over the same document, with nothing of the current node, queries and lists.
+    /// Puts another state, a new one, over the same document, with nothing of the current node, queries and lists. The
+    /// copy of a read-only document that callers read as a DOM stays with this one.
     void Share(WrapperState& other) const noexcept;
     void SetError(int number, std::string text);
+    std::string Error() const;
+    int ErrorNumber() const;
 
 private:
+    /// Holds the lock that threads need which read through one wrapper; nothing where only one may.
+    std::unique_lock<std::mutex> LockReading() const {
+        return reading == nullptr ? std::unique_lock<std::mutex>() : std::unique_lock(reading->mutex);
+    }
+
+    std::string m_error;
+    int m_errorNumber = 0;
     std::optional<ChildIndex> m_index;
     CountedPositions m_positions;
     std::unique_ptr<TreeEditor> m_editor;

@@ -156,9 +156,9 @@ void XMLDataWrapper::SetCurrentNode(std::nullptr_t) {
 }
 
 zelString XMLDataWrapper::GetLastError() const {
-    return m_pState->error;
+    return m_pState->Error();
 }
 
 int XMLDataWrapper::GetLastErrorNum() const {
-    return m_pState->errorNumber;
+    return m_pState->ErrorNumber();
 }

@@ -44,7 +44,8 @@ std::unique_ptr<TypedDataContainer> MakeEntry(TypedDataContainer& object, const 
     entry->SetContainerName(row.name.data());
     entry->SetFeatureID(object.GetFeatureID());
     ContainerAccess::SetLookup(*entry, ContainerAccess::Lookup(object));
-    if (pData != nullptr && !entry->SetContainedDataPtr(pData, spNode, ContainerAccess::IsReadOnly(object), true)) {
+    XMLDataWrapper* const wrapper = ContainerAccess::WrapperForParts(object, pData);
+    if (pData != nullptr && !entry->SetContainedDataPtr(wrapper, spNode, ContainerAccess::IsReadOnly(object), true)) {
         return nullptr;
     }
     return entry;

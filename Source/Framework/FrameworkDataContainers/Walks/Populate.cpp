@@ -92,20 +92,26 @@ private:
         child->SetContainerName(row.name.data());
         child->SetFeatureID(m_object.GetFeatureID());
         ContainerAccess::SetLookup(*child, ContainerAccess::Lookup(m_object));
-        child->SetContainedDataPtr(m_object.GetContainedDataPtr(), m_tree.View(node),
-                                   ContainerAccess::IsReadOnly(m_object), true);
+        child->SetContainedDataPtr(Wrapper(), m_tree.View(node), ContainerAccess::IsReadOnly(m_object), true);
     }
 
     void TakeEntry(const FieldRow& row, NodeRef node) {
         if (row.value == FieldValue::Container) {
             const zelString key =
                 row.form == FieldForm::KeyedList ? AttributeOf(m_tree, node, row.keyAttribute) : zelString();
-            row.list->addEntry(m_object, m_object.GetContainedDataPtr(), m_tree.View(node), key);
+            row.list->addEntry(m_object, Wrapper(), m_tree.View(node), key);
         } else if (row.form == FieldForm::KeyedList) {
             TakeKeyedText(row, node);
         } else {
             row.list->addText(m_object, TextOf(m_tree, node), {});
         }
+    }
+
+    /// What parts stand on. Not the wrapper that callers are shown: another thread may end that one at any time when
+    /// the document is read only.
+    XMLDataWrapper* Wrapper() {
+        XMLDataWrapper* const wrapper = ContainerAccess::Wrapper(m_object);
+        return wrapper != nullptr ? wrapper : m_object.GetContainedDataPtr();
     }
 
     /// The entry remembers its node: its key need not stand there.

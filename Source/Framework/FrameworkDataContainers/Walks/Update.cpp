@@ -124,11 +124,19 @@ private:
             step();
             return true;
         } catch (const std::runtime_error& failure) {
-            m_state.SetError(-1, failure.what());
+            Report(failure.what());
         } catch (const std::invalid_argument& failure) {
-            m_state.SetError(-1, failure.what());
+            Report(failure.what());
         }
         return false;
+    }
+
+    /// What is worked through over a read-only document is not the wrapper that callers know, so the object tells too.
+    void Report(const std::string& what) {
+        m_state.SetError(-1, what);
+        if (m_state.readOnly) {
+            m_object.SetLastError(-1, "%s", what.c_str());
+        }
     }
 
     bool WriteScalar(const FieldRow& row) {
@@ -187,8 +195,8 @@ private:
     bool WritePlainText(const FieldRow& row, std::size_t position) {
         const std::vector<NodeRef>& nodes = m_nodes->List(row);
         if (position >= nodes.size()) {
-            m_state.SetError(-1, "cannot write " + std::string(row.name) + "[" + std::to_string(position + 1) +
-                                     "]: the document has no such entry");
+            Report("cannot write " + std::string(row.name) + "[" + std::to_string(position + 1) +
+                   "]: the document has no such entry");
             return false;
         }
         const zelString text = row.value == FieldValue::String ? (m_object.*row.member.texts)[position]
