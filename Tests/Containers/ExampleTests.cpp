@@ -1,9 +1,7 @@
 #include "Commands.h"
 #include "Containers/EveryClass.h"
+#include "Containers/Examples.h"
 #include "Containers/Values.h"
-
-#include <algorithm>
-#include <map>
 
 #include "Framework/XMLDataWrapper.h"
 
@@ -13,40 +11,6 @@ namespace fs = std::filesystem;
 using Framework::CommandResult;
 using Framework::Quoted;
 using Framework::ReadText;
-
-/// A document of the examples with its overrides, all by their paths.
-struct Example {
-    fs::path document;
-    std::vector<fs::path> overrides;
-};
-
-/// By root element. Two files are wrong by intent, and say so in their name.
-std::map<std::string, Example> Examples() {
-    std::map<std::string, Example> examples;
-    for (const fs::directory_entry& entry : fs::directory_iterator(FRAMEWORK_EXAMPLES)) {
-        const std::string name = entry.path().stem();
-        const std::size_t dot = name.find('.');
-        const std::string feature = dot == std::string::npos ? "" : name.substr(dot + 1);
-        if (entry.path().extension() != ".xml" || feature == "broken" || feature == "mistakes") {
-            continue;
-        }
-        Example& example = examples[name.substr(0, dot)];
-        if (feature.empty()) {
-            example.document = entry.path();
-        } else {
-            example.overrides.push_back(entry.path());
-        }
-    }
-    return examples;
-}
-
-void ForEveryExample(const std::function<void(CatalogClass, const Example&)>& check) {
-    for (auto& [root, example] : Examples()) {
-        SCOPED_TRACE(root);
-        std::sort(example.overrides.begin(), example.overrides.end());
-        check(ContainerCatalog::FindRoot(root), example);
-    }
-}
 
 /// The schema file that declares the root.
 fs::path SchemaOf(CatalogClass type) {

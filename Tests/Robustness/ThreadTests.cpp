@@ -1,0 +1,450 @@
+// What the headers promise for threads. A wrong result here is luck; the thread sanitizer tells of the race itself.
+
+#include "Commands.h"
+#include "Containers/EveryClass.h"
+#include "Containers/Examples.h"
+#include "Containers/Values.h"
+#include "Robustness/Sizes.h"
+
+#include <atomic>
+#include <barrier>
+#include <thread>
+
+#include <xalanc/XalanDOM/XalanDOMString.hpp>
+#include <xalanc/XalanDOM/XalanNode.hpp>
+
+#include "Framework/FrameworkDataContainers/Walks/Lists.h"
+#include "Framework/LoadLimits.h"
+#include "FrameworkDataContainers/FieldTableIndex.h"
+
+namespace {
+
+constexpr unsigned kThreads = 8;
+
+/// Runs `work` with 0, 1, 2 ... in as many threads, all let go at the same time.
+void InThreads(unsigned count, const std::function<void(unsigned)>& work) {
+    std::atomic<bool> go = false;
+    std::vector<std::thread> threads;
+    for (unsigned number = 0; number < count; ++number) {
+        threads.emplace_back([&, number] {
+            go.wait(false);
+            work(number);
+        });
+    }
+    go = true;
+    go.notify_all();
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+}
+
+std::string SampleText(CatalogClass type, unsigned seed) {
+    Samples::Random random(seed);
+    return Samples::ToXml(Samples::Make(type, std::string(type.ElementName()), random), random, false);
+}
+
+/// Counts what goes to the override log, and keeps standard error quiet.
+class IssueCounter {
+public:
+    IssueCounter() {
+        TypedDataContainer::SetOverrideIssueHandler(
+            [](void* context, const OverrideIssue&) {
+                ++static_cast<IssueCounter*>(context)->count;
+                ++countOfThread;
+            },
+            this);
+    }
+    ~IssueCounter() { TypedDataContainer::SetOverrideIssueHandler(nullptr, nullptr); }
+    IssueCounter(const IssueCounter&) = delete;
+    IssueCounter& operator=(const IssueCounter&) = delete;
+
+    std::atomic<int> count = 0;
+    static inline thread_local int countOfThread = 0;
+};
+
+/// All that one piece of work saw, to be compared with what it sees when nothing else runs.
+class Transcript {
+public:
+    Transcript() { IssueCounter::countOfThread = 0; }
+
+    void Add(const std::string& what, std::string text) { m_lines.emplace_back(what + ": " + std::move(text)); }
+    void Add(const std::string& what, TypedDataContainer& object) {
+        for (std::string& line : Samples::Lines(object)) {
+            Add(what, std::move(line));
+        }
+    }
+    /// What XPath and the nodes of Xalan's interface say; both are made when they are first asked for.
+    void AddNodes(XMLDataWrapper& document) {
+        for (const char* const query : {"//*[last()][@*]", "/*/*[position() > 1]", "//*[not(*)][text()]"}) {
+            const XalanNode* node = document.GetXalanNode(query, true);
+            for (int i = 0; node != nullptr && i < 20; ++i) {
+                Add(query, zelString(node->getNodeName().c_str()) + "=" + zelString(node->getNodeValue().c_str()));
+                node = node->getFirstChild() != nullptr ? node->getFirstChild() : node->getNextSibling();
+            }
+        }
+    }
+
+    void AddIssues() { Add("issues", std::to_string(IssueCounter::countOfThread)); }
+
+    std::string DifferenceTo(const Transcript& other) const {
+        for (std::size_t i = 0; i < std::max(m_lines.size(), other.m_lines.size()); ++i) {
+            const std::string mine = i < m_lines.size() ? m_lines[i] : "nothing";
+            const std::string others = i < other.m_lines.size() ? other.m_lines[i] : "nothing";
+            if (mine != others) {
+                return mine + "\nand alone\n" + others;
+            }
+        }
+        return {};
+    }
+
+private:
+    std::vector<std::string> m_lines;
+};
+
+/// One document of the examples: once as everybody's own, once read only and shared by all.
+class ExampleWork {
+public:
+    ExampleWork(CatalogClass type, Example example) : m_type(type), m_example(std::move(example)) {
+        EXPECT_TRUE(m_shared.LoadXMLFile(m_example.document.c_str(), true)) << m_shared.GetLastError();
+        for (const std::filesystem::path& path : m_example.overrides) {
+            m_sharedOverrides.push_back(std::make_unique<XMLDataWrapper>());
+            EXPECT_TRUE(m_sharedOverrides.back()->LoadXMLFile(path.c_str(), true));
+        }
+    }
+
+    std::string_view Name() const { return m_type.ElementName(); }
+
+    Transcript WithOwnDocument() const {
+        Transcript seen;
+        const Framework::TemporaryFolder folder;
+        const std::filesystem::path file = folder / "saved.xml";
+        XMLDataWrapper wrapper;
+        EXPECT_TRUE(wrapper.LoadXMLFile(m_example.document.c_str(), false));
+        const auto object = m_type.Create(false);
+        EXPECT_TRUE(object->LoadFromDataPacket(nullptr, &wrapper, false));
+        seen.Add("loaded", *object);
+        seen.AddNodes(wrapper);
+        for (const std::filesystem::path& path : m_example.overrides) {
+            EXPECT_TRUE(object->MergeFromFile(nullptr, path.c_str()));
+        }
+        seen.Add("merged", *object);
+        for (const Value& value : ValuesOf(*object)) {
+            value.Set(OtherThan(value.field, value.Get()));
+        }
+        object->UpdateContainedData();
+        seen.Add("updated", wrapper.GetXMLText());
+        const std::unique_ptr<TypedDataContainer> clone(object->Clone());
+        seen.Add("cloned", *clone);
+        EXPECT_TRUE(wrapper.SaveXMLFile(file.c_str())) << wrapper.GetLastError();
+        seen.Add("saved", Framework::ReadText(file));
+        EXPECT_TRUE(object->DumpMergeResults(file.c_str())) << object->GetLastError();
+        seen.Add("dumped by node", Framework::ReadText(file));
+        seen.Add("dumped by query", DumpedByQuery(*clone, "<" + std::string(Name()) + "/>"));
+        seen.AddIssues();
+        return seen;
+    }
+
+    Transcript WithSharedDocument() {
+        Transcript seen;
+        const auto reader = m_type.Create(false);
+        EXPECT_TRUE(reader->LoadFromDataPacket(nullptr, &m_shared, true)) << reader->GetLastError();
+        auto writer = m_type.Create(false);
+        EXPECT_TRUE(writer->LoadFromDataPacket(nullptr, &m_shared, false)) << writer->GetLastError();
+        EXPECT_EQ(reader->GetContainedDataPtr(), &m_shared);
+        seen.Add("loaded", *reader);
+        for (const Value& value : ValuesOf(*reader)) {
+            for (const zelString& text : value.field.DocumentTexts(*value.object)) {
+                seen.Add("in the document", text);
+            }
+        }
+        EXPECT_TRUE(writer->UpdateContainedData()) << writer->GetLastError(); // nothing has changed
+        const std::unique_ptr<TypedDataContainer> clone(writer->Clone());
+        for (const std::unique_ptr<XMLDataWrapper>& source : m_sharedOverrides) {
+            EXPECT_TRUE(reader->MergeFromDataPacket(nullptr, "F", source.get(), false)) << reader->GetLastError();
+            EXPECT_TRUE(writer->MergeFromDataPacket(nullptr, "G", source.get(), false)) << writer->GetLastError();
+        }
+        seen.Add("merged", *reader);
+        seen.Add("dumped", DumpedByNode(*writer));
+        writer.reset();
+        seen.Add("cloned", *clone);
+        seen.AddNodes(m_shared);
+        seen.Add("text", m_shared.GetXMLText());
+        seen.Add("value", m_shared.GetStringValue("*[1]", false));
+        EXPECT_FALSE(m_shared.NodeExists("@FeatureID='", true));
+        EXPECT_FALSE(m_shared.SetQueryValue("", "changed", false));
+        EXPECT_FALSE(m_shared.GetLastError().empty());
+        seen.AddIssues();
+        return seen;
+    }
+
+    void ExpectUnmoved() const {
+        for (const std::unique_ptr<XMLDataWrapper>& source : m_sharedOverrides) {
+            EXPECT_FALSE(source->HasCurrentNode()) << Name();
+            EXPECT_EQ(source->GetStoredQuery(), "") << Name();
+        }
+    }
+
+private:
+    CatalogClass m_type;
+    Example m_example;
+    XMLDataWrapper m_shared;
+    std::vector<std::unique_ptr<XMLDataWrapper>> m_sharedOverrides;
+};
+
+/// The first use of the library is here: every test has a process of its own.
+TEST(FirstUseInThreads, StartsEverythingOnce) {
+    const CatalogClass type = ContainerCatalog::FindRoot("StateProcessingRoot");
+    const std::string xml = "<StateProcessingRoot><StateTable><State Name='a'/></StateTable></StateProcessingRoot>";
+    const std::function<void()> firsts[] = {
+        [&] { // Xerces
+            FullFunctionXMLDataWrapper output;
+            EXPECT_TRUE(output.CreateOutputDocument("r"));
+        },
+        [&] { // Xalan
+            XMLDataWrapper wrapper;
+            EXPECT_TRUE(wrapper.LoadXMLText(xml, false));
+            EXPECT_TRUE(wrapper.NodeExists("//*[count(@*) > 0]", true));
+        },
+        [&] { // views
+            const auto object = type.Create(false);
+            EXPECT_TRUE(LoadText(*object, xml));
+        },
+        [&] { // template stores
+            const auto object = type.Create(false);
+            EXPECT_TRUE(object->LoadFromTemplate(nullptr, TypedDataContainer::TDC_BASE_DATA_TEMPLATE,
+                                                 "StateProcessingRoot", true));
+        },
+        [&] { // override log, error of a parser
+            const auto object = type.Create(false);
+            EXPECT_FALSE(MergeText(*object, "F", "<StateProcessingRoot MergeAction='Nonsense'/>"));
+            XMLDataWrapper wrapper;
+            EXPECT_FALSE(wrapper.LoadXMLText("<a><b></a>", false));
+        },
+    };
+    const IssueCounter issues;
+    InThreads(kThreads, [&](unsigned number) {
+        for (std::size_t i = 0; i < std::size(firsts); ++i) {
+            firsts[(i + number / 2) % std::size(firsts)](); // two threads begin with the same
+        }
+    });
+    EXPECT_EQ(issues.count, static_cast<int>(kThreads));
+}
+
+TEST(Threads, EightGiveWhatOneGives) {
+    std::vector<std::unique_ptr<ExampleWork>> works;
+    std::vector<std::pair<Transcript, Transcript>> alone;
+    const IssueCounter issues;
+    for (const auto& [root, example] : Examples()) {
+        ExampleWork& work =
+            *works.emplace_back(std::make_unique<ExampleWork>(ContainerCatalog::FindRoot(root), example));
+        alone.emplace_back(work.WithOwnDocument(), work.WithSharedDocument());
+    }
+    const std::size_t shares = Robustness::FullSizes() ? 200 : 4;
+    std::atomic<std::size_t> next = 0;
+    InThreads(kThreads, [&](unsigned) {
+        // Neighbours in the order of work share an example, so that threads meet at it.
+        for (std::size_t job = next++; job < works.size() * shares; job = next++) {
+            const std::size_t which = job / shares;
+            ExampleWork& work = *works[which];
+            EXPECT_EQ(work.WithSharedDocument().DifferenceTo(alone[which].second), "") << work.Name();
+            if (job % 4 == 0) { // the disk decides how long that takes
+                EXPECT_EQ(work.WithOwnDocument().DifferenceTo(alone[which].first), "") << work.Name();
+            }
+        }
+    });
+    for (const std::unique_ptr<ExampleWork>& work : works) {
+        work->ExpectUnmoved();
+    }
+}
+
+/// The wrappers end in one thread while the others use, copy and destroy what they loaded through them.
+TEST(Threads, OutliveTheWrappersOfSharedDocumentsInAnyOrder) {
+    const CatalogClass type = ContainerCatalog::FindRoot("StateProcessingRoot");
+    for (unsigned seed = 1; seed <= (Robustness::FullSizes() ? 200U : 4U); ++seed) {
+        auto document = std::make_unique<XMLDataWrapper>();
+        auto source = std::make_unique<XMLDataWrapper>();
+        ASSERT_TRUE(document->LoadXMLText(SampleText(type, seed), true));
+        ASSERT_TRUE(source->LoadXMLText(SampleText(type, seed + 1), true));
+        const auto alone = type.Create(false);
+        ASSERT_TRUE(alone->LoadFromDataPacket(nullptr, document.get(), true));
+        const std::vector<std::string> loaded = Samples::Lines(*alone);
+        ASSERT_TRUE(alone->MergeFromDataPacket(nullptr, "F", source.get(), false));
+        const std::vector<std::string> merged = Samples::Lines(*alone);
+
+        std::vector<std::unique_ptr<TypedDataContainer>> objects(kThreads);
+        std::barrier together(kThreads);
+        InThreads(kThreads, [&](unsigned number) {
+            std::unique_ptr<TypedDataContainer>& object = objects[number];
+            object = type.Create(false);
+            EXPECT_TRUE(object->LoadFromDataPacket(nullptr, document.get(), number % 2 == 0));
+            EXPECT_TRUE(object->MergeFromDataPacket(nullptr, "F", source.get(), false));
+            together.arrive_and_wait();
+            if (number == seed % kThreads) {
+                document.reset();
+                source.reset();
+            }
+            EXPECT_EQ(Samples::Lines(*object), merged);
+            EXPECT_NE(object->GetContainedDataPtr(), nullptr);
+            std::unique_ptr<TypedDataContainer> clone(object->Clone());
+            EXPECT_EQ(clone == nullptr, number % 2 == 0);
+            together.arrive_and_wait();
+            objects[(number + 1) % kThreads].reset(); // a neighbour's
+            if (clone != nullptr) {
+                EXPECT_EQ(Samples::Lines(*clone), loaded);
+                EXPECT_NE(clone->GetContainedDataPtr()->GetXMLText(), "");
+            }
+        });
+    }
+}
+
+/// A wrapper that is not read only is loaded from by one thread; what only looks at its document may then be done by
+/// many.
+TEST(Threads, CopyAndMergeTreesOfOneWrapper) {
+    const CatalogClass type = ContainerCatalog::FindRoot("StateProcessingRoot");
+    const std::string override = SampleText(type, 2);
+    XMLDataWrapper wrapper;
+    ASSERT_TRUE(wrapper.LoadXMLText(SampleText(type, 1), false));
+    std::vector<std::unique_ptr<TypedDataContainer>> objects;
+    for (unsigned i = 0; i < kThreads; ++i) {
+        ASSERT_TRUE(objects.emplace_back(type.Create(false))->LoadFromDataPacket(nullptr, &wrapper, false));
+    }
+    XalanNode* const node = wrapper.SelectNode("StateTable", false);
+    const std::vector<std::string> loaded = Samples::Lines(*objects[0]);
+    InThreads(kThreads, [&](unsigned number) {
+        TypedDataContainer& object = *objects[number];
+        const std::unique_ptr<TypedDataContainer> clone(object.Clone());
+        EXPECT_EQ(Samples::Lines(*clone), loaded);
+        EXPECT_TRUE(MergeText(object, "F", override));
+        EXPECT_NE(DumpedByNode(object), DumpedByNode(*clone));
+        objects[number].reset();
+    });
+    EXPECT_EQ(wrapper.GetXalanNode("", false), node);
+}
+
+/// A document that was shared is edited in place by the last who has it. The order between that and the reads of those
+/// who let go of it before must not hang on luck: nothing else here makes one.
+TEST(Threads, EditWhatOthersHaveLetGo) {
+    const CatalogClass type = ContainerCatalog::FindClass("StateTableType");
+    std::string xml = "<StateTable>";
+    for (int i = 0; i < 50; ++i) {
+        xml += "<State Name='" + std::to_string(i) + "' BaseState='old'/>";
+    }
+    XMLDataWrapper source;
+    ASSERT_TRUE(source.LoadXMLText(xml + "</StateTable>", false)) << source.GetLastError();
+    std::unique_ptr<TypedDataContainer> objects[] = {type.Create(false), type.Create(false)};
+    for (const auto& object : objects) {
+        ASSERT_TRUE(LoadText(*object, "<StateTable/>"));
+        ASSERT_TRUE(object->MergeFromDataPacket(nullptr, "F", &source, false));
+    }
+    ASSERT_TRUE(source.LoadXMLText("<Else/>", false));
+    const auto expectText = [](TypedDataContainer& object, const zelString& text, const zelString& next) {
+        for (const Value& value : ValuesOf(object)) {
+            if (value.field.Name() == "BaseState") {
+                EXPECT_EQ(value.field.DocumentTexts(*value.object), std::vector<zelString>{text});
+                EXPECT_TRUE(value.Set(next));
+            }
+        }
+    };
+    std::atomic<bool> hasLetGo = false;
+    InThreads(2, [&](unsigned number) {
+        if (number == 0) {
+            expectText(*objects[0], "old", "");
+            objects[0].reset();
+            hasLetGo.store(true, std::memory_order_relaxed);
+            return;
+        }
+        while (!hasLetGo.load(std::memory_order_relaxed)) {
+            Zelvon::LinuxThreadTools::LinuxYieldThread();
+        }
+        expectText(*objects[1], "old", "new");
+        EXPECT_TRUE(objects[1]->UpdateContainedData());
+        expectText(*objects[1], "new", "");
+    });
+}
+
+/// One thread changes a keyed list, others look its keys up: for every keyed list of every class.
+TEST(Threads, LookUpKeysBesideOneThatAddsAndRemoves) {
+    const int count = Robustness::FullSizes() ? 2000 : 40;
+    const auto key = [](int number) { return SupportFunc::GetStrValue(number); };
+    std::size_t lists = 0;
+    for (const Framework::FieldTable* const table : Framework::FieldTableIndex::Tables()) {
+        for (const Framework::FieldRow& row : table->rows) {
+            if (row.form != Framework::FieldForm::KeyedList) {
+                continue;
+            }
+            SCOPED_TRACE(std::string(table->className) + "/" + std::string(row.name));
+            ++lists;
+            const std::unique_ptr<TypedDataContainer> object(table->create(true));
+            const CatalogField field(row);
+            const bool holdsTexts = row.value == Framework::FieldValue::String;
+            std::atomic<bool> done = false;
+            InThreads(3, [&](unsigned number) {
+                if (number > 0) {
+                    for (int i = 0; !done; i = (i + 7) % count) {
+                        if (holdsTexts) {
+                            const zelString text = Framework::TextByKey((*object).*row.map.texts, key(i));
+                            EXPECT_TRUE(text.empty() || text == "a text that is longer than " + key(i));
+                        } else {
+                            Framework::EntryByKey((*object).*row.map.entries, key(i));
+                        }
+                    }
+                    return;
+                }
+                for (int round = 0; round < 2; ++round) {
+                    for (int i = 0; i < count; ++i) {
+                        EXPECT_TRUE(holdsTexts ? field.AddText(*object, "a text that is longer than " + key(i), key(i))
+                                               : field.AddEntry(*object, key(i)) != nullptr);
+                    }
+                    for (int i = 0; !holdsTexts && i < count; i += 2) {
+                        Framework::RemoveKeyed(*object, row, key(i), "");
+                    }
+                    EXPECT_EQ(field.Length(*object), static_cast<std::size_t>(holdsTexts ? count : count / 2));
+                    field.Clear(*object);
+                }
+                done = true;
+            });
+        }
+    }
+    EXPECT_GT(lists, 40U);
+}
+
+TEST(Threads, AskTheCatalogAtOnce) {
+    InThreads(4, [](unsigned) {
+        for (const CatalogClass& type : ContainerCatalog::Classes()) {
+            const auto object = type.Create(false);
+            EXPECT_EQ(ContainerCatalog::ClassOf(*object).Name(), type.Name());
+            EXPECT_EQ(ContainerCatalog::FindClass(type.Name()).Name(), type.Name());
+            for (const CatalogField& field : type.Fields()) {
+                EXPECT_EQ(ContainerCatalog::FindField(type, field.Name())->Words(), field.Words());
+            }
+        }
+        for (const std::string_view root : ContainerCatalog::Roots()) {
+            EXPECT_EQ(ContainerCatalog::FindRoot(root).ElementName(), root);
+        }
+    });
+}
+
+TEST(Threads, SetWhatHoldsForTheWholeProcess) {
+    const std::vector<std::string_view> roots = ContainerCatalog::Roots();
+    std::atomic<int> issues = 0;
+    const auto count = [](void* context, const OverrideIssue&) { ++*static_cast<std::atomic<int>*>(context); };
+    InThreads(4, [&](unsigned number) {
+        for (std::size_t i = 0; i < roots.size(); i += 4) {
+            const std::string_view root = roots[(i + number) % roots.size()];
+            TypedDataContainer::SetOverrideIssueHandler(count, &issues);
+            LoadLimits::SetDefault(LoadLimits::Default());
+            const CatalogClass type = ContainerCatalog::FindRoot(root);
+            const std::string name(root);
+            const auto object = type.Create(false);
+            EXPECT_TRUE(TypedDataContainer::RegisterModel("threads", name.c_str(), SampleText(type, number)));
+            EXPECT_TRUE(object->LoadFromModel(nullptr, "threads", name.c_str(), false)) << object->GetLastError();
+            EXPECT_FALSE(MergeText(*object, "F", "<" + name + " MergeAction='Nonsense'/>"));
+            EXPECT_TRUE(MergeText(*object, "F", SampleText(type, number + 1)));
+            EXPECT_TRUE(object->UpdateContainedData());
+        }
+    });
+    EXPECT_GE(issues, static_cast<int>(roots.size()));
+    TypedDataContainer::SetOverrideIssueHandler(nullptr, nullptr);
+}
+
+} // namespace
