@@ -10,7 +10,7 @@
 #include "Framework/XMLSupport/PathLookup.h"
 #include "Framework/XMLSupport/PathMaker.h"
 #include "Framework/XMLSupport/Utf.h"
-#include "Framework/XMLSupport/WrapperState.h"
+#include "Framework/XMLSupport/WrapperGuard.h"
 
 using namespace Framework;
 
@@ -19,7 +19,7 @@ FullFunctionXMLDataWrapper::FullFunctionXMLDataWrapper() = default;
 FullFunctionXMLDataWrapper::~FullFunctionXMLDataWrapper() = default;
 
 bool FullFunctionXMLDataWrapper::CreateOutputDocument(const char* sRootName) {
-    try {
+    return Guarded(*m_pState, [&] {
         auto side = std::make_shared<DomSide>();
         side->document = NewDomDocument();
         if (sRootName != nullptr && *sRootName != '\0') {
@@ -30,29 +30,19 @@ bool FullFunctionXMLDataWrapper::CreateOutputDocument(const char* sRootName) {
         m_pState->dom = std::move(side);
         m_pState->domIsMaster = true;
         m_pState->isOutput = true;
-        return true;
-    } catch (const std::exception& failure) {
-        m_pState->SetError(-1, failure.what());
-        return false;
-    }
+    });
 }
 
 DOMDocument* FullFunctionXMLDataWrapper::GetOutputDocument() {
     if (!m_pState->domIsMaster && m_pState->IsLoaded()) {
-        m_pState->DomNode(m_pState->Tree()->Root());
+        m_pState->DomNodeOrNull(m_pState->Tree()->Root());
     }
     return m_pState->dom == nullptr ? nullptr : m_pState->dom->document.get();
 }
 
 DOMNode* FullFunctionXMLDataWrapper::FindOutputNode(const zelString& sQuery, bool bFromDocument, bool) {
     FaultPoint("FindOutputNode");
-    NodeRef node = NodeRef::None;
-    try {
-        node = m_pState->Find(sQuery, bFromDocument);
-    } catch (const std::runtime_error& failure) {
-        m_pState->SetError(-1, failure.what());
-    }
-    return m_pState->DomNode(node);
+    return m_pState->DomNodeOrNull(m_pState->FindOrNone(sQuery, bFromDocument));
 }
 
 bool FullFunctionXMLDataWrapper::CreateQueryPath(const zelString& sQuery) {
@@ -122,6 +112,10 @@ bool XMLDataWrapper::SetAttributeValue(const zelString& sValue, DOMNode* pAttrib
     if (!IsXmlText(sValue)) {
         return false;
     }
-    pAttribute->setNodeValue(ToUtf16(sValue).c_str());
-    return true;
+    try {
+        pAttribute->setNodeValue(ToUtf16(sValue).c_str());
+        return true;
+    } catch (const xercesc::DOMException&) { // a host may have made it read only
+        return false;
+    }
 }

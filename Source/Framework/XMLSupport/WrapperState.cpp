@@ -58,6 +58,15 @@ NodeRef WrapperState::Find(std::string_view path, bool fromDocument) {
     return FindByPath(*Tree(), Index(), start.node, start.rest);
 }
 
+NodeRef WrapperState::FindOrNone(std::string_view path, bool fromDocument) {
+    try {
+        return Find(path, fromDocument);
+    } catch (const std::runtime_error& failure) {
+        SetError(-1, failure.what());
+        return NodeRef::None;
+    }
+}
+
 WrapperState::PathStart WrapperState::StartOf(std::string_view path, bool fromDocument) const {
     if (output != nullptr && output->IsAbove(path)) {
         return {output->Node(), path.substr(std::min(path.size(), output->Query().size() + 1))};
@@ -116,6 +125,15 @@ DOMNode* WrapperState::DomNode(NodeRef node) {
     return image;
 }
 
+DOMNode* WrapperState::DomNodeOrNull(NodeRef node) {
+    try {
+        return DomNode(node);
+    } catch (const std::runtime_error& failure) {
+        SetError(-1, failure.what());
+        return nullptr;
+    }
+}
+
 TreeEditor& WrapperState::Edit() {
     if (readOnly) {
         throw WriteError("the document is read only");
@@ -162,10 +180,14 @@ void WrapperState::Share(WrapperState& other) const noexcept {
     other.readOnly = readOnly;
 }
 
-void WrapperState::SetError(int number, std::string text) {
+void WrapperState::SetError(int number, std::string_view text) noexcept {
     const std::unique_lock<std::mutex> lock = LockReading();
     m_errorNumber = number;
-    m_error = std::move(text);
+    try {
+        m_error.assign(text);
+    } catch (const std::bad_alloc&) {
+        m_error.assign("out of memory"); // short enough to stand in the string itself
+    }
 }
 
 std::string WrapperState::Error() const {

@@ -67,6 +67,8 @@ struct WrapperState {
     NodeRef Translate(NodeRef documentNode) const;
     /// The node that a query or name finds; None when there is none. Throws PathError.
     NodeRef Find(std::string_view path, bool fromDocument);
+    /// The same; a query that cannot be answered finds nothing, and the error tells why.
+    NodeRef FindOrNone(std::string_view path, bool fromDocument);
     /// Where a path starts, and what of it is left from there.
     struct PathStart {
         NodeRef node;
@@ -77,6 +79,8 @@ struct WrapperState {
     ChildIndex& Index();
     /// The DOM node that stands for a node of Tree(). Builds the DOM when there is none.
     DOMNode* DomNode(NodeRef node);
+    /// The same; null, and the error tells why, when the document cannot be turned over to a DOM.
+    DOMNode* DomNodeOrNull(NodeRef node);
     /// Write access to Tree(), good until the next call of anything else here. A document that is shared is copied
     /// first, so nobody else sees the change; numbers of nodes stay. Throws WriteError on a read-only document.
     TreeEditor& Edit();
@@ -95,7 +99,8 @@ struct WrapperState {
     /// Puts another state, a new one, over the same document, with nothing of the current node, queries and lists. The
     /// copy of a read-only document that callers read as a DOM stays with this one.
     void Share(WrapperState& other) const noexcept;
-    void SetError(int number, std::string text);
+    /// Never fails: where there is no memory for the text, the error is that.
+    void SetError(int number, std::string_view text) noexcept;
     std::string Error() const;
     int ErrorNumber() const;
 

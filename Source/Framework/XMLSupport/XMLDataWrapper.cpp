@@ -6,28 +6,10 @@
 #include "Framework/XMLSupport/FaultPoint.h"
 #include "Framework/XMLSupport/LoadsAgain.h"
 #include "Framework/XMLSupport/NodeViews.h"
-#include "Framework/XMLSupport/WrapperState.h"
+#include "Framework/XMLSupport/WrapperGuard.h"
 #include "Framework/XMLSupport/XmlWriter.h"
 
 using namespace Framework;
-
-namespace {
-
-/// Runs a step that may fail for reasons of its own (files, text that is not well-formed, memory) and keeps what it
-/// says.
-template <typename Step> bool Guarded(WrapperState& state, Step step) {
-    try {
-        step();
-        return true;
-    } catch (const std::bad_alloc&) {
-        state.SetError(-1, "out of memory");
-    } catch (const std::exception& failure) {
-        state.SetError(-1, failure.what());
-    }
-    return false;
-}
-
-} // namespace
 
 XMLDataWrapper::XMLDataWrapper() : m_pState(std::make_unique<WrapperState>()) {}
 
@@ -104,14 +86,12 @@ DOMNode* XMLDataWrapper::GetDOMNode(bool bRoot, bool) {
     if (!m_pState->IsLoaded()) {
         return nullptr;
     }
-    return m_pState->DomNode(bRoot ? m_pState->Tree()->Root() : m_pState->Here());
+    return m_pState->DomNodeOrNull(bRoot ? m_pState->Tree()->Root() : m_pState->Here());
 }
 
 DOMNode* XMLDataWrapper::GetDOMNode(const zelString& sQuery, bool bFromDocument) {
     FaultPoint("GetDOMNode");
-    NodeRef node = NodeRef::None;
-    Guarded(*m_pState, [&] { node = m_pState->Find(sQuery, bFromDocument); });
-    return m_pState->DomNode(node);
+    return m_pState->DomNodeOrNull(m_pState->FindOrNone(sQuery, bFromDocument));
 }
 
 DOMNode* XMLDataWrapper::GetDOMNode(const char* sQuery, bool bFromDocument) {
@@ -119,8 +99,7 @@ DOMNode* XMLDataWrapper::GetDOMNode(const char* sQuery, bool bFromDocument) {
 }
 
 XalanNode* XMLDataWrapper::GetXalanNode(const zelString& sQuery, bool bFromDocument) {
-    NodeRef node = NodeRef::None;
-    Guarded(*m_pState, [&] { node = m_pState->Find(sQuery, bFromDocument); });
+    const NodeRef node = m_pState->FindOrNone(sQuery, bFromDocument);
     return node == NodeRef::None ? nullptr : m_pState->Tree()->View(node);
 }
 

@@ -11,16 +11,6 @@ using namespace Framework;
 
 namespace {
 
-/// A query that cannot be answered finds nothing; the wrapper keeps the reason.
-NodeRef FindOrNone(WrapperState& state, const zelString& sName, bool bFromDocument) {
-    try {
-        return state.Find(sName, bFromDocument);
-    } catch (const std::runtime_error& failure) {
-        state.SetError(-1, failure.what());
-        return NodeRef::None;
-    }
-}
-
 XalanNode* Select(WrapperState& state, NodeRef node) {
     if (node == NodeRef::None) {
         return nullptr;
@@ -33,12 +23,12 @@ XalanNode* Select(WrapperState& state, NodeRef node) {
 
 bool XMLDataWrapper::NodeExists(const zelString& sName, bool bFromDocument) {
     FaultPoint("NodeExists");
-    return FindOrNone(*m_pState, sName, bFromDocument) != NodeRef::None;
+    return m_pState->FindOrNone(sName, bFromDocument) != NodeRef::None;
 }
 
 XalanNode* XMLDataWrapper::SelectNode(const zelString& sName, bool bFromDocument) {
     FaultPoint("SelectNode");
-    return Select(*m_pState, FindOrNone(*m_pState, sName, bFromDocument));
+    return Select(*m_pState, m_pState->FindOrNone(sName, bFromDocument));
 }
 
 bool XMLDataWrapper::LoadNodeList(const zelString& sName, const zelString& sQuery, int) {
@@ -99,7 +89,7 @@ zelString XMLDataWrapper::GetNodeAttribute(XalanNode* pNode, const zelString& sN
 
 zelString XMLDataWrapper::GetStringValue(const zelString& sName, bool bFromDocument) {
     FaultPoint("GetStringValue");
-    const NodeRef node = FindOrNone(*m_pState, sName, bFromDocument);
+    const NodeRef node = m_pState->FindOrNone(sName, bFromDocument);
     return node == NodeRef::None ? zelString() : zelString(TextOf(*m_pState->Tree(), node));
 }
 

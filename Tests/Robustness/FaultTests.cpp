@@ -1,0 +1,688 @@
+// An allocation or a call of the XML layer may fail at any moment. Each operation is run with chance number 0, 1, 2 and
+// so on failing, until it gets through; after every failure the object must be whole, and good for all that comes next.
+
+#include "Containers/EveryClass.h"
+#include "Containers/Values.h"
+#include "Robustness/FailingMemory.h"
+#include "Robustness/Sizes.h"
+
+#include <fstream>
+#include <set>
+#include <sstream>
+
+#include <unistd.h>
+#include <xercesc/dom/DOMException.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
+
+#include "Framework/FrameworkDataContainers/Walks/TableIndex.h"
+#include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/XmlRuntime.h"
+#include "FrameworkDataContainers/FrameworkDataContainers.h"
+
+namespace {
+
+// --- what the operations work on
+
+/// A document of one class, another one, and an override for it.
+struct Content {
+    CatalogClass type;
+    std::string xml;
+    std::string other;
+    std::string override;
+    std::vector<std::string> lines = {}; ///< what a load of the document gives
+};
+
+/// Values that need memory of their own, every form of field, every control word.
+std::vector<Content> LittleContents() {
+    const auto root = [](const char* name) { return ContainerCatalog::FindRoot(name); };
+    const std::string longText = "a text that is longer than what a string holds in itself";
+    return {
+        {root("LoadConfig"),
+         "<LoadConfig><ThreadChildList UniqueName='the platform of the lane'><ChildThread UniqueName='PowerMonitor'/>"
+         "<ChildThread UniqueName='the writer of the captures'><LibraryPath>" +
+             longText +
+             "</LibraryPath></ChildThread><ChildThread UniqueName='CommServer'/><DataStorageContainer>"
+             "<LoadPath>a</LoadPath></DataStorageContainer></ThreadChildList></LoadConfig>",
+         "<LoadConfig><ThreadChildList UniqueName='another one'/></LoadConfig>",
+         "<LoadConfig><ThreadChildList UniqueName='the platform of the lane'><ChildThread UniqueName='PowerMonitor' "
+         "MergeAction='Remove'/><ChildThread UniqueName='New' PlacementOrder='Before' PlacementIndex='CommServer'>"
+         "<LibraryPath>l</LibraryPath></ChildThread><ChildThread UniqueName='the writer of the captures' "
+         "MergeAction='Replace' PlacementOrder='First'/><ChildThread UniqueName='CommServer' MergeAction='Clear'>"
+         "<LibraryPath>x</LibraryPath></ChildThread><ChildThread UniqueName='None' MergeAction='Remove'/>"
+         "<DataStorageContainer/></ThreadChildList><ThreadChildList UniqueName='More' PlacementOrder='First'/>"
+         "</LoadConfig>"},
+        {root("StateProcessingRoot"),
+         "<StateProcessingRoot Version='1'><RevisionHistory fileName='the file of the states.xml'>" + longText +
+             "</RevisionHistory><StateTable Name='T'><State Name='Attract'><Doc>one</Doc><Doc>" + longText +
+             "</Doc><PreStateTrigger Index='1'><ActionRef>r</ActionRef><ActionResp><PostActionResp Result='2'/>"
+             "</ActionResp></PreStateTrigger></State></StateTable></StateProcessingRoot>",
+         "<StateProcessingRoot Version='the other'/>",
+         "<StateProcessingRoot Version='9'><RevisionHistory fileName='f' PlacementOrder='First'>h</RevisionHistory>"
+         "<RevisionHistory fileName='the file of the states.xml' MergeAction='Clear'>later</RevisionHistory>"
+         "<StateTable MergeAction='Clear'><State Name='Attract'><Doc>d</Doc><PreStateTrigger><ActionRef>r</ActionRef>"
+         "</PreStateTrigger></State><State Name='Attract' MergeAction='Clear'/></StateTable></StateProcessingRoot>"},
+        {root("CaptureConfig"),
+         "<CaptureConfig><WriteBufferSize>2</WriteBufferSize><Rules><Rule><SubRule><IsKindOf>" + longText +
+             "</IsKindOf><CaptureLevel>CAPTURE_LEVEL_NORMAL</CaptureLevel></SubRule></Rule></Rules></CaptureConfig>",
+         "<CaptureConfig/>",
+         "<CaptureConfig MergeAction='Clear'><Files><File><Name>n</Name></File></Files></CaptureConfig>"},
+        {root("ConfigDefRoot"),
+         "<ConfigDefRoot><ConfigurationDefinition><ConfigDef Name='the one'><XMLDefaultValue><![CDATA[<a>" + longText +
+             "</a>]]></XMLDefaultValue><Hidden>true</Hidden></ConfigDef></ConfigurationDefinition></ConfigDefRoot>",
+         "<ConfigDefRoot/>",
+         "<ConfigDefRoot MergeAction='Replace'><ConfigurationDefinition><ConfigDef Name='the one'><XMLDefaultValue>x"
+         "</XMLDefaultValue></ConfigDef></ConfigurationDefinition></ConfigDefRoot>"},
+    };
+}
+
+Content MadeUpContent(CatalogClass type, unsigned seed) {
+    Samples::Random random(seed);
+    const auto make = [&](int firstKey) {
+        return Samples::ToXml(Samples::Make(type, std::string(type.ElementName()), random, firstKey), random, false);
+    };
+    return {type, make(1), make(5), make(2)};
+}
+
+std::string PathFor(const char* name) {
+    return testing::TempDir() + "FaultTests." + std::to_string(::getpid()) + "." + name + ".xml";
+}
+
+std::string BytesOf(const std::string& path) {
+    std::ostringstream text;
+    text << std::ifstream(path).rdbuf();
+    return text.str();
+}
+
+constexpr const char* kStore = "FaultTests";
+constexpr const char* kOldBytes = "<what stood there before/>";
+
+struct Scene {
+    explicit Scene(const Content& which) : content(which), name(which.type.ElementName()) {
+        EXPECT_TRUE(document.LoadXMLText(content.xml, false)) << document.GetLastError();
+        Load(*object);
+    }
+    void Load(TypedDataContainer& into) {
+        EXPECT_TRUE(into.LoadFromDataPacket(nullptr, &document, false)) << into.GetLastError();
+    }
+
+    const Content& content;
+    std::string name;
+    XMLDataWrapper document; ///< that the object stands on
+    XMLDataWrapper source;
+    FullFunctionXMLDataWrapper output;
+    std::unique_ptr<TypedDataContainer> object = content.type.Create(false);
+    std::unique_ptr<TypedDataContainer> made;
+    std::unique_ptr<XMLDataWrapper> madeContent;
+    DOMNode* node = nullptr;
+};
+
+template <typename Class> Class& As(Scene& scene) {
+    return static_cast<Class&>(*scene.object);
+}
+
+void ChangeValues(Scene& scene) {
+    for (const Value& value : ValuesOf(*scene.object)) {
+        EXPECT_TRUE(value.Set(OtherThan(value.field, value.Get())));
+    }
+}
+
+/// Makes a tree like another one from nothing, by the catalogue alone.
+void Build(TypedDataContainer& object, TypedDataContainer& like) {
+    for (const CatalogField& field : ContainerCatalog::ClassOf(like).Fields()) {
+        if (field.IsScalar()) {
+            field.SetText(object, field.GetText(like));
+        } else if (TypedDataContainer* const child = field.GetChild(like)) {
+            Build(*field.MakeChild(object), *child);
+        }
+        for (std::size_t i = 0; i < field.Length(like); ++i) {
+            const zelString key = field.EntryKey(like, i);
+            if (TypedDataContainer* const entry = field.Entry(like, i)) {
+                Build(*field.AddEntry(object, key), *entry);
+            } else {
+                field.AddText(object, field.EntryText(like, i), key);
+            }
+        }
+    }
+}
+
+/// Takes every field's content out again, one way or the other.
+void TakeApart(TypedDataContainer& object) {
+    for (const CatalogField& field : ContainerCatalog::ClassOf(object).Fields()) {
+        if (field.IsList() && field.Length(object) > 1) {
+            field.RemoveEntry(object, 0);
+        }
+        field.Clear(object);
+    }
+}
+
+/// Where map and vector of a keyed list, or an entry's key and its key attribute, say different things.
+void FindDisagreements(TypedDataContainer& object, std::vector<std::string>& found) {
+    using namespace Framework;
+    const auto compare = [&](const FieldRow& row, auto& map, auto& entries) {
+        const std::string where = std::string(row.name) + " of " + object.GetBaseType();
+        std::set<const void*> inMap;
+        for (const auto& [key, entry] : map.contents()) {
+            inMap.insert(entry);
+            if constexpr (std::is_same_v<decltype(entry), TypedDataContainer* const>) {
+                if (!row.list->keyEquals(*entry, key)) {
+                    found.push_back(where + ": the entry under " + key + " has another key");
+                }
+            }
+        }
+        if (inMap != std::set<const void*>(entries.begin(), entries.end()) || inMap.size() != entries.size()) {
+            found.push_back(where + ": map and vector differ");
+        }
+    };
+    for (const FieldTable* table = TableOf(object); table != nullptr; table = table->parent) {
+        for (const FieldRow& row : table->rows) {
+            if (row.form == FieldForm::KeyedList && row.value == FieldValue::Container) {
+                compare(row, object.*row.map.entries, object.*row.member.entries);
+            } else if (row.form == FieldForm::KeyedList) {
+                compare(row, object.*row.map.texts, object.*row.member.keyedTexts);
+            }
+            TypedDataContainer* const child = row.child == nullptr ? nullptr : row.child->get(object);
+            if (child != nullptr) {
+                FindDisagreements(*child, found);
+            } else if (row.list != nullptr && row.value == FieldValue::Container) {
+                for (TypedDataContainer* const entry : object.*row.member.entries) {
+                    FindDisagreements(*entry, found);
+                }
+            }
+        }
+    }
+}
+
+std::vector<std::string> Disagreements(TypedDataContainer& object) {
+    std::vector<std::string> found;
+    FindDisagreements(object, found);
+    return found;
+}
+
+// --- the operations
+
+constexpr const char* kPopulate = "Unknown Exception occured in PopulateDataMembers";
+constexpr const char* kMerge = "Unknown Exception occured in MergeDataMembers";
+constexpr const char* kUpdate = "Unknown Exception occured in UpdateContainedData"; // of both dumps as well
+
+/// What is promised for the case that something fails within.
+enum class Promise {
+    EndsWithFalse, ///< no exception; false or null, and an error
+    EndsSomehow,   ///< no exception; the result may be true when it was only a part that failed
+    MayThrow,
+};
+/// What a failure does to the object.
+enum class Leaves {
+    AsItWas,         ///< in any case
+    AsItWasOrInvalid, ///< one that is still valid was not touched
+    Whole,
+};
+
+struct Operation {
+    const char* name;
+    Promise promise;
+    Leaves leaves;
+    void (*prepare)(Scene& scene);
+    bool (*run)(Scene& scene);
+    void (*check)(Scene& scene, bool success) = nullptr;
+    const char* onlyFor = nullptr; ///< a class
+};
+
+void LoadSource(Scene& scene, const std::string& xml) {
+    EXPECT_TRUE(scene.source.LoadXMLText(xml, false)) << scene.source.GetLastError();
+}
+void LoadOther(Scene& scene) {
+    LoadSource(scene, scene.content.other);
+}
+void LoadOverride(Scene& scene) {
+    LoadSource(scene, scene.content.override);
+}
+void Nothing(Scene&) {}
+
+void WriteFile(Scene& scene) {
+    std::ofstream(PathFor("in")) << scene.content.override;
+    std::ofstream(PathFor("out")) << kOldBytes;
+}
+void Register(Scene& scene) {
+    EXPECT_TRUE(TypedDataContainer::RegisterTemplate(kStore, scene.name.c_str(), scene.content.override));
+    EXPECT_TRUE(TypedDataContainer::RegisterModel(kStore, scene.name.c_str(), scene.content.override));
+}
+void TakeDomNode(Scene& scene) {
+    LoadOverride(scene);
+    scene.node = scene.source.GetDOMNode(true, false);
+}
+void StartOutput(Scene& scene) {
+    EXPECT_TRUE(scene.output.CreateOutputDocument(scene.name.c_str())) << scene.output.GetLastError();
+}
+void ChangeOnDom(Scene& scene) {
+    EXPECT_NE(scene.document.GetDOMNode(true, false), nullptr);
+    ChangeValues(scene);
+}
+void UpdateSome(Scene& scene) {
+    ChangeValues(scene);
+    EXPECT_TRUE(scene.object->UpdateContainedData());
+}
+void UpdateSomeOnDom(Scene& scene) {
+    ChangeOnDom(scene);
+    EXPECT_TRUE(scene.object->UpdateContainedData());
+}
+void StandOnNothing(Scene& scene) {
+    scene.object = scene.content.type.Create(false);
+    EXPECT_TRUE(MergeText(*scene.object, "F", scene.content.xml));
+}
+void DoubleKeys(Scene& scene) {
+    auto& list = As<ThreadChildListType>(scene);
+    for (const char* const key : {"a", "a", "b"}) {
+        list.AddNewChildThread(new ChildThreadType(false), key);
+    }
+    list.AddNewChildThread(list.GetChildThread("b"), "a second key of the same entry");
+    list.RemoveChildThread("a", "none of this feature");
+}
+
+void CheckUpdated(Scene& scene, bool) {
+    XMLDataWrapper half;
+    EXPECT_TRUE(half.LoadXMLText(scene.document.GetXMLText(), false)) << half.GetLastError();
+    EXPECT_TRUE(scene.object->UpdateContainedData());
+    const auto fresh = scene.content.type.Create(false);
+    EXPECT_TRUE(LoadText(*fresh, scene.document.GetXMLText()));
+    EXPECT_EQ(Samples::Lines(*fresh), Samples::Lines(*scene.object));
+}
+void CheckSource(Scene& scene, bool success) {
+    EXPECT_EQ(scene.source.GetXMLText(), success ? scene.content.override : scene.content.other);
+    EXPECT_TRUE(success || scene.source.GetLastErrorNum() == -1);
+}
+void CheckFile(Scene& scene, bool success) {
+    EXPECT_TRUE(success || BytesOf(PathFor("out")) == kOldBytes);
+    EXPECT_TRUE(!success || scene.document.LoadXMLFile(PathFor("out").c_str(), true)) << scene.document.GetLastError();
+}
+void CheckOutput(Scene& scene, bool) {
+    EXPECT_FALSE(scene.output.GetXMLText().empty()) << scene.output.GetLastError();
+}
+void CheckDocument(Scene& scene, bool success) {
+    EXPECT_TRUE(success || scene.document.GetLastErrorNum() == -1);
+    EXPECT_FALSE(scene.document.GetXMLText().empty()) << scene.document.GetLastError();
+}
+void CheckMade(Scene& scene, bool) {
+    if (scene.made != nullptr) {
+        Samples::Lines(*scene.made);
+        EXPECT_EQ(Disagreements(*scene.made), std::vector<std::string>());
+    }
+}
+
+constexpr const char* kNewValue = "a new value that is longer than what a string holds in itself";
+
+/// The value of the first attribute or leaf below the root, by path.
+std::string SomePath(Scene& scene) {
+    return scene.name == "LoadConfig" ? "ThreadChildList/@UniqueName" : "*[1]/descendant-or-self::*[not(*)]";
+}
+
+const Operation operations[] = {
+    {"LoadFromDataPacket", Promise::EndsSomehow, Leaves::AsItWasOrInvalid, &LoadOther,
+     [](Scene& s) { return s.object->LoadFromDataPacket(nullptr, &s.source, false); }},
+    {"LoadFromFile", Promise::EndsSomehow, Leaves::AsItWasOrInvalid, &WriteFile,
+     [](Scene& s) { return s.object->LoadFromFile(nullptr, PathFor("in").c_str(), true); }},
+    {"LoadFromTemplate", Promise::EndsSomehow, Leaves::AsItWasOrInvalid, &Register,
+     [](Scene& s) { return s.object->LoadFromTemplate(nullptr, kStore, s.name.c_str(), false); }},
+    {"LoadFromModel", Promise::EndsSomehow, Leaves::AsItWasOrInvalid, &Register,
+     [](Scene& s) { return s.object->LoadFromModel(nullptr, kStore, s.name.c_str(), false); }},
+    {"LoadFromDOMNode", Promise::EndsSomehow, Leaves::AsItWasOrInvalid, &TakeDomNode,
+     [](Scene& s) { return s.object->LoadFromDOMNode(nullptr, s.node, false); }},
+    {"SetContainedDataPtr", Promise::EndsSomehow, Leaves::Whole, &LoadOther,
+     [](Scene& s) { return s.object->SetContainedDataPtr(&s.source, nullptr, false, true); }},
+    {"MergeFromDataPacket", Promise::EndsSomehow, Leaves::Whole, &LoadOverride,
+     [](Scene& s) { return s.object->MergeFromDataPacket(nullptr, "the feature of the night", &s.source, false); }},
+    {"MergeFromFile", Promise::EndsSomehow, Leaves::Whole, &WriteFile,
+     [](Scene& s) { return s.object->MergeFromFile(nullptr, PathFor("in").c_str()); }},
+    {"MergeFromTemplate", Promise::EndsSomehow, Leaves::Whole, &Register,
+     [](Scene& s) { return s.object->MergeFromTemplate(nullptr, kStore, s.name.c_str()); }},
+    {"MergeFromModel", Promise::EndsSomehow, Leaves::Whole, &Register,
+     [](Scene& s) { return s.object->MergeFromModel(nullptr, kStore, s.name.c_str()); }},
+    {"MergeFromDOMNode", Promise::EndsSomehow, Leaves::Whole, &TakeDomNode,
+     [](Scene& s) { return s.object->MergeFromDOMNode(nullptr, "F", s.node); }},
+    {"UpdateContainedData", Promise::EndsSomehow, Leaves::AsItWas, &ChangeValues,
+     [](Scene& s) { return s.object->UpdateContainedData(); }, &CheckUpdated},
+    {"UpdateContainedData on a DOM", Promise::EndsSomehow, Leaves::AsItWas, &ChangeOnDom,
+     [](Scene& s) { return s.object->UpdateContainedData(); }, &CheckUpdated},
+    {"DumpMergeContents", Promise::EndsWithFalse, Leaves::AsItWas, &StartOutput,
+     [](Scene& s) { return s.object->DumpMergeContents("", &s.output, -1, true); }, &CheckOutput},
+    {"DumpMergeContentsII", Promise::EndsWithFalse, Leaves::AsItWas, &StartOutput,
+     [](Scene& s) {
+         DOMNode* passed = nullptr;
+         return s.object->DumpMergeContentsII(nullptr, &s.output, passed, true);
+     },
+     &CheckOutput},
+    {"BuildAndReturnDataContent", Promise::EndsWithFalse, Leaves::AsItWas, &Nothing,
+     [](Scene& s) {
+         s.madeContent.reset(s.object->BuildAndReturnDataContent());
+         return s.madeContent != nullptr;
+     }},
+    {"SaveContents", Promise::EndsWithFalse, Leaves::AsItWas, &WriteFile,
+     [](Scene& s) { return s.object->SaveContents(PathFor("out").c_str()); }, &CheckFile},
+    {"DumpMergeResults", Promise::EndsWithFalse, Leaves::AsItWas, &WriteFile,
+     [](Scene& s) { return s.object->DumpMergeResults(PathFor("out").c_str()); }, &CheckFile},
+    {"Clone", Promise::MayThrow, Leaves::AsItWas, &Nothing,
+     [](Scene& s) {
+         s.made.reset(s.object->Clone());
+         return s.made != nullptr;
+     },
+     &CheckMade},
+    {"Clone of what stands on no document", Promise::MayThrow, Leaves::AsItWas, &StandOnNothing,
+     [](Scene& s) {
+         s.made.reset(s.object->Clone());
+         return s.made != nullptr;
+     },
+     &CheckMade},
+    {"LoadXMLText", Promise::EndsWithFalse, Leaves::AsItWas, &LoadOther,
+     [](Scene& s) { return s.source.LoadXMLText(s.content.override, false); }, &CheckSource},
+    {"LoadXMLFile", Promise::EndsWithFalse, Leaves::AsItWas,
+     [](Scene& s) {
+         WriteFile(s);
+         LoadOther(s);
+     },
+     [](Scene& s) { return s.source.LoadXMLFile(PathFor("in").c_str(), false); }, &CheckSource},
+    {"GetXMLText", Promise::EndsWithFalse, Leaves::AsItWas, &UpdateSome,
+     [](Scene& s) { return !s.document.GetXMLText().empty(); }, &CheckDocument},
+    {"GetXMLText of a DOM", Promise::EndsWithFalse, Leaves::AsItWas, &UpdateSomeOnDom,
+     [](Scene& s) { return !s.document.GetXMLText().empty(); }, &CheckDocument},
+    {"SaveXMLFile", Promise::EndsWithFalse, Leaves::AsItWas,
+     [](Scene& s) {
+         UpdateSome(s);
+         WriteFile(s);
+     },
+     [](Scene& s) { return s.document.SaveXMLFile(PathFor("out").c_str()); }, &CheckFile},
+    {"CreateOutputDocument", Promise::EndsWithFalse, Leaves::AsItWas, &StartOutput,
+     [](Scene& s) { return s.output.CreateOutputDocument("ARootWithANameThatIsLong"); }, &CheckOutput},
+    {"GetDOMNode", Promise::MayThrow, Leaves::AsItWas, &Nothing,
+     [](Scene& s) { return s.document.GetDOMNode(true, false) != nullptr; }, &CheckDocument},
+    {"an XPath query", Promise::MayThrow, Leaves::AsItWas, &Nothing,
+     [](Scene& s) { return s.document.NodeExists("//*[contains('a long text, ' , ', ') and last() >= 1]", true); },
+     &CheckDocument},
+    {"SetQueryValue", Promise::MayThrow, Leaves::AsItWas, &Nothing,
+     [](Scene& s) { return s.document.SetQueryValue(SomePath(s), kNewValue, false); }, &CheckDocument},
+    {"building by the catalogue", Promise::MayThrow, Leaves::Whole,
+     [](Scene& s) {
+         s.made = std::move(s.object);
+         s.object = s.content.type.Create(false);
+     },
+     [](Scene& s) {
+         Build(*s.object, *s.made);
+         return Samples::Lines(*s.object) == Samples::Lines(*s.made);
+     }},
+    {"taking apart by the catalogue", Promise::MayThrow, Leaves::Whole, &Nothing,
+     [](Scene& s) {
+         TakeApart(*s.object);
+         return true;
+     }},
+    {"SetText", Promise::MayThrow, Leaves::Whole, &Nothing,
+     [](Scene& s) {
+         for (const Value& value : ValuesOf(*s.object)) {
+             if (value.field.GetForm() != CatalogField::Attribute) { // which may be a key
+                 value.Set(OtherThan(value.field, value.Get()));
+             }
+         }
+         return true;
+     }},
+    {"RegisterTemplate", Promise::MayThrow, Leaves::AsItWas, &Nothing,
+     [](Scene& s) { return TypedDataContainer::RegisterTemplate("a store of its own", s.name.c_str(), s.content.xml); }},
+    {"ResetDataMembers", Promise::EndsSomehow, Leaves::Whole, &Nothing,
+     [](Scene& s) {
+         s.object->ResetDataMembers();
+         return true;
+     }},
+    {"Clear", Promise::EndsSomehow, Leaves::Whole, &Nothing,
+     [](Scene& s) {
+         s.object->Clear();
+         return true;
+     }},
+    {"the destructor", Promise::EndsSomehow, Leaves::Whole, &Nothing,
+     [](Scene& s) {
+         s.object.reset();
+         s.object = nullptr;
+         return true;
+     },
+     [](Scene& s, bool) { s.object = s.content.type.Create(false); }},
+    {"the destructor with keys and entries that do not go together", Promise::EndsSomehow, Leaves::Whole, &DoubleKeys,
+     [](Scene& s) {
+         s.object.reset();
+         return true;
+     },
+     [](Scene& s, bool) { s.object = s.content.type.Create(false); }, "ThreadChildListType"},
+    {"the lists of containers", Promise::MayThrow, Leaves::Whole, &LoadOther,
+     [](Scene& s) {
+         auto& list = As<ThreadChildListType>(s);
+         auto fresh = std::make_unique<ChildThreadType>(false);
+         fresh->SetUniqueName("a key that needs some memory");
+         list.AddNewChildThread(fresh.release(), "a key that needs some memory");
+         list.AddNewDataStorageContainer(new DataStorageContainerType(false));
+         list.AddChildThread(&s.source, s.source.GetXalanNode("ChildThread", false), "the key of the other thread");
+         list.AddDataStorageContainer(&s.source, s.source.GetXalanNode("DataStorageContainer", false));
+         const bool hasGrown = list.GetDataStorageContainer(list.GetDataStorageContainerLength()) != nullptr;
+         list.RemoveChildThread("a key that needs some memory", "");
+         list.GetDataStorageContainer(0)->AddNewLoadPath(kNewValue);
+         list.GetDataStorageContainer(0)->GetLoadPath(9);
+         list.GetDataStorageContainer(0)->AddLoadPath(kNewValue);
+         list.ClearChildThread();
+         list.ClearDataStorageContainer();
+         return hasGrown;
+     },
+     nullptr, "ThreadChildListType"},
+    {"the setters and lists of texts", Promise::MayThrow, Leaves::Whole, &Nothing,
+     [](Scene& s) {
+         auto& list = As<StateActionListType>(s);
+         list.SetTrigger(kNewValue);
+         list.SetActionListCached(true);
+         list.AddDoc(kNewValue, "a number that needs some memory");
+         auto item = std::make_unique<ActionItemType>(false);
+         item->SetIndex("the index of the item");
+         item->SetActionResp(new ActionRespType(false));
+         item->SetActionResp(new ActionRespType(false));
+         list.AddNewActionItem(item.release(), "the index of the item");
+         list.ClearDoc();
+         return true;
+     },
+     nullptr, "StateActionListType"},
+    {"the lists of words", Promise::MayThrow, Leaves::Whole, &Nothing,
+     [](Scene& s) {
+         auto& rule = As<CaptureConfigSubRuleType>(s);
+         rule.AddCaptureLevel("CAPTURE_LEVEL_NORMAL");
+         rule.AddNewCaptureLevel(new CaptureLevelType);
+         rule.GetCaptureLevel(9);
+         rule.ClearCaptureLevel();
+         return true;
+     },
+     nullptr, "CaptureConfigSubRuleType"},
+};
+
+std::vector<Content> TypedContents() {
+    const auto type = [](const char* name) { return ContainerCatalog::FindClass(name); };
+    return {
+        {type("ThreadChildListType"),
+         "<ThreadChildList UniqueName='u'><ChildThread UniqueName='the thread with the long name'/></ThreadChildList>",
+         "<ThreadChildList><ChildThread UniqueName='the key of the other thread'/><DataStorageContainer><LoadPath>"
+         "a path that is long enough</LoadPath></DataStorageContainer></ThreadChildList>",
+         "<ThreadChildList/>"},
+        {type("StateActionListType"), "<StateActionList Trigger='t'><Doc>d</Doc></StateActionList>",
+         "<StateActionList/>", "<StateActionList/>"},
+        {type("CaptureConfigSubRuleType"),
+         "<CaptureConfigSubRule><CaptureLevel>CAPTURE_LEVEL_ERROR</CaptureLevel></CaptureConfigSubRule>",
+         "<CaptureConfigSubRule/>", "<CaptureConfigSubRule/>"},
+    };
+}
+
+// --- the sweeps
+
+/// What fails, and how: armed for one run of an operation with one chance.
+struct Fault {
+    std::function<void(long k)> arm;
+    std::function<bool()> disarm;          ///< whether the chance came
+    std::function<bool()> isExpectedThrow; ///< called in a handler: whether that exception may leave what may throw
+};
+
+Fault MemoryFault(bool fromThenOn, FailingMemory::Level level = FailingMemory::Level::New) {
+    const auto memory = std::make_shared<std::optional<FailingMemory>>();
+    return {[=](long k) { memory->emplace(k, fromThenOn, level); },
+            [=] {
+                memory->reset();
+                return FailingMemory::HasFailed();
+            },
+            [] {
+                try {
+                    throw;
+                } catch (const std::bad_alloc&) {
+                    return true;
+                } catch (...) {
+                    return false;
+                }
+            }};
+}
+
+thread_local long stepsLeft = -1;
+thread_local int thrownKind = 0;
+
+void FailAtStep(const char* where) {
+    if (stepsLeft < 0 || stepsLeft-- > 0) {
+        return;
+    }
+    switch (thrownKind) {
+    case 0:
+        throw std::runtime_error(where);
+    case 1:
+        throw std::bad_alloc();
+    case 2:
+        throw xercesc::DOMException(xercesc::DOMException::NO_MODIFICATION_ALLOWED_ERR, 0);
+    case 3:
+        throw xercesc::OutOfMemoryException();
+    default:
+        throw 42;
+    }
+}
+constexpr int kKinds = 5;
+
+Fault StepFault() {
+    return {[](long k) {
+                stepsLeft = k / kKinds;
+                thrownKind = static_cast<int>(k % kKinds);
+                Framework::faultFunction = &FailAtStep;
+            },
+            [] {
+                Framework::faultFunction = nullptr;
+                return stepsLeft < 0;
+            },
+            [] { return true; }};
+}
+
+/// The object can be read whole, merged, dumped, reset and loaded like a new one.
+void CheckWhole(Scene& scene) {
+    EXPECT_TRUE(MergeText(*scene.object, "G", scene.content.override)) << scene.object->GetLastError();
+    const std::unique_ptr<XMLDataWrapper> dump(scene.object->BuildAndReturnDataContent());
+    EXPECT_NE(dump, nullptr) << scene.object->GetLastError();
+    scene.object->ResetDataMembers();
+    EXPECT_TRUE(LoadText(*scene.object, scene.content.xml)) << scene.object->GetLastError();
+    EXPECT_EQ(Samples::Lines(*scene.object), scene.content.lines);
+    EXPECT_EQ(Disagreements(*scene.object), std::vector<std::string>());
+}
+
+/// What an object says after a failure: the text of its walk, or that of the outer operation.
+void CheckError(Scene& scene) {
+    static const std::set<std::string> texts = {kPopulate, kMerge, kUpdate, "out of memory",
+                                                "an exception of unknown kind"};
+    const zelString error = scene.object->GetLastError();
+    const bool isStep = error.find(' ') == zelString::npos; // the name of the step that threw
+    EXPECT_TRUE(isStep || texts.contains(error)) << error;
+    EXPECT_EQ(scene.object->GetLastErrorNum(), error.empty() ? 0 : -1);
+}
+
+/// One run with that chance failing; whether it came.
+bool Fails(const Operation& operation, const Content& content, const Fault& fault, long k) {
+    IssueRecorder recorder;
+    Scene scene(content);
+    operation.prepare(scene);
+    const std::vector<std::string> before = Samples::Lines(*scene.object);
+    const std::vector<std::string> disagreements = Disagreements(*scene.object);
+    bool success = false;
+    bool threw = false;
+    fault.arm(k);
+    try {
+        success = operation.run(scene);
+    } catch (...) {
+        threw = true;
+        fault.disarm();
+        EXPECT_TRUE(fault.isExpectedThrow());
+        EXPECT_EQ(operation.promise, Promise::MayThrow);
+    }
+    const bool failed = fault.disarm();
+    EXPECT_TRUE(failed || (success && !threw));
+    EXPECT_TRUE(!failed || !success || operation.promise != Promise::EndsWithFalse);
+    if (operation.check != nullptr) {
+        operation.check(scene, success);
+    }
+    if (failed && scene.object->GetLastErrorNum() != -2) {
+        CheckError(scene);
+    }
+    const std::vector<std::string> after = Samples::Lines(*scene.object);
+    if (operation.leaves == Leaves::AsItWas ||
+        (operation.leaves == Leaves::AsItWasOrInvalid && !success && scene.object->Valid())) {
+        EXPECT_EQ(after, before);
+        EXPECT_EQ(Disagreements(*scene.object), disagreements);
+    } else {
+        EXPECT_EQ(Disagreements(*scene.object), std::vector<std::string>());
+    }
+    CheckWhole(scene);
+    return failed;
+}
+
+/// Every chance up to a number of them, and from there on ever more apart, so that `most` is about twice that number.
+void SweepOne(const Operation& operation, const Content& content, const Fault& fault, long most) {
+    SCOPED_TRACE(std::string(operation.name) + " on " + std::string(content.type.Name()));
+    const testing::TestResult& result = *testing::UnitTest::GetInstance()->current_test_info()->result();
+    const int failuresBefore = result.total_part_count();
+    long k = 0;
+    long runs = 0;
+    while (Fails(operation, content, fault, k)) {
+        if (result.total_part_count() > failuresBefore) {
+            ADD_FAILURE() << "when chance " << k << " fails";
+            return;
+        }
+        k += ++runs < most / 2 ? 1 : 1 + (k - most / 2) / 8 + (k % 3);
+    }
+}
+
+void Sweep(const Fault& fault, std::vector<Content> contents, long most) {
+    Framework::EnsureXPathRuntime(); // how that fails is another matter
+    for (Content& content : contents) {
+        const auto object = content.type.Create(false);
+        ASSERT_TRUE(LoadText(*object, content.xml));
+        content.lines = Samples::Lines(*object);
+        for (const Operation& operation : operations) {
+            if (operation.onlyFor == nullptr || operation.onlyFor == content.type.Name()) {
+                SweepOne(operation, content, fault, most);
+            }
+        }
+    }
+}
+
+void SweepAll(const Fault& fault) {
+    const bool full = Robustness::FullSizes();
+    const long most = full ? 1000000 : 40;
+    Sweep(fault, LittleContents(), most);
+    Sweep(fault, TypedContents(), most);
+    if (full) {
+        std::vector<Content> contents;
+        unsigned seed = 0;
+        ForEveryClass([&](CatalogClass type) { contents.push_back(MadeUpContent(type, ++seed)); });
+        Sweep(fault, std::move(contents), 40);
+    }
+}
+
+TEST(Faults, AnyAllocationMayFail) {
+    SweepAll(MemoryFault(false));
+}
+
+TEST(Faults, AnyAllocationAndAllBehindItMayFail) {
+    SweepAll(MemoryFault(true));
+}
+
+TEST(Faults, AnyStepOfTheXmlLayerMayFail) {
+    SweepAll(StepFault());
+}
+
+} // namespace
