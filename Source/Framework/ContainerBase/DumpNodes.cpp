@@ -1,6 +1,7 @@
 #include "Framework/ContainerBase/ContainerAccess.h"
 #include "Framework/XMLSupport/DomNodes.h"
 #include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/XmlMemory.h"
 
 #include <stdexcept>
 
@@ -14,7 +15,7 @@ namespace {
 template <typename Step> bool Append(TypedDataContainer& object, const char* where, Step step) {
     FaultPoint(where);
     try {
-        step();
+        WithBadAlloc(step);
         return true;
     } catch (const std::invalid_argument& failure) {
         object.SetLastError(-1, "%s: %s", object.GetContainerName().c_str(), failure.what());

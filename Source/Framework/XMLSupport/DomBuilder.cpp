@@ -1,6 +1,7 @@
 #include "Framework/XMLSupport/DomBuilder.h"
 
 #include "Framework/XMLSupport/Utf.h"
+#include "Framework/XMLSupport/XmlMemory.h"
 #include "Framework/XMLSupport/XmlRuntime.h"
 
 #include <stdexcept>
@@ -111,7 +112,7 @@ DOMNode* Builder::MakeElement(NodeRef node) {
 
 DomDocumentPtr NewDomDocument() {
     EnsureXmlRuntime();
-    return DomDocumentPtr(xercesc::DOMImplementation::getImplementation()->createDocument());
+    return NewDocumentInXmlMemory();
 }
 
 DomDocumentPtr BuildDom(const XmlTree& tree, const NodePairing& pairing) {

@@ -59,7 +59,10 @@ bool HasChildren(const DOMNode* node) {
 } // namespace
 
 void ReleaseDomDocument::operator()(xercesc::DOMDocument* document) const noexcept {
-    document->release();
+    try {
+        document->release(); // tells a host's data handlers
+    } catch (...) {          // nobody is left to be told
+    }
 }
 
 DomTree::DomTree(xercesc::DOMDocument* document) : m_document(document) {}

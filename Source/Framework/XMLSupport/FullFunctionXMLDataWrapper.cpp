@@ -11,6 +11,7 @@
 #include "Framework/XMLSupport/PathMaker.h"
 #include "Framework/XMLSupport/Utf.h"
 #include "Framework/XMLSupport/WrapperGuard.h"
+#include "Framework/XMLSupport/XmlMemory.h"
 
 using namespace Framework;
 
@@ -79,7 +80,7 @@ bool FullFunctionXMLDataWrapper::AppendElementValue(DOMNode* pParent, const zelS
         DOMDocument* const document = pParent->getNodeType() == DOMNode::DOCUMENT_NODE
                                           ? static_cast<DOMDocument*>(pParent)
                                           : pParent->getOwnerDocument();
-        AppendTextElement(*pParent, *document, sName, sValue);
+        WithBadAlloc([&] { AppendTextElement(*pParent, *document, sName, sValue); });
         return true;
     } catch (const std::invalid_argument& failure) {
         m_pState->SetError(-1, failure.what());
@@ -91,7 +92,7 @@ bool FullFunctionXMLDataWrapper::AppendElementValue(DOMNode* pParent, const zelS
 
 DOMNode* XMLDataWrapper::CreateNewElement(const zelString& sName, DOMDocument* pDoc) {
     try {
-        return NewElement(*pDoc, sName);
+        return WithBadAlloc([&] { return NewElement(*pDoc, sName); });
     } catch (const std::invalid_argument&) {
         return nullptr;
     }
@@ -102,7 +103,7 @@ DOMNode* XMLDataWrapper::CreateNewAttribute(const zelString& sName, DOMDocument*
         return nullptr;
     }
     try {
-        return pDoc->createAttribute(ToUtf16(sName).c_str());
+        return WithBadAlloc([&] { return pDoc->createAttribute(ToUtf16(sName).c_str()); });
     } catch (const xercesc::DOMException&) {
         return nullptr;
     }
@@ -113,7 +114,7 @@ bool XMLDataWrapper::SetAttributeValue(const zelString& sValue, DOMNode* pAttrib
         return false;
     }
     try {
-        pAttribute->setNodeValue(ToUtf16(sValue).c_str());
+        WithBadAlloc([&] { pAttribute->setNodeValue(ToUtf16(sValue).c_str()); });
         return true;
     } catch (const xercesc::DOMException&) { // a host may have made it read only
         return false;

@@ -4,6 +4,7 @@
 #include "Framework/XMLSupport/TextHash.h"
 #include "Framework/XMLSupport/TreeReading.h"
 #include "Framework/XMLSupport/Utf.h"
+#include "Framework/XMLSupport/XmlMemory.h"
 #include "Framework/XMLSupport/XmlRuntime.h"
 
 #include <deque>
@@ -20,8 +21,7 @@ namespace {
 
 xalan::XalanDOMString ToXalan(std::string_view text) {
     const std::u16string wide = ToUtf16(text);
-    return xalan::XalanDOMString(wide.data(), xalan::XalanMemMgrs::getDefaultXercesMemMgr(),
-                                 static_cast<xalan::XalanSize_t>(wide.size()));
+    return xalan::XalanDOMString(wide.data(), XmlMemory(), static_cast<xalan::XalanSize_t>(wide.size()));
 }
 
 /// From node to view, without an allocation for each; entries are never taken out.
@@ -171,14 +171,16 @@ const ViewName& ViewStore::Intern(std::string_view name, NodeKind kind) {
     }
     const bool real = kind == NodeKind::Element || kind == NodeKind::Attribute || kind == NodeKind::Instruction;
     const std::size_t colon = real ? name.find(':') : std::string_view::npos;
-    ViewName made{std::string(name), ToXalan(name), {}, {}};
-    if (colon != std::string_view::npos) {
-        made.prefix = ToXalan(name.substr(0, colon));
-    }
-    if (real) {
-        made.local = ToXalan(colon == std::string_view::npos ? name : name.substr(colon + 1));
-    }
-    const ViewName& kept = m_names.emplace_back(std::move(made));
+    std::string utf8(name);
+    Text whole = ToXalan(name);
+    Text prefix = ToXalan(colon == std::string_view::npos ? "" : name.substr(0, colon));
+    Text local = ToXalan(!real ? "" : colon == std::string_view::npos ? name : name.substr(colon + 1));
+    // Swapped into place: a copy would take its memory from Xerces' own manager.
+    ViewName& kept = m_names.emplace_back();
+    kept.utf8.swap(utf8);
+    kept.whole.swap(whole);
+    kept.prefix.swap(prefix);
+    kept.local.swap(local);
     m_nameIndex.emplace(kept.utf8, &kept);
     return kept;
 }
@@ -277,18 +279,20 @@ const AttributeList& ViewStore::AttributesOf(NodeRef element, std::atomic<const 
 }
 
 void ViewStore::NumberNodes() {
+    std::unordered_map<NodeRef, unsigned long> indexes;
     unsigned long index = 0;
     const NodeRef top = m_tree.DocumentNode();
     for (NodeRef node = top; node != NodeRef::None; node = NextInOrder(m_tree, node, top)) {
-        m_indexes.emplace(node, ++index);
+        indexes.emplace(node, ++index);
         if (m_tree.Kind(node) != NodeKind::Element) {
             continue;
         }
         for (NodeRef attribute = m_tree.FirstAttribute(node); attribute != NodeRef::None;
              attribute = m_tree.NextSibling(attribute)) {
-            m_indexes.emplace(attribute, ++index);
+            indexes.emplace(attribute, ++index);
         }
     }
+    m_indexes.swap(indexes);
 }
 
 std::size_t ViewStore::CountNodes() {

@@ -2,6 +2,7 @@
 
 #include "Framework/XMLSupport/NodeViews.h"
 #include "Framework/XMLSupport/Utf.h"
+#include "Framework/XMLSupport/XmlMemory.h"
 #include "Framework/XMLSupport/XmlRuntime.h"
 
 #include <algorithm>
@@ -139,7 +140,7 @@ private:
 };
 
 NodeRef Evaluate(xalan::XalanNode& start, std::string_view expression, std::size_t room) {
-    xalan::MemoryManager& memory = xalan::XalanMemMgrs::getDefaultXercesMemMgr();
+    xalan::MemoryManager& memory = XmlMemory();
     const NoPrefixes prefixes;
     QuietContext<xalan::XPathConstructionContextDefault> construction;
     xalan::XPath path(memory);
@@ -192,7 +193,7 @@ NodeRef EvaluateXPath(const XmlTree& tree, NodeRef context, std::string_view exp
     // Views of its own: they go when it is done, no other thread waits for them, and they know the order of any tree.
     NodeViews views(tree, NodeOrder::ForXPath);
     try {
-        return EvaluateTwice(views, context, expression);
+        return WithBadAlloc([&] { return EvaluateTwice(views, context, expression); });
     } catch (const XPathProblem& problem) {
         Refuse(expression, Shortened(problem.what()));
     } catch (const xalan::XSLException& error) {
