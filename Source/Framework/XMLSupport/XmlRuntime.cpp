@@ -2,64 +2,105 @@
 
 #include <exception>
 #include <mutex>
+#include <new>
 #include <stdexcept>
 #include <string>
 
-#include <xalanc/XPath/XPathEvaluator.hpp>
+#include <xalanc/XPath/XPathInit.hpp>
 #include <xercesc/util/PanicHandler.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
+
+#include "Framework/XMLSupport/CaughtFailure.h"
+#include "Framework/XMLSupport/XmlMemory.h"
 
 namespace Framework {
 
 namespace {
 
+class Panic final : public std::exception {
+public:
+    explicit Panic(const char* reason) : m_reason(reason) {}
+    const char* what() const noexcept override { return m_reason; }
+
+private:
+    const char* m_reason; // a literal of Xerces
+};
+
 /// The handler that Xerces brings along ends the process.
 class ThrowingPanicHandler final : public xercesc::PanicHandler {
 public:
-    [[noreturn]] void panic(const PanicReasons reason) override {
-        throw std::runtime_error(getPanicReasonString(reason));
-    }
+    [[noreturn]] void panic(const PanicReasons reason) override { throw Panic(getPanicReasonString(reason)); }
 };
 
 /// Runs a start once. A failure is kept: the libraries count a start that failed and would take the next one for done.
+/// Only while there is no memory to set aside for it, it has not begun, and is tried again by the next call.
 class OneStart {
 public:
-    template <class Function> void Run(const char* library, Function start) {
+    template <class Function> void Run(const char* library, std::size_t memory, Function start) {
         std::call_once(m_once, [&] {
+            StartMemory::Instance().SetAside(memory);
             try {
                 start();
-            } catch (const std::exception& error) {
-                m_failure = std::string(library) + " cannot be started: " + error.what();
             } catch (...) {
-                m_failure = std::string(library) + " cannot be started";
+                m_hasFailed = true;
+                Keep(library, CaughtFailure().Text());
             }
+            StartMemory::Instance().GiveBack();
         });
-        if (!m_failure.empty()) {
-            throw std::runtime_error(m_failure);
+        if (m_hasFailed) {
+            throw std::runtime_error(m_failure.empty() ? "an XML library cannot be started" : m_failure);
         }
     }
 
 private:
+    void Keep(const char* library, const char* reason) noexcept {
+        try {
+            m_failure = std::string(library) + " cannot be started: " + reason;
+        } catch (const std::bad_alloc&) { // then without its reason
+        }
+    }
+
     std::once_flag m_once;
+    bool m_hasFailed = false;
     std::string m_failure;
+};
+
+/// What stays for ever, and needs no memory to come to life: objects that are destroyed at exit may still come here.
+struct Runtime {
+    ThrowingPanicHandler panicHandler; // to which Xerces keeps a pointer
+    OneStart xerces;
+    OneStart xpath;
+    alignas(XALAN_CPP_NAMESPACE::XPathInit) char xpathInit[sizeof(XALAN_CPP_NAMESPACE::XPathInit)];
+
+    static Runtime& Instance() {
+        alignas(Runtime) static char room[sizeof(Runtime)];
+        static Runtime& runtime = *new (room) Runtime;
+        return runtime;
+    }
+
+private:
+    Runtime() = default;
 };
 
 } // namespace
 
 void EnsureXmlRuntime() {
-    // Both stay for ever: Xerces keeps a pointer to the handler, and objects that are destroyed at exit may still come
-    // here.
-    static auto& handler = *new ThrowingPanicHandler;
-    static auto& start = *new OneStart;
-    start.Run("Xerces-C", [] {
-        xercesc::XMLPlatformUtils::Initialize(xercesc::XMLUni::fgXercescDefaultLocale, nullptr, &handler);
+    constexpr std::size_t memory = std::size_t{1} << 20U; // three quarters of it are needed
+    Runtime& runtime = Runtime::Instance();
+    runtime.xerces.Run("Xerces-C", memory, [&] {
+        xercesc::XMLPlatformUtils::Initialize(xercesc::XMLUni::fgXercescDefaultLocale, nullptr, &runtime.panicHandler,
+                                              &StartMemory::Instance());
     });
 }
 
+// Not by XPathEvaluator::initialize: that keeps the one object by which Xalan is counted where a host's own call puts
+// its own.
 void EnsureXPathRuntime() {
+    constexpr std::size_t memory = std::size_t{1} << 16U; // a fiftieth of it is needed
     EnsureXmlRuntime();
-    static auto& start = *new OneStart;
-    start.Run("Xalan-C", [] { XALAN_CPP_NAMESPACE::XPathEvaluator::initialize(); });
+    Runtime& runtime = Runtime::Instance();
+    runtime.xpath.Run("Xalan-C", memory,
+                      [&] { new (runtime.xpathInit) XALAN_CPP_NAMESPACE::XPathInit(StartMemory::Instance()); });
 }
 
 } // namespace Framework
