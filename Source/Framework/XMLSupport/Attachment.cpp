@@ -15,10 +15,14 @@ std::shared_ptr<Attachment> Attachment::Of(XMLDataWrapper& wrapper) {
     if (state.readOnly) {
         return ToReadOnly(wrapper);
     }
-    attachment = std::make_shared<Attachment>();
+    state.attachment = attachment = New(wrapper);
+    return attachment;
+}
+
+std::shared_ptr<Attachment> Attachment::New(XMLDataWrapper& wrapper) {
+    auto attachment = std::make_shared<Attachment>();
     attachment->m_private = std::make_unique<XMLDataWrapper>();
     attachment->m_wrapper = &wrapper;
-    state.attachment = attachment;
     return attachment;
 }
 
@@ -77,8 +81,9 @@ void Attachment::MoveToPrivateWrapper() noexcept {
 }
 
 AttachmentScope::AttachmentScope(XMLDataWrapper& wrapper)
-    : m_state(WrapperAccess::State(wrapper)), m_before(std::exchange(m_state.attachment, {})),
-      m_during(Attachment::Of(wrapper)) {}
+    : m_state(WrapperAccess::State(wrapper)), m_before(m_state.attachment), m_during(Attachment::New(wrapper)) {
+    m_state.attachment = m_during;
+}
 
 AttachmentScope::~AttachmentScope() {
     if (m_during.use_count() > 1) {

@@ -22,6 +22,8 @@ public:
     static std::shared_ptr<Attachment> ForTree(XMLDataWrapper& wrapper);
     /// That of another tree over the document of this one.
     static std::shared_ptr<Attachment> ForCopy(const std::shared_ptr<Attachment>& original);
+    /// One for a caller's wrapper that the wrapper does not know of yet.
+    static std::shared_ptr<Attachment> New(XMLDataWrapper& wrapper);
     /// An attachment that owns its wrapper from the start.
     static std::shared_ptr<Attachment> Owning(std::unique_ptr<XMLDataWrapper> wrapper);
     /// A new wrapper over the document of a read-only one, which is only looked at.
