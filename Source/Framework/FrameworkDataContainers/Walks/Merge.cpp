@@ -199,11 +199,15 @@ private:
 
     /// Hands the entry to MergeElement, which decides.
     void MergeKeyed(const FieldRow& row, NodeRef node, std::size_t position) {
-        const zelString name(row.name.data());
+        zelString name(row.name.data());
         zelString key = AttributeOf(m_tree, node, row.keyAttribute);
         if (row.value == FieldValue::Container) {
-            m_object.MergeElement(m_featureID, m_object.*row.map.entries, m_object.*row.member.entries, m_wrapper,
-                                  row.list->newEntry(false), key, row.keyAttribute.data(), name);
+            zelString feature = m_featureID;
+            zelString keyName(row.keyAttribute.data());
+            std::unique_ptr<TypedDataContainer> entry(row.list->newEntry(false));
+            // Every text is made by now: nothing can fail while the entry is nobody's.
+            m_object.MergeElement(std::move(feature), m_object.*row.map.entries, m_object.*row.member.entries,
+                                  m_wrapper, entry.release(), std::move(key), std::move(keyName), std::move(name));
             return;
         }
         if (row.numberedKeys && key.empty()) {
