@@ -16,20 +16,39 @@ bool IsAt(std::size_t size, int Index) {
     return Index >= 0 && static_cast<std::size_t>(Index) < size;
 }
 
+/// Nulls in the vector what the map leads to and what stands in it a second time: the rest is nobody else's.
+template <typename Entry>
+void KeepStrays(const std::map<zelString, Entry*>& map, std::vector<Entry*>& entries) noexcept {
+    try {
+        std::unordered_set<Entry*> reached;
+        for (const auto& [key, entry] : map) {
+            reached.insert(entry);
+        }
+        for (Entry*& entry : entries) {
+            if (!reached.insert(entry).second) {
+                entry = nullptr;
+            }
+        }
+    } catch (const std::bad_alloc&) { // slow, but destructors come here too, and must end without memory
+        for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
+            const auto isSame = [&](const auto& item) { return item.second == *entry; };
+            if (std::find(entries.begin(), entry, *entry) != entry || std::any_of(map.begin(), map.end(), isSame)) {
+                *entry = nullptr;
+            }
+        }
+    }
+}
+
 /// Empties both halves. An entry under two keys, or in one half only, is destroyed once.
 template <typename Entry> void ClearBoth(Zelvon::SyncMap<zelString, Entry*>& map, std::vector<Entry*>& entries) {
     ListEdit<Entry>::Settle(entries);
-    std::vector<Entry*> strays; // entries of the vector that the map does not lead to
     if (map.contents().size() != entries.size()) {
-        std::unordered_set<Entry*> reached;
-        for (const auto& [key, entry] : map.contents()) {
-            reached.insert(entry);
-        }
-        std::copy_if(entries.begin(), entries.end(), std::back_inserter(strays),
-                     [&reached](Entry* entry) { return reached.insert(entry).second; });
+        KeepStrays(map.contents(), entries);
+    } else {
+        entries.clear();
     }
     map.clearMap(true);
-    std::for_each(strays.begin(), strays.end(), &DeleteQuietly<Entry>);
+    std::for_each(entries.begin(), entries.end(), &DeleteQuietly<Entry>);
     entries.clear();
 }
 
