@@ -47,6 +47,9 @@ DocumentEditor::DocumentEditor(Document& document)
         m_changes.parsedNodes = static_cast<Number>(m_data.nodes.size());
         m_changes.any = true;
     }
+    // A copy of a document comes without what the vectors had in reserve.
+    MakeRoom(m_changes.freeNodes, m_data.nodes.size() - m_changes.parsedNodes);
+    MakeRoom(m_changes.freeValues, m_changes.values.size());
     if (m_document.m_views != nullptr) {
         m_document.m_views->TreeChanged();
     }
@@ -336,8 +339,8 @@ DocumentEditor::Number DocumentEditor::NewNode(NodeKind kind, Number parent, Num
             throw WriteError("cannot change " + m_data.sourceName + ": the document has too many nodes");
         }
         number = static_cast<Number>(m_data.nodes.size());
+        MakeRoom(m_changes.freeNodes, m_data.nodes.size() + 1 - m_changes.parsedNodes); // so that releasing cannot fail
         m_data.nodes.emplace_back();
-        MakeRoom(m_changes.freeNodes, m_data.nodes.size() - m_changes.parsedNodes);
     }
     NodeRecord& record = Record(number);
     record = NodeRecord();
