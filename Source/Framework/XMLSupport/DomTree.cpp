@@ -125,11 +125,12 @@ std::string_view DomTree::Name(NodeRef node) const {
         return {};
     }
     const XMLCh* const name = Node(node)->getNodeName();
-    const auto [entry, isNew] = m_names.try_emplace(name);
-    if (isNew) {
-        AppendUtf8(entry->second, name, xercesc::XMLString::stringLen(name));
+    if (const auto known = m_names.find(name); known != m_names.end()) {
+        return known->second;
     }
-    return entry->second;
+    std::string utf8;
+    AppendUtf8(utf8, name, xercesc::XMLString::stringLen(name));
+    return m_names.emplace(name, std::move(utf8)).first->second;
 }
 
 NodeRef DomTree::Parent(NodeRef node) const {
