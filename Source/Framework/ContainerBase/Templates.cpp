@@ -9,8 +9,10 @@ bool TextStore::Register(const char* store, const char* xmlName, const zelString
     if (store == nullptr || xmlName == nullptr || !check.LoadXMLText(xml, true)) {
         return false;
     }
+    std::pair<zelString, zelString> key(store, xmlName);
+    zelString text = xml;
     const std::lock_guard lock(m_mutex);
-    m_texts[{store, xmlName}] = xml;
+    m_texts.insert_or_assign(std::move(key), std::move(text));
     return true;
 }
 
