@@ -123,7 +123,12 @@ TypedDataContainer* CatalogField::AddEntry(TypedDataContainer& object, const zel
     TypedDataContainer* const entry = entries.back();
     ContainerAccess::SetBuildsFromScratch(*entry, scope.Before());
     if (isKeyed) {
-        SetScalar(*entry, *key->m_pRow, sKey);
+        try {
+            SetScalar(*entry, *key->m_pRow, sKey);
+        } catch (...) {
+            RemoveEntry(object, before); // it would stand under a key that it does not have
+            throw;
+        }
     }
     return entry;
 }
