@@ -47,7 +47,8 @@ void MakeEmpty(TypedDataContainer& object) {
 
 namespace {
 
-/// Moves the values of all attributes, the parent's too, out of an object or back into it.
+/// Keeps the values of all attributes, the parent's too, and puts them back when it ends, however that comes: the key
+/// that an entry stands under is one of them.
 class AttributeKeeper {
 public:
     explicit AttributeKeeper(TypedDataContainer& object) : m_object(object) {
@@ -61,7 +62,7 @@ public:
     }
 
     /// Allocates nothing: a text changes places with the one that is there.
-    void PutBack() {
+    ~AttributeKeeper() {
         for (auto& [row, text] : m_kept) {
             if (row->value == FieldValue::String) {
                 (m_object.*row->member.text).swap(text);
@@ -70,6 +71,8 @@ public:
             }
         }
     }
+    AttributeKeeper(const AttributeKeeper&) = delete;
+    AttributeKeeper& operator=(const AttributeKeeper&) = delete;
 
 private:
     TypedDataContainer& m_object;
@@ -79,9 +82,8 @@ private:
 } // namespace
 
 void ResetButAttributes(TypedDataContainer& object) {
-    AttributeKeeper attributes(object);
+    const AttributeKeeper attributes(object);
     object.ResetDataMembers();
-    attributes.PutBack();
 }
 
 } // namespace Framework
