@@ -2,6 +2,7 @@
 
 #include "Framework/XMLSupport/NodeViews.h"
 #include "Framework/XMLSupport/Utf.h"
+#include "Framework/XMLSupport/XPathMemory.h"
 #include "Framework/XMLSupport/XmlMemory.h"
 #include "Framework/XMLSupport/XmlRuntime.h"
 
@@ -85,6 +86,7 @@ template <class Base> class QuietContext : public Base {
 public:
     using Source = typename Base::eSource;
     using Classification = typename Base::eClassification;
+    using Base::Base;
 
     void problem(Source source, Classification classification, const xalan::XalanDOMString& message,
                  const xercesc::Locator*, const xalan::XalanNode* node) override {
@@ -100,6 +102,7 @@ public:
 
 class Support final : public xalan::DOMSupport {
 public:
+    explicit Support(xalan::MemoryManager& memory) : m_empty(memory) {}
     void reset() override {}
     const xalan::XalanDOMString& getUnparsedEntityURI(const xalan::XalanDOMString&,
                                                       const xalan::XalanDocument&) const override {
@@ -115,6 +118,7 @@ private:
 
 class NoPrefixes final : public xalan::PrefixResolver {
 public:
+    explicit NoPrefixes(xalan::MemoryManager& memory) : m_empty(memory) {}
     const xalan::XalanDOMString* getNamespaceForPrefix(const xalan::XalanDOMString&) const override { return nullptr; }
     const xalan::XalanDOMString& getURI() const override { return m_empty; }
 
@@ -125,9 +129,13 @@ private:
 /// Xalan's lists grow by one node at a time, copying all they hold: a list of many must have its room from the start.
 class RoomyContext final : public xalan::XPathExecutionContextDefault {
 public:
-    RoomyContext(xalan::XPathEnvSupport& environment, xalan::DOMSupport& support, xalan::XObjectFactory& objects,
-                 std::size_t room)
-        : XPathExecutionContextDefault(environment, support, objects), m_room(room) {}
+    RoomyContext(xalan::MemoryManager& memory, xalan::XPathEnvSupport& environment, xalan::DOMSupport& support,
+                 xalan::XObjectFactory& objects, std::size_t room)
+        : XPathExecutionContextDefault(memory), m_room(room) {
+        setXPathEnvSupport(&environment);
+        setDOMSupport(&support);
+        setXObjectFactory(&objects);
+    }
 
     xalan::MutableNodeRefList* borrowMutableNodeRefList() override {
         xalan::MutableNodeRefList* const list = XPathExecutionContextDefault::borrowMutableNodeRefList();
@@ -139,18 +147,17 @@ private:
     std::size_t m_room;
 };
 
-NodeRef Evaluate(xalan::XalanNode& start, std::string_view expression, std::size_t room) {
-    xalan::MemoryManager& memory = XmlMemory();
-    const NoPrefixes prefixes;
-    QuietContext<xalan::XPathConstructionContextDefault> construction;
+NodeRef Evaluate(xalan::XalanNode& start, std::string_view expression, XPathMemory& memory, std::size_t room) {
+    const NoPrefixes prefixes(memory);
+    QuietContext<xalan::XPathConstructionContextDefault> construction(memory);
     xalan::XPath path(memory);
     const xalan::XalanDOMString text(ToUtf16(expression).c_str(), memory);
     xalan::XPathProcessorImpl(memory).initXPath(path, construction, text, prefixes, nullptr, false, false);
 
-    Support support;
-    QuietContext<xalan::XPathEnvSupportDefault> environment;
+    Support support(memory);
+    QuietContext<xalan::XPathEnvSupportDefault> environment(memory);
     xalan::XObjectFactoryDefault objects(memory);
-    RoomyContext execution(environment, support, objects, room);
+    RoomyContext execution(memory, environment, support, objects, room);
     const xalan::XObjectPtr result = path.execute(&start, prefixes, execution);
     if (result.null() || result->getType() != xalan::XObject::eTypeNodeSet) {
         throw XPathProblem("it does not select nodes");
@@ -163,7 +170,7 @@ NodeRef Evaluate(xalan::XalanNode& start, std::string_view expression, std::size
 
 /// What looks at few nodes shall not pay for the size of the tree. What looks at many begins anew, knowing how many
 /// there are.
-NodeRef EvaluateTwice(NodeViews& views, NodeRef context, std::string_view expression) {
+NodeRef EvaluateTwice(NodeViews& views, NodeRef context, std::string_view expression, XPathMemory& memory) {
     constexpr std::size_t kFew = 4096;
     xalan::XalanNode* const start = views.View(context);
     if (start == nullptr) {
@@ -171,11 +178,14 @@ NodeRef EvaluateTwice(NodeViews& views, NodeRef context, std::string_view expres
     }
     views.Limit(kFew);
     try {
-        return Evaluate(*start, expression, 0);
+        return Evaluate(*start, expression, memory, 0);
     } catch (const TooManyViews&) {
-        views.Limit(std::numeric_limits<std::size_t>::max());
+        if (memory.IsShort()) {
+            throw std::bad_alloc();
+        }
     }
-    return Evaluate(*start, expression, views.CountNodes());
+    views.Limit(std::numeric_limits<std::size_t>::max());
+    return Evaluate(*start, expression, memory, views.CountNodes());
 }
 
 /// Xalan repeats the whole expression, token by token.
@@ -192,8 +202,11 @@ NodeRef EvaluateXPath(const XmlTree& tree, NodeRef context, std::string_view exp
     EnsureXPathRuntime();
     // Views of its own: they go when it is done, no other thread waits for them, and they know the order of any tree.
     NodeViews views(tree, NodeOrder::ForXPath);
+    XPathMemory memory(views); // outlives what is thrown, which may hold texts from it
     try {
-        return WithBadAlloc([&] { return EvaluateTwice(views, context, expression); });
+        return WithBadAlloc([&] { return EvaluateTwice(views, context, expression, memory); });
+    } catch (const TooManyViews&) { // no number of them is too large the second time: they were closed
+        throw std::bad_alloc();
     } catch (const XPathProblem& problem) {
         Refuse(expression, Shortened(problem.what()));
     } catch (const xalan::XSLException& error) {
