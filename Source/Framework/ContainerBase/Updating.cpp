@@ -1,4 +1,5 @@
 #include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/XMLSupport/PathError.h"
 
 using namespace Framework;
 
@@ -19,7 +20,7 @@ bool Selects(WrapperState& state, NodeRef parent, const zelString& query, NodeRe
     NodeRef found = NodeRef::None;
     try {
         found = state.Find(query, false);
-    } catch (const std::runtime_error&) {
+    } catch (const PathError&) {
         found = NodeRef::None;
     } catch (...) {
         state.current = before;

@@ -61,7 +61,7 @@ NodeRef WrapperState::Find(std::string_view path, bool fromDocument) {
 NodeRef WrapperState::FindOrNone(std::string_view path, bool fromDocument) {
     try {
         return Find(path, fromDocument);
-    } catch (const std::runtime_error& failure) {
+    } catch (const PathError& failure) {
         SetError(-1, failure.what());
         return NodeRef::None;
     }

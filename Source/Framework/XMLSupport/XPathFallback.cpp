@@ -1,6 +1,7 @@
 #include "Framework/XMLSupport/XPathFallback.h"
 
 #include "Framework/XMLSupport/NodeViews.h"
+#include "Framework/XMLSupport/PathError.h"
 #include "Framework/XMLSupport/Utf.h"
 #include "Framework/XMLSupport/XPathMemory.h"
 #include "Framework/XMLSupport/XmlMemory.h"
@@ -39,7 +40,7 @@ constexpr int kMostOperators = 500;
 [[noreturn]] void Refuse(std::string_view expression, const std::string& what) {
     constexpr std::size_t kShown = 200;
     std::string shown(expression.substr(0, kShown));
-    throw std::runtime_error("XPath \"" + shown + (expression.size() > kShown ? "...\": " : "\": ") + what);
+    throw PathError("XPath \"" + shown + (expression.size() > kShown ? "...\": " : "\": ") + what);
 }
 
 void CheckExpression(std::string_view expression) {
@@ -199,7 +200,11 @@ std::string Shortened(std::string message) {
 
 NodeRef EvaluateXPath(const XmlTree& tree, NodeRef context, std::string_view expression) {
     CheckExpression(expression);
-    EnsureXPathRuntime();
+    try {
+        EnsureXPathRuntime();
+    } catch (const std::runtime_error& failure) {
+        Refuse(expression, failure.what());
+    }
     // Views of its own: they go when it is done, no other thread waits for them, and they know the order of any tree.
     NodeViews views(tree, NodeOrder::ForXPath);
     XPathMemory memory(views); // outlives what is thrown, which may hold texts from it

@@ -9,7 +9,7 @@ namespace Framework {
 /// The first node, in document order, that an XPath 1.0 expression selects from `context`; None when it selects
 /// nothing.
 ///
-/// Throws std::runtime_error naming the expression when it is malformed, does not select nodes, or names a variable or
+/// Throws PathError naming the expression when it is malformed, does not select nodes, or names a variable or
 /// a prefix: neither is known here, ask for `*[name()='p:q']`. Also when it is longer than 4 KB, nests brackets deeper
 /// than 100 or has more than 500 steps and operators: Xalan recurses on those, and 256 KB of stack are enough for
 /// these. Element and attribute names are compared without their prefix.
