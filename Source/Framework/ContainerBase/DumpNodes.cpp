@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include <xercesc/dom/DOMDocument.hpp>
+#include <xercesc/dom/DOMException.hpp>
 
 using namespace Framework;
 
@@ -19,8 +20,10 @@ template <typename Step> bool Append(TypedDataContainer& object, const char* whe
         return true;
     } catch (const std::invalid_argument& failure) {
         object.SetLastError(-1, "%s: %s", object.GetContainerName().c_str(), failure.what());
-        return false;
+    } catch (const xercesc::DOMException&) { // a host may have made the node read only
+        object.SetLastError(-1, "%s: the DOM refuses the node", object.GetContainerName().c_str());
     }
+    return false;
 }
 
 } // namespace

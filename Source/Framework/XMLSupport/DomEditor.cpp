@@ -56,7 +56,7 @@ void DomEditor::SetText(NodeRef element, std::string_view text, TextForm form) {
     }
     DOMNode* const first = texts.empty() ? nullptr : texts.front();
     if (first != nullptr && IsSection(first) == asSection) {
-        first->setNodeValue(ToUtf16(text).c_str());
+        SetTextValue(*first, ToUtf16(text));
     } else if (!text.empty() || asSection) {
         parent->insertBefore(NewText(text, asSection), first != nullptr ? first : parent->getFirstChild());
     }
@@ -68,7 +68,7 @@ void DomEditor::SetText(NodeRef element, std::string_view text, TextForm form) {
 }
 
 void DomEditor::SetValue(NodeRef attribute, std::string_view value) {
-    DomTree::Node(attribute)->setNodeValue(ToUtf16(value).c_str());
+    SetAttributeText(*DomTree::Node(attribute), m_document, ToUtf16(value));
 }
 
 void DomEditor::AddAttribute(NodeRef element, std::string_view name, std::string_view value) {
@@ -80,14 +80,12 @@ void DomEditor::AddElement(const ElementPlace& place, std::string_view name, std
     if (!text.empty()) {
         element->appendChild(NewText(text, form == TextForm::CData));
     }
-    DOMNode* const parent = DomTree::Node(place.parent);
-    DOMNode* const next = DomTree::Node(place.next);
-    if (!place.blanksBefore.empty()) {
-        parent->insertBefore(NewText(place.blanksBefore, false), next);
-    }
-    parent->insertBefore(element, next);
-    if (!place.blanksAfter.empty()) {
-        parent->insertBefore(NewText(place.blanksAfter, false), next);
+    DOMNode* const before = place.blanksBefore.empty() ? nullptr : NewText(place.blanksBefore, false);
+    DOMNode* const after = place.blanksAfter.empty() ? nullptr : NewText(place.blanksAfter, false);
+    for (DOMNode* const each : {before, element, after}) {
+        if (each != nullptr) { // all are made by now
+            DomTree::Node(place.parent)->insertBefore(each, DomTree::Node(place.next));
+        }
     }
 }
 

@@ -41,29 +41,65 @@ DOMNode* AppendElement(DOMNode& parent, DOMDocument& document, std::string_view 
 
 DOMNode* AppendTextElement(DOMNode& parent, DOMDocument& document, std::string_view name, std::string_view text) {
     const std::u16string units = CheckedText(name, text);
-    DOMNode* const element = AppendElement(parent, document, name);
+    DOMNode* const element = NewElement(document, name);
     if (!units.empty()) {
         element->appendChild(document.createTextNode(Units(units)));
     }
-    return element;
+    return parent.appendChild(element); // with its text, or not at all
 }
 
 DOMNode* AppendCDataElement(DOMNode& parent, DOMDocument& document, std::string_view name, std::string_view text) {
     const std::u16string units = CheckedText(name, text);
-    DOMNode* const element = AppendElement(parent, document, name);
+    DOMNode* const element = NewElement(document, name);
     if (!units.empty()) {
         element->appendChild(document.createCDATASection(Units(units)));
     }
-    return element;
+    return parent.appendChild(element);
 }
 
-void SetAttribute(DOMNode& element, DOMDocument&, std::string_view name, std::string_view value) {
+void SetAttribute(DOMNode& node, DOMDocument& document, std::string_view name, std::string_view value) {
     const std::u16string units = CheckedText("@" + std::string(name), value);
+    const std::u16string unitsOfName = CheckedText(name, name);
+    auto& element = static_cast<xercesc::DOMElement&>(node);
+    xercesc::DOMAttr* attribute = element.getAttributeNode(Units(unitsOfName));
     try {
-        static_cast<xercesc::DOMElement&>(element).setAttribute(Units(CheckedText(name, name)), Units(units));
+        if (attribute != nullptr) {
+            SetAttributeText(*attribute, document, units);
+            return;
+        }
+        attribute = document.createAttribute(Units(unitsOfName));
+        attribute->setValue(Units(units));
+        element.setAttributeNode(attribute);
     } catch (const xercesc::DOMException&) {
-        throw std::invalid_argument(std::string(name) + " is no name of an XML attribute");
+        throw std::invalid_argument(std::string(name) + (attribute == nullptr ? " is no name of an XML attribute"
+                                                                              : " cannot be set on this element"));
     }
+}
+
+void SetTextValue(DOMNode& text, const std::u16string& value) {
+    const std::u16string before = text.getNodeValue();
+    try {
+        text.setNodeValue(Units(value));
+    } catch (const std::bad_alloc&) {
+        text.setNodeValue(Units(before)); // it has room where it stood
+        throw;
+    }
+}
+
+void SetAttributeText(DOMNode& attribute, DOMDocument& document, const std::u16string& value) {
+    if (static_cast<xercesc::DOMAttr&>(attribute).isId()) { // the document finds the element by it
+        attribute.setNodeValue(Units(value));
+        return;
+    }
+    DOMNode* const text = document.createTextNode(Units(value));
+    while (DOMNode* const old = attribute.getFirstChild()) {
+        attribute.removeChild(old);
+        try {
+            old->release();
+        } catch (const std::bad_alloc&) { // it is only not used again
+        }
+    }
+    attribute.appendChild(text);
 }
 
 } // namespace Framework

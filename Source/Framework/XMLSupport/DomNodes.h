@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "Framework/XMLDataWrapper.h"
@@ -11,8 +12,13 @@ namespace Framework {
 DOMNode* AppendElement(DOMNode& parent, DOMDocument& document, std::string_view name);
 DOMNode* AppendTextElement(DOMNode& parent, DOMDocument& document, std::string_view name, std::string_view text);
 DOMNode* AppendCDataElement(DOMNode& parent, DOMDocument& document, std::string_view name, std::string_view text);
-/// Sets the attribute, in place of a value that is there.
+/// Sets the attribute, in place of a value that is there. When it throws the element is as it was.
 void SetAttribute(DOMNode& element, DOMDocument& document, std::string_view name, std::string_view value);
+
+/// Sets the value of a text or CDATA section, or of an attribute. When one throws the value is as it was: the DOM takes
+/// the old away before it asks for room for the new.
+void SetTextValue(DOMNode& text, const std::u16string& value);
+void SetAttributeText(DOMNode& attribute, DOMDocument& document, const std::u16string& value);
 /// An element that is not hung anywhere yet.
 DOMNode* NewElement(DOMDocument& document, std::string_view name);
 

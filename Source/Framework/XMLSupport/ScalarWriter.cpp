@@ -1,5 +1,7 @@
 #include "Framework/XMLSupport/ScalarWriter.h"
 
+#include <xercesc/dom/DOMException.hpp>
+
 #include "Framework/LoadLimits.h"
 #include "Framework/SupportFunc.h"
 #include "Framework/XMLSupport/FaultPoint.h"
@@ -53,9 +55,9 @@ void CheckLimits(WrapperState& wrapper, NodeRef parent, bool isAttribute, const 
     }
 }
 
-void Add(WrapperState& wrapper, NodeRef parent, const FieldHint& hint, std::string_view text) {
+void Add(WrapperState& wrapper, NodeRef parent, const FieldHint& hint, std::string_view text,
+         const std::string& below) {
     const XmlTree& tree = *wrapper.Tree();
-    const std::string below = (hint.isAttribute ? "/@" : "/") + std::string(hint.name);
     CheckText(wrapper, parent, below, text);
     CheckLimits(wrapper, parent, hint.isAttribute, below);
     if (hint.isAttribute) {
@@ -94,6 +96,15 @@ void Change(WrapperState& wrapper, NodeRef node, std::string_view text, TextForm
     }
 }
 
+/// A host may have made nodes of its DOM read only; the DOM then says no by an exception of its own kind.
+template <typename Step> void TryToEdit(WrapperState& wrapper, NodeRef node, std::string_view below, Step step) {
+    try {
+        step();
+    } catch (const xercesc::DOMException&) {
+        throw EditError("cannot write " + wrapper.PathOf(node) + std::string(below) + ": the DOM refuses it");
+    }
+}
+
 } // namespace
 
 bool ReadsAlike(ValueKind kind, std::string_view left, std::string_view right) {
@@ -108,7 +119,7 @@ void WriteNode(WrapperState& wrapper, NodeRef node, std::string_view text, TextF
         throw EditError("cannot write " + wrapper.PathOf(node) + ": only elements and attributes have a value");
     }
     if (!Reads(tree, node, form, kind, text)) {
-        Change(wrapper, node, text, form, kind);
+        TryToEdit(wrapper, node, "", [&] { Change(wrapper, node, text, form, kind); });
     }
 }
 
@@ -117,7 +128,8 @@ void WriteField(WrapperState& wrapper, NodeRef parent, NodeRef present, const Fi
     const bool needsNode = !ReadsAlike(hint.kind, hint.absent, text);
     if (present == NodeRef::None) {
         if (needsNode) {
-            Add(wrapper, parent, hint, text);
+            const std::string below = (hint.isAttribute ? "/@" : "/") + std::string(hint.name);
+            TryToEdit(wrapper, parent, below, [&] { Add(wrapper, parent, hint, text, below); });
         }
         return;
     }
@@ -131,7 +143,7 @@ void WriteField(WrapperState& wrapper, NodeRef parent, NodeRef present, const Fi
             return;
         }
     }
-    Change(wrapper, present, text, hint.form, hint.kind);
+    TryToEdit(wrapper, present, "", [&] { Change(wrapper, present, text, hint.form, hint.kind); });
 }
 
 } // namespace Framework
