@@ -59,7 +59,9 @@ struct OverrideIssue {
 ///
 /// **Failures.** Operations return false, null or an empty text and leave number and text in GetLastErrorNum and
 /// GetLastError: -1, or -2 for a duplicate key. No exception leaves a load, update, merge or dump. A load or merge
-/// whose source cannot be read changes nothing. Setters and Clone may throw std::bad_alloc and leave a whole object.
+/// whose source cannot be read changes nothing. Setters, list operations and Clone may throw std::bad_alloc and leave a
+/// whole object; AddNew<Name> has then destroyed what it was given. Whatever failed, the object can be reset, loaded,
+/// merged, dumped and destroyed.
 class FRAMEWORK_API TypedDataContainer {
 public:
     /// Entry of a keyed list of strings: its key is ElementName, its text strValue. Owned by the list.
@@ -102,10 +104,11 @@ public:
     /// operations on the object never move it: they work through a private one.
     virtual XMLDataWrapper* GetContainedDataPtr();
 
-    // Loading. Each returns true when the object was populated. On false the object is as it was, and the error tells
-    // why: a text that is not well-formed as "file:line:column: ...". A load empties the object first (defaults, lists
-    // cleared, children deleted), then populates it. `pLookup` is kept and handed on, never used; it may be null.
-    // `bReadOnly` makes the object refuse Clone and UpdateContainedData.
+    // Loading. Each returns true when the object was populated. On false the error tells why: a text that is not
+    // well-formed as "file:line:column: ...". The object is then as it was, unless the failure came after the source
+    // was read, for want of memory: an object that was valid and is not any more holds what was read so far. A load
+    // empties the object first (defaults, lists cleared, children deleted), then populates it. `pLookup` is kept and
+    // handed on, never used; it may be null. `bReadOnly` makes the object refuse Clone and UpdateContainedData.
 
     /// From the XML text registered for `sXMLName` in the store `sStore`; `sClassName` names the class for hosts that
     /// override.

@@ -6,25 +6,35 @@ using namespace Framework;
 
 namespace {
 
+/// What a load populates from, made before anything of the object changes.
+struct Origin {
+    Origin(std::shared_ptr<Attachment> source, NodeRef where)
+        : attachment(std::move(source)), node(where),
+          view(WrapperAccess::State(*attachment->Wrapper()).Tree()->View(where)) {}
+
+    std::shared_ptr<Attachment> attachment;
+    NodeRef node;
+    XalanNode* view;
+};
+
 /// The end of every load: empties the object, stands it on the node, and populates it.
-bool LoadAt(TypedDataContainer& object, ValueLookupBase* lookup, std::shared_ptr<Attachment> attachment, NodeRef node,
-            bool readOnly) {
-    const WrapperState& state = WrapperAccess::State(*attachment->Wrapper());
-    MakeEmpty(object);
+bool LoadAt(TypedDataContainer& object, ValueLookupBase* lookup, Origin origin, bool readOnly) {
     ContainerAccess::SetValid(object, false);
+    MakeEmpty(object);
     ContainerAccess::SetNested(object, false);
     ContainerAccess::SetMergeFeature(object, {});
     ContainerAccess::SetLookup(object, lookup);
     ContainerAccess::SetReadOnly(object, readOnly);
-    ContainerAccess::Attach(object, std::move(attachment), node);
-    const bool success = object.PopulateDataMembers(state.Tree()->View(node));
+    ContainerAccess::Attach(object, std::move(origin.attachment), origin.node);
+    const bool success = object.PopulateDataMembers(origin.view);
     ContainerAccess::SetValid(object, success);
     return success;
 }
 
-/// Loads from a source of the object's own; nothing happens when the source holds no element of that name.
+/// Loads from a source of the object's own; nothing happens when the source holds no element of that name. A file may
+/// say which feature it belongs to; children and entries take that of their parent, so it is set before the walk.
 bool LoadOwn(TypedDataContainer& object, ValueLookupBase* lookup, std::unique_ptr<XMLDataWrapper> source,
-             const zelString& name, bool readOnly) {
+             const zelString& name, bool readOnly, bool hasFeature = false) {
     if (source == nullptr) {
         return false;
     }
@@ -34,10 +44,15 @@ bool LoadOwn(TypedDataContainer& object, ValueLookupBase* lookup, std::unique_pt
         SetNoElementError(object, state, name);
         return false;
     }
+    const zelString feature = hasFeature ? FeatureOf(*source, object.GetFeatureID()) : zelString();
+    Origin origin(Attachment::Owning(std::move(source)), node);
+    if (hasFeature) {
+        object.SetFeatureID(feature);
+    }
     if (object.GetContainerName() != name) {
         object.SetContainerName(name);
     }
-    return LoadAt(object, lookup, Attachment::Owning(std::move(source)), node, readOnly);
+    return LoadAt(object, lookup, std::move(origin), readOnly);
 }
 
 } // namespace
@@ -56,7 +71,7 @@ bool Framework::LoadFromNodeOf(TypedDataContainer& object, const TypedDataContai
             return false;
         }
         return LoadAt(object, ContainerAccess::Lookup(original),
-                      Attachment::ForCopy(ContainerAccess::AttachmentOf(original)), node,
+                      Origin(Attachment::ForCopy(ContainerAccess::AttachmentOf(original)), node),
                       ContainerAccess::IsReadOnly(original));
     });
 }
@@ -82,14 +97,7 @@ bool TypedDataContainer::LoadFromModel(ValueLookupBase* pLookup, const char* sMo
 
 bool TypedDataContainer::LoadFromFile(ValueLookupBase* pLookup, const char* sPath, bool bReadOnly) {
     return Guarded(*this, [&] {
-        std::unique_ptr<XMLDataWrapper> source = OpenFile(*this, sPath, bReadOnly);
-        if (source == nullptr ||
-            StartNode(WrapperAccess::State(*source), NodeRef::None, GetContainerName()) == NodeRef::None) {
-            return LoadOwn(*this, pLookup, std::move(source), GetContainerName(), bReadOnly);
-        }
-        // Before the walk: children and entries take the feature of their parent.
-        SetFeatureID(FeatureOf(*source, GetFeatureID()));
-        return LoadOwn(*this, pLookup, std::move(source), GetContainerName(), bReadOnly);
+        return LoadOwn(*this, pLookup, OpenFile(*this, sPath, bReadOnly), GetContainerName(), bReadOnly, true);
     });
 }
 
@@ -105,7 +113,7 @@ bool TypedDataContainer::LoadFromDataPacket(ValueLookupBase* pLookup, XMLDataWra
             SetNoElementError(*this, *state, GetContainerName());
             return false;
         }
-        return LoadAt(*this, pLookup, Attachment::ForTree(*pData), node, bReadOnly);
+        return LoadAt(*this, pLookup, Origin(Attachment::ForTree(*pData), node), bReadOnly);
     });
 }
 
@@ -137,11 +145,12 @@ bool TypedDataContainer::SetContainedDataPtr(XMLDataWrapper* pData, XalanNode* s
             SetLastError(-1, "%s stands on no element of a loaded document", GetContainerName().c_str());
             return false;
         }
+        XMLDataWrapper& wrapper = *ContainerAccess::WrapperForParts(*this, pData);
+        XalanNode* const view = tree->View(node);
+        ContainerAccess::AttachAgain(*this, Attachment::Of(wrapper), node);
         ContainerAccess::SetReadOnly(*this, bReadOnly);
         ContainerAccess::SetNested(*this, bNested);
-        XMLDataWrapper& wrapper = *ContainerAccess::WrapperForParts(*this, pData);
-        ContainerAccess::AttachAgain(*this, Attachment::Of(wrapper), node);
-        const bool success = PopulateDataMembers(tree->View(node));
+        const bool success = PopulateDataMembers(view);
         ContainerAccess::SetValid(*this, success);
         return success;
     });
