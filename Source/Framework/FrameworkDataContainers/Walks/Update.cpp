@@ -251,11 +251,19 @@ private:
     std::optional<FieldNodes> m_nodes;
 };
 
+/// Whether the object must not be written; its error then says so, which cannot fail.
+bool IsRefused(TypedDataContainer& object) {
+    if (!ContainerAccess::IsReadOnly(object)) {
+        return false;
+    }
+    ContainerAccess::SetFixedError(object, -1, "Update not supported for read only objects");
+    return true;
+}
+
 bool UpdateClass(TypedDataContainer& object, const FieldTable& table, const FieldTable& all) {
     bool success = true;
     try {
-        if (ContainerAccess::IsReadOnly(object)) {
-            object.SetLastError(-1, "Update not supported for read only objects");
+        if (IsRefused(object)) {
             return false;
         }
         if (table.parent != nullptr) {
@@ -277,8 +285,7 @@ bool Update(TypedDataContainer& object, const FieldTable& table) {
 }
 
 bool UpdateField(TypedDataContainer& object, const FieldRow& row, std::optional<std::size_t> position) {
-    if (ContainerAccess::IsReadOnly(object)) {
-        object.SetLastError(-1, "Update not supported for read only objects");
+    if (IsRefused(object)) {
         return false;
     }
     const FieldTable* const all = TableOf(object);
