@@ -33,8 +33,7 @@ XalanNode* XMLDataWrapper::SelectNode(const zelString& sName, bool bFromDocument
 
 bool XMLDataWrapper::LoadNodeList(const zelString& sName, const zelString& sQuery, int) {
     FaultPoint("LoadNodeList");
-    std::vector<NodeRef>& list = m_pState->lists[sQuery];
-    list.clear();
+    std::vector<NodeRef> list;
     if (m_pState->IsLoaded()) {
         const XmlTree& tree = *m_pState->Tree();
         for (NodeRef child = tree.FirstChild(m_pState->Here()); child != NodeRef::None;
@@ -44,7 +43,9 @@ bool XMLDataWrapper::LoadNodeList(const zelString& sName, const zelString& sQuer
             }
         }
     }
-    return !list.empty();
+    const bool isAny = !list.empty();
+    m_pState->lists[sQuery] = std::move(list);
+    return isAny;
 }
 
 int XMLDataWrapper::GetNodeListLength(const zelString& sQuery) const {
