@@ -21,6 +21,7 @@ FullFunctionXMLDataWrapper::~FullFunctionXMLDataWrapper() = default;
 
 bool FullFunctionXMLDataWrapper::CreateOutputDocument(const char* sRootName) {
     return Guarded(*m_pState, [&] {
+        FaultPoint("CreateOutputDocument");
         auto side = std::make_shared<DomSide>();
         side->document = NewDomDocument();
         if (sRootName != nullptr && *sRootName != '\0') {
@@ -35,6 +36,7 @@ bool FullFunctionXMLDataWrapper::CreateOutputDocument(const char* sRootName) {
 }
 
 DOMDocument* FullFunctionXMLDataWrapper::GetOutputDocument() {
+    FaultPoint("GetOutputDocument");
     if (!m_pState->domIsMaster && m_pState->IsLoaded()) {
         m_pState->DomNodeOrNull(m_pState->Tree()->Root());
     }
@@ -48,8 +50,9 @@ DOMNode* FullFunctionXMLDataWrapper::FindOutputNode(const zelString& sQuery, boo
 
 bool FullFunctionXMLDataWrapper::CreateQueryPath(const zelString& sQuery) {
     FaultPoint("CreateQueryPath");
+    const DOMDocument* const document = GetOutputDocument();
     try {
-        if (GetOutputDocument() == nullptr || !m_pState->domIsMaster) {
+        if (document == nullptr || !m_pState->domIsMaster) {
             throw std::runtime_error(m_pState->readOnly ? "the document is read only" : "there is no document");
         }
         const WrapperState::PathStart start = m_pState->StartOf(sQuery, true);
@@ -91,6 +94,7 @@ bool FullFunctionXMLDataWrapper::AppendElementValue(DOMNode* pParent, const zelS
 }
 
 DOMNode* XMLDataWrapper::CreateNewElement(const zelString& sName, DOMDocument* pDoc) {
+    FaultPoint("CreateNewElement");
     try {
         return WithBadAlloc([&] { return NewElement(*pDoc, sName); });
     } catch (const std::invalid_argument&) {
@@ -99,6 +103,7 @@ DOMNode* XMLDataWrapper::CreateNewElement(const zelString& sName, DOMDocument* p
 }
 
 DOMNode* XMLDataWrapper::CreateNewAttribute(const zelString& sName, DOMDocument* pDoc) {
+    FaultPoint("CreateNewAttribute");
     if (!IsXmlText(sName)) {
         return nullptr;
     }
@@ -110,6 +115,7 @@ DOMNode* XMLDataWrapper::CreateNewAttribute(const zelString& sName, DOMDocument*
 }
 
 bool XMLDataWrapper::SetAttributeValue(const zelString& sValue, DOMNode* pAttribute) {
+    FaultPoint("SetAttributeValue");
     if (!IsXmlText(sValue)) {
         return false;
     }

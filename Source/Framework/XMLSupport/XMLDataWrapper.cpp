@@ -23,6 +23,7 @@ XMLDataWrapper::~XMLDataWrapper() {
 
 bool XMLDataWrapper::LoadXMLFile(const char* sPath, bool bReadOnly) {
     return Guarded(*m_pState, [&] {
+        FaultPoint("LoadXMLFile");
         const std::string path = sPath == nullptr ? "" : sPath;
         const LoadLimits limits = LoadLimits::Current();
         m_pState->Load(Document::Parse(ReadFile(path, limits.bytes), path, limits), bReadOnly);
@@ -31,6 +32,7 @@ bool XMLDataWrapper::LoadXMLFile(const char* sPath, bool bReadOnly) {
 
 bool XMLDataWrapper::LoadXMLText(const zelString& sXML, bool bReadOnly) {
     return Guarded(*m_pState, [&] {
+        FaultPoint("LoadXMLText");
         const std::string name = "<text>";
         const LoadLimits limits = LoadLimits::Current();
         CheckDocumentSize(sXML.size(), name, limits); // before it is copied
@@ -61,7 +63,10 @@ zelString XMLDataWrapper::GetXMLText() {
 
 bool XMLDataWrapper::SaveXMLFile(const char* sPath) {
     const zelString text = GetXMLText();
-    return !text.empty() && Guarded(*m_pState, [&] { SaveAtomically(sPath == nullptr ? "" : sPath, text); });
+    return !text.empty() && Guarded(*m_pState, [&] {
+        FaultPoint("SaveXMLFile");
+        SaveAtomically(sPath == nullptr ? "" : sPath, text);
+    });
 }
 
 bool XMLDataWrapper::IsDataLoaded() const {
@@ -70,14 +75,17 @@ bool XMLDataWrapper::IsDataLoaded() const {
 }
 
 bool XMLDataWrapper::HasCurrentNode() const {
+    FaultPoint("HasCurrentNode");
     return m_pState->current != NodeRef::None;
 }
 
 zelString XMLDataWrapper::GetStoredQuery() const {
+    FaultPoint("GetStoredQuery");
     return m_pState->query.Text();
 }
 
 void XMLDataWrapper::SetStoredQuery(const zelString& sQuery) {
+    FaultPoint("SetStoredQuery");
     m_pState->query = QueryChain(sQuery);
 }
 
@@ -99,11 +107,13 @@ DOMNode* XMLDataWrapper::GetDOMNode(const char* sQuery, bool bFromDocument) {
 }
 
 XalanNode* XMLDataWrapper::GetXalanNode(const zelString& sQuery, bool bFromDocument) {
+    FaultPoint("GetXalanNode");
     const NodeRef node = m_pState->FindOrNone(sQuery, bFromDocument);
     return node == NodeRef::None ? nullptr : m_pState->Tree()->View(node);
 }
 
 void XMLDataWrapper::SetCurrentNode(DOMNode* pNode) {
+    FaultPoint("SetCurrentNode");
     m_pState->current = NodeRef::None;
     if (pNode == nullptr || m_pState->dom == nullptr) {
         return;
@@ -117,6 +127,7 @@ void XMLDataWrapper::SetCurrentNode(DOMNode* pNode) {
 }
 
 void XMLDataWrapper::SetCurrentNode(XalanNode* pNode) {
+    FaultPoint("SetCurrentNode");
     const XmlTree* tree = nullptr;
     const NodeRef node = NodeViews::Find(pNode, tree);
     m_pState->current = NodeRef::None;
@@ -131,6 +142,7 @@ void XMLDataWrapper::SetCurrentNode(XalanNode* pNode) {
 }
 
 void XMLDataWrapper::SetCurrentNode(std::nullptr_t) {
+    FaultPoint("SetCurrentNode");
     m_pState->current = NodeRef::None;
 }
 

@@ -49,6 +49,7 @@ bool XMLDataWrapper::LoadNodeList(const zelString& sName, const zelString& sQuer
 }
 
 int XMLDataWrapper::GetNodeListLength(const zelString& sQuery) const {
+    FaultPoint("GetNodeListLength");
     const auto found = m_pState->lists.find(sQuery);
     return found == m_pState->lists.end() ? 0 : static_cast<int>(found->second.size());
 }
@@ -64,6 +65,7 @@ XalanNode* XMLDataWrapper::SelectNodeListItem(int iPosition, const zelString& sQ
 }
 
 void XMLDataWrapper::ReleaseNodeList(const zelString& sQuery) {
+    FaultPoint("ReleaseNodeList");
     m_pState->lists.erase(sQuery);
 }
 

@@ -81,6 +81,7 @@ private:
     }
 
     void SetOneAttribute(const zelString& name, const zelString& value) {
+        FaultPoint("SetAttributeValue");
         try {
             SetAttribute(*m_current, *m_document, name, value);
         } catch (const std::invalid_argument& failure) {

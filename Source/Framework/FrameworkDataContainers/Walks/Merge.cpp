@@ -176,6 +176,7 @@ private:
     }
 
     void TakeEntry(const FieldRow& row, NodeRef node, std::size_t position) {
+        FaultPoint("MergeEntry");
         const OverridePlace place(m_source.Tree(), m_source.current, &m_featureID);
         if (row.form == FieldForm::KeyedList) {
             MergeKeyed(row, node, position);

@@ -135,6 +135,7 @@ private:
     void TakeAttributes() {
         for (const FieldRow& row : m_table.rows) {
             if (row.form == FieldForm::Attribute) {
+                FaultPoint("Populate");
                 SetScalar(m_object, row, AttributeOf(m_tree, m_node, row.name));
             }
         }
