@@ -16,6 +16,7 @@ struct ContainerAccess {
     static void SetBuildsFromScratch(TypedDataContainer& object, bool value) { object.m_bBuildFromScratch = value; }
     static bool IsNested(const TypedDataContainer& object) { return object.m_bNested; }
     static void SetNested(TypedDataContainer& object, bool value) { object.m_bNested = value; }
+    static bool IsValid(const TypedDataContainer& object) { return object.m_bValid; }
     static void SetValid(TypedDataContainer& object, bool value) { object.m_bValid = value; }
     static const zelString& FeatureID(const TypedDataContainer& object) { return object.m_sFeatureID; }
     static const zelString& ContainerName(const TypedDataContainer& object) { return object.m_sContainerName; }

@@ -17,6 +17,15 @@ struct Origin {
     XalanNode* view;
 };
 
+/// Populates an object that stands on the node. A walk that an exception ended has failed, whatever its result: that of
+/// a derived class is its parent's then, or its own although the parent's walk has failed.
+bool PopulateFrom(TypedDataContainer& object, XalanNode* view) {
+    ContainerAccess::SetValid(object, true); // until a walk says otherwise
+    const bool success = object.PopulateDataMembers(view) && ContainerAccess::IsValid(object);
+    ContainerAccess::SetValid(object, success);
+    return success;
+}
+
 /// The end of every load: empties the object, stands it on the node, and populates it.
 bool LoadAt(TypedDataContainer& object, ValueLookupBase* lookup, Origin origin, bool readOnly) {
     ContainerAccess::SetValid(object, false);
@@ -26,9 +35,7 @@ bool LoadAt(TypedDataContainer& object, ValueLookupBase* lookup, Origin origin, 
     ContainerAccess::SetLookup(object, lookup);
     ContainerAccess::SetReadOnly(object, readOnly);
     ContainerAccess::Attach(object, std::move(origin.attachment), origin.node);
-    const bool success = object.PopulateDataMembers(origin.view);
-    ContainerAccess::SetValid(object, success);
-    return success;
+    return PopulateFrom(object, origin.view);
 }
 
 /// Loads from a source of the object's own; nothing happens when the source holds no element of that name. A file may
@@ -150,8 +157,6 @@ bool TypedDataContainer::SetContainedDataPtr(XMLDataWrapper* pData, XalanNode* s
         ContainerAccess::AttachAgain(*this, Attachment::Of(wrapper), node);
         ContainerAccess::SetReadOnly(*this, bReadOnly);
         ContainerAccess::SetNested(*this, bNested);
-        const bool success = PopulateDataMembers(view);
-        ContainerAccess::SetValid(*this, success);
-        return success;
+        return PopulateFrom(*this, view);
     });
 }

@@ -163,6 +163,7 @@ bool Populate(TypedDataContainer& object, const FieldTable& table, XalanNode* pN
             bSuccess = true;
         }
     } catch (...) {
+        ContainerAccess::SetValid(object, false); // it holds a part only
         ContainerAccess::SetFixedError(object, -1, "Unknown Exception occured in PopulateDataMembers");
     }
     return bSuccess;
