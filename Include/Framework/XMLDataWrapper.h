@@ -68,8 +68,9 @@ public:
     XMLDataWrapper& operator=(const XMLDataWrapper&) = delete;
 
     /// Reads and parses a file; the name is a path, never a URL. `bReadOnly` keeps the document from ever being edited,
-    /// so that any number of threads may read it and load from it. A text that is not well-formed, a
-    /// DOCTYPE, XML other than 1.0 or a document beyond LoadLimits is refused with "file:line:column: what is wrong".
+    /// so that any number of threads may read it and load from it. A text that is not well-formed, a DOCTYPE, XML other
+    /// than 1.0 or a document beyond LoadLimits is refused with "file:line:column: what is wrong"; a file that is too
+    /// large before it is read. A pipe or device is read until it ends, and waited for that long.
     bool LoadXMLFile(const char* sPath, bool bReadOnly);
     /// The same from memory: the bytes exactly as a file would hold them, in the document's own encoding.
     bool LoadXMLText(const zelString& sXML, bool bReadOnly);
@@ -77,8 +78,19 @@ public:
     /// own encoding and line ends. Empty, with an error, when nothing is loaded or the content cannot be written as XML
     /// that loads again.
     zelString GetXMLText();
-    /// Writes GetXMLText to a file, which is replaced as a whole or not at all.
+    /// Writes GetXMLText to a file, which is replaced as a whole or not at all, also when the process dies or the power
+    /// fails; its owner and mode stay. False, with an error and the file as it was, when that cannot be done; saving
+    /// may be tried again. One error leaves the new file in place and says so: it may not survive a power cut.
     bool SaveXMLFile(const char* sPath);
+    /// The same; with `bRefuseChanged` no file is replaced unless it is, unchanged, the one that this wrapper loaded or
+    /// saved last, so that what others wrote there in the meantime is not lost. Refused, too, are the path of such a
+    /// file that is gone, and any other file; where there is none, it is made. Links are followed before files are
+    /// compared. Each change counts, also one of mode or times and one while the file was being loaded.
+    ///
+    /// The file is looked at just before the new one takes its place. A change in the instant between the two is lost,
+    /// and so is what a program writes afterwards that has kept the old file open. A file that appears in that instant
+    /// is safe wherever the file system can rename without replacing.
+    bool SaveXMLFile(const char* sPath, bool bRefuseChanged);
 
     bool IsDataLoaded() const;
     bool HasCurrentNode() const;

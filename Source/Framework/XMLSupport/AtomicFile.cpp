@@ -2,52 +2,25 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
-#include <memory>
+#include <cstdio>
+#include <optional>
 #include <random>
-#include <system_error>
 #include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "Framework/XMLSupport/FileCalls.h"
+
 namespace Framework {
 
 namespace {
 
-template <class Error> [[noreturn]] void Fail(const std::string& path, const std::string& step, int number) {
-    // Not strerror: other threads may call it too.
-    throw Error(path + ": " + step + ": " + std::generic_category().message(number));
-}
-
-/// A file descriptor; closed at the end of the block, where nobody asks for the result any more.
-class Descriptor {
-public:
-    explicit Descriptor(int number) : m_number(number) {}
-    ~Descriptor() { Close(); }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int Number() const { return m_number; }
-    bool IsOpen() const { return m_number >= 0; }
-    /// 0 or the error. Closing is never tried twice: the number may belong to another file by then.
-    int Close() {
-        const int number = std::exchange(m_number, -1);
-        return number < 0 || ::close(number) == 0 ? 0 : errno;
-    }
-
-private:
-    int m_number;
-};
-
-template <class Call> auto Retrying(Call call) {
-    decltype(call()) result;
-    do {
-        result = call();
-    } while (result == -1 && errno == EINTR);
-    return result;
-}
+constexpr const char* kChanged =
+    ": not saved: the file has changed since it was loaded or last saved; load it again to keep that change";
+constexpr const char* kGone = ": not saved: the file that was loaded or last saved is no longer there";
+constexpr const char* kUnknown = ": not saved: there is a file that was neither loaded nor saved from here";
 
 /// Where the bytes go once links are followed.
 struct Target {
@@ -55,12 +28,9 @@ struct Target {
     std::string name;
     bool exists = false;
     struct stat status = {};
-};
 
-std::string RealPath(const std::string& path) {
-    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
-    return real == nullptr ? std::string() : std::string(real.get());
-}
+    std::string Path() const { return (folder == "/" ? "" : folder) + "/" + name; }
+};
 
 Target FindTarget(const std::string& path) {
     Target target;
@@ -112,10 +82,20 @@ public:
 
     void KeepOwnerAndMode();
     void Write(std::string_view bytes);
-    void Finish();
+    /// Behind this its content and size are fixed.
+    FileStamp Close();
+    /// Takes the target's place. With `onlyKnown` not unless the target is the known file, or there is neither.
+    void Rename(bool onlyKnown, const KnownFile* known);
+    /// What `closed` became by the renaming; itself when the target is another one already.
+    FileStamp Renamed(const FileStamp& closed) const;
+    void ForceFolder();
 
 private:
     int Create();
+    void CheckTarget(const KnownFile* known) const;
+    void CheckTargetContent(const KnownFile& known) const;
+    FileStamp TargetStamp() const;
+    bool MoveWhereNothingIs();
 
     const std::string& m_path;
     const Target& m_target;
@@ -188,18 +168,109 @@ void Temporary::Write(std::string_view bytes) {
     }
 }
 
-void Temporary::Finish() {
+FileStamp Temporary::Close() {
     // Never tried again: the kernel reports a lost page once and takes it for written after that.
     if (::fsync(m_file.Number()) != 0) {
         Fail<SaveError>(m_path, "cannot force it to the disk", errno);
     }
+    struct stat status = {};
+    if (::fstat(m_file.Number(), &status) != 0) {
+        Fail<SaveError>(m_path, "cannot read the times of the temporary file", errno);
+    }
     if (const int number = m_file.Close(); number != 0) {
         Fail<SaveError>(m_path, "cannot close", number);
+    }
+    return FileStamp(status);
+}
+
+void Temporary::Rename(bool onlyKnown, const KnownFile* known) {
+    if (onlyKnown && !m_target.exists) {
+        if (known != nullptr) {
+            throw SaveError(m_path + kGone);
+        }
+        if (MoveWhereNothingIs()) {
+            return;
+        }
+    } else if (onlyKnown) {
+        CheckTarget(known);
     }
     if (::renameat(m_folder.Number(), m_name.c_str(), m_folder.Number(), m_target.name.c_str()) != 0) {
         Fail<SaveError>(m_path, "cannot replace the old file", errno);
     }
     m_name.clear();
+}
+
+void Temporary::CheckTarget(const KnownFile* known) const {
+    if (known == nullptr) {
+        throw SaveError(m_path + kUnknown);
+    }
+    const auto checkStamp = [&] {
+        if (TargetStamp() != known->stamp) {
+            throw SaveError(m_path + kChanged);
+        }
+    };
+    checkStamp();
+    if (known->content.has_value()) {
+        CheckTargetContent(*known);
+        checkStamp();
+    }
+}
+
+void Temporary::CheckTargetContent(const KnownFile& known) const {
+    const Descriptor file(Retrying(
+        [&] { return ::openat(m_folder.Number(), m_target.name.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC); }));
+    if (!file.IsOpen()) {
+        Fail<SaveError>(m_path, "cannot read whether it has changed", errno);
+    }
+    const auto size = static_cast<std::size_t>(known.stamp.size);
+    const std::optional<std::string> bytes = ReadAll(file, size, size, m_path);
+    if (!bytes.has_value() || KnownFile::HashOf(*bytes) != *known.content) {
+        throw SaveError(m_path + kChanged);
+    }
+}
+
+FileStamp Temporary::TargetStamp() const {
+    struct stat status = {};
+    if (::fstatat(m_folder.Number(), m_target.name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0) {
+        return FileStamp(status);
+    }
+    if (errno == ENOENT) {
+        throw SaveError(m_path + kGone);
+    }
+    Fail<SaveError>(m_path, "cannot read whether it has changed", errno);
+}
+
+/// False on a file system that cannot do it, when no file is there.
+bool Temporary::MoveWhereNothingIs() {
+    const int folder = m_folder.Number();
+    if (::renameat2(folder, m_name.c_str(), folder, m_target.name.c_str(), RENAME_NOREPLACE) == 0) {
+        m_name.clear();
+        return true;
+    }
+    int number = errno;
+    if (number == EINVAL || number == ENOSYS) {
+        struct stat status = {};
+        number = ::fstatat(folder, m_target.name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 ? EEXIST : errno;
+    }
+    if (number == ENOENT) {
+        return false;
+    }
+    if (number == EEXIST) {
+        throw SaveError(m_path + kUnknown);
+    }
+    Fail<SaveError>(m_path, "cannot give the new file its name", number);
+}
+
+FileStamp Temporary::Renamed(const FileStamp& closed) const {
+    struct stat status = {};
+    if (::fstatat(m_folder.Number(), m_target.name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
+        return closed;
+    }
+    const FileStamp now(status);
+    return now.IsRenamed(closed) ? now : closed;
+}
+
+void Temporary::ForceFolder() {
     if (::fsync(m_folder.Number()) != 0) {
         Fail<SaveError>(
             m_path,
@@ -211,47 +282,22 @@ void Temporary::Finish() {
 } // namespace
 
 void SaveAtomically(const std::string& path, std::string_view bytes) {
+    KnownFiles known;
+    SaveAtomically(path, bytes, Overwrite::Any, known);
+}
+
+void SaveAtomically(const std::string& path, std::string_view bytes, Overwrite overwrite, KnownFiles& known) {
     const Target target = FindTarget(path);
+    // Nothing may fail between the rename and its being known.
+    KnownFile saved = {target.Path(), {}, KnownFile::HashOf(bytes)};
     Temporary temporary(path, target);
     temporary.KeepOwnerAndMode();
     temporary.Write(bytes);
-    temporary.Finish();
-}
-
-std::string ReadFile(const std::string& path, std::size_t cap) {
-    Descriptor file(Retrying([&] { return ::open(path.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC); }));
-    if (!file.IsOpen()) {
-        Fail<FileError>(path, "cannot open", errno);
-    }
-    struct stat status = {};
-    if (::fstat(file.Number(), &status) != 0) {
-        Fail<FileError>(path, "cannot read its size", errno);
-    }
-    if (S_ISDIR(status.st_mode)) {
-        Fail<FileError>(path, "cannot read", EISDIR);
-    }
-    // One byte more than the size says, so that the end shows without another round; sizes may lie.
-    constexpr std::size_t kPiece = std::size_t{64} * 1024;
-    const auto expected = S_ISREG(status.st_mode) ? static_cast<std::size_t>(status.st_size) + 1 : kPiece;
-    std::string bytes;
-    std::size_t size = 0;
-    for (;;) {
-        if (size == bytes.size()) {
-            bytes.resize(size == 0 ? std::min(expected, cap) + 1 : std::min(size * 2, cap) + 1);
-        }
-        const ssize_t got = Retrying([&] { return ::read(file.Number(), bytes.data() + size, bytes.size() - size); });
-        if (got < 0) {
-            Fail<FileError>(path, "cannot read", errno);
-        }
-        size += static_cast<std::size_t>(got);
-        if (size > cap) {
-            throw FileError(path + ": the file is larger than the limit of " + std::to_string(cap) + " bytes");
-        }
-        if (got == 0) {
-            bytes.resize(size);
-            return bytes;
-        }
-    }
+    const FileStamp closed = temporary.Close();
+    temporary.Rename(overwrite == Overwrite::OnlyKnown, known.Find(saved.path));
+    saved.stamp = temporary.Renamed(closed);
+    known.Saved(std::move(saved));
+    temporary.ForceFolder();
 }
 
 } // namespace Framework

@@ -1,17 +1,12 @@
 #pragma once
 
-#include <cstddef>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
-namespace Framework {
+#include "Framework/XMLSupport/KnownFiles.h"
+#include "Framework/XMLSupport/ReadFile.h"
 
-/// A file could not be read; the text names the file, the step and what the system said.
-class FileError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
+namespace Framework {
 
 /// A file could not be saved. Unless the text says so, it is as it was before.
 class SaveError : public FileError {
@@ -25,11 +20,21 @@ public:
 /// A symbolic link is followed, one that leads nowhere is refused, as is anything that is no regular file. Mode, owner
 /// and group of the old file are kept, and where they cannot be, saving is refused; a new file gets what the umask
 /// leaves. Hard links, access control lists and extended attributes of the old file are lost. The folder must be
-/// writable. A process that dies while saving may leave a temporary named `<file>.<random>.tmp`.
+/// writable.
+///
+/// A process that dies while saving may leave a temporary named `<file>.<random>.tmp`. It is nobody's any more and may
+/// be deleted; the library does not do that, for it cannot know one from the temporary of a process that still writes.
 void SaveAtomically(const std::string& path, std::string_view bytes);
 
-/// The whole file, or all that a pipe or device gives. Throws FileError, also for a folder and for more than `cap`
-/// bytes.
-std::string ReadFile(const std::string& path, std::size_t cap);
+/// What saving does with a file that it would replace.
+enum class Overwrite {
+    Any,
+    OnlyKnown, ///< refuses one that is not as `known` has it, and to make one again that `known` has and that is gone
+};
+
+/// The same, and the file becomes a known one as soon as it is in place. A change of the old file is noticed until just
+/// before the rename; where there was no file, none is ever overwritten, on file systems that can promise it.
+/// Throws FileError, too, when the old file cannot be read for that.
+void SaveAtomically(const std::string& path, std::string_view bytes, Overwrite overwrite, KnownFiles& known);
 
 } // namespace Framework

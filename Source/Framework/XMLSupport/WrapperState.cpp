@@ -153,8 +153,10 @@ TreeEditor& WrapperState::Edit() {
     return *m_editor;
 }
 
-void WrapperState::Load(std::shared_ptr<const Document> loaded, bool isReadOnly) {
+void WrapperState::Load(std::shared_ptr<const Document> loaded, bool isReadOnly,
+                         std::shared_ptr<const KnownFiles> loadedFiles) {
     WrapperState fresh;
+    fresh.m_files = std::move(loadedFiles);
     fresh.document = std::move(loaded);
     fresh.readOnly = isReadOnly;
     if (isReadOnly) {
@@ -172,6 +174,7 @@ void WrapperState::Load(std::shared_ptr<const Document> loaded, bool isReadOnly)
 
 void WrapperState::Share(WrapperState& other) const noexcept {
     other.document = document;
+    other.m_files = Files();
     if (domIsMaster) {
         other.dom = dom;
     }
@@ -188,6 +191,16 @@ void WrapperState::SetError(int number, std::string_view text) noexcept {
     } catch (const std::bad_alloc&) {
         m_error.assign("out of memory"); // short enough to stand in the string itself
     }
+}
+
+std::shared_ptr<const KnownFiles> WrapperState::Files() const {
+    const std::unique_lock<std::mutex> lock = LockReading();
+    return m_files;
+}
+
+void WrapperState::SetFiles(std::shared_ptr<const KnownFiles> files) {
+    const std::unique_lock<std::mutex> lock = LockReading();
+    m_files = std::move(files);
 }
 
 std::string WrapperState::Error() const {

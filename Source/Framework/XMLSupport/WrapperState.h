@@ -21,6 +21,7 @@ namespace Framework {
 
 class Attachment;
 class OutputScope;
+struct KnownFiles;
 
 /// A DOM beside or instead of the reading tree, with the way from the nodes of the tree it was built from, and back.
 struct DomSide {
@@ -95,14 +96,19 @@ struct WrapperState {
     void ForgetAttribute(NodeRef element, std::string_view name);
     /// A document that was loaded becomes this wrapper's, which starts afresh. Throws std::runtime_error on a private
     /// wrapper, whose objects have nowhere to go.
-    void Load(std::shared_ptr<const Document> loaded, bool isReadOnly);
-    /// Puts another state, a new one, over the same document, with nothing of the current node, queries and lists. The
-    /// copy of a read-only document that callers read as a DOM stays with this one.
+    void Load(std::shared_ptr<const Document> loaded, bool isReadOnly,
+              std::shared_ptr<const KnownFiles> loadedFiles = nullptr);
+    /// Puts another state, a new one, over the same document, which knows the same files, with nothing of the current
+    /// node, queries and lists. The copy of a read-only document that callers read as a DOM stays with this one.
     void Share(WrapperState& other) const noexcept;
     /// Never fails: where there is no memory for the text, the error is that.
     void SetError(int number, std::string_view text) noexcept;
     std::string Error() const;
     int ErrorNumber() const;
+    /// The files that the document was loaded from and saved to; shared by the wrappers that go on with it, until one of
+    /// them saves. Null when there are none.
+    std::shared_ptr<const KnownFiles> Files() const;
+    void SetFiles(std::shared_ptr<const KnownFiles> files);
 
 private:
     /// Holds the lock that threads need which read through one wrapper; nothing where only one may.
@@ -110,6 +116,7 @@ private:
         return reading == nullptr ? std::unique_lock<std::mutex>() : std::unique_lock(reading->mutex);
     }
 
+    std::shared_ptr<const KnownFiles> m_files;
     std::string m_error;
     int m_errorNumber = 0;
     std::optional<ChildIndex> m_index;

@@ -11,6 +11,16 @@
 
 using namespace Framework;
 
+namespace {
+
+/// What parsing says of a document that is too large, for a file that is refused before all of it is read.
+std::string TooLarge(const LoadLimits& limits) {
+    return ":1:1: " + LimitPassed("the document has more than " + std::to_string(limits.bytes) + " bytes",
+                                  std::to_string(limits.bytes), "bytes");
+}
+
+} // namespace
+
 XMLDataWrapper::XMLDataWrapper() : m_pState(std::make_unique<WrapperState>()) {}
 
 XMLDataWrapper::~XMLDataWrapper() {
@@ -26,7 +36,9 @@ bool XMLDataWrapper::LoadXMLFile(const char* sPath, bool bReadOnly) {
         FaultPoint("LoadXMLFile");
         const std::string path = sPath == nullptr ? "" : sPath;
         const LoadLimits limits = LoadLimits::Current();
-        m_pState->Load(Document::Parse(ReadFile(path, limits.bytes), path, limits), bReadOnly);
+        const auto files = std::make_shared<KnownFiles>();
+        std::string bytes = ReadFile(path, limits.bytes, TooLarge(limits), &files->loaded);
+        m_pState->Load(Document::Parse(std::move(bytes), path, limits), bReadOnly, files);
     });
 }
 
@@ -62,10 +74,25 @@ zelString XMLDataWrapper::GetXMLText() {
 }
 
 bool XMLDataWrapper::SaveXMLFile(const char* sPath) {
+    return SaveXMLFile(sPath, false);
+}
+
+bool XMLDataWrapper::SaveXMLFile(const char* sPath, bool bRefuseChanged) {
     const zelString text = GetXMLText();
     return !text.empty() && Guarded(*m_pState, [&] {
         FaultPoint("SaveXMLFile");
-        SaveAtomically(sPath == nullptr ? "" : sPath, text);
+        // A copy, for others may go on with what this wrapper knew; kept whatever happens, for a file may be in place
+        // and saving fail all the same.
+        const std::shared_ptr<const KnownFiles> before = m_pState->Files();
+        const auto known = before == nullptr ? std::make_shared<KnownFiles>() : std::make_shared<KnownFiles>(*before);
+        try {
+            SaveAtomically(sPath == nullptr ? "" : sPath, text, bRefuseChanged ? Overwrite::OnlyKnown : Overwrite::Any,
+                           *known);
+        } catch (...) {
+            m_pState->SetFiles(known);
+            throw;
+        }
+        m_pState->SetFiles(known);
     });
 }
 
