@@ -16,8 +16,8 @@ namespace Framework {
 /// A folder that lives as long as its test.
 class TemporaryFolder {
 public:
-    TemporaryFolder() {
-        std::string name = testing::TempDir() + "/framework-XXXXXX";
+    explicit TemporaryFolder(const std::filesystem::path& parent = testing::TempDir()) {
+        std::string name = (parent / "framework-XXXXXX").string();
         if (::mkdtemp(name.data()) == nullptr) {
             throw std::runtime_error("no temporary folder " + name);
         }

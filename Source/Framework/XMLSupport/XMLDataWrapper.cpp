@@ -4,6 +4,7 @@
 #include "Framework/XMLSupport/Attachment.h"
 #include "Framework/XMLSupport/DocumentParser.h"
 #include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/LimitMessages.h"
 #include "Framework/XMLSupport/LoadsAgain.h"
 #include "Framework/XMLSupport/NodeViews.h"
 #include "Framework/XMLSupport/WrapperGuard.h"

@@ -1,0 +1,245 @@
+// Saving that refuses to overwrite what others wrote, and what it has to know of files for that.
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include <FrameworkDataContainers/StateProcessingRootType.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "Commands.h"
+#include "Framework/LoadLimits.h"
+#include "Framework/XMLDataWrapper.h"
+#include "Framework/XMLSupport/AtomicFile.h"
+
+namespace Robustness {
+namespace {
+
+using namespace Framework;
+namespace fs = std::filesystem;
+
+constexpr const char* kOld = "<StateProcessingRoot Version='1'/>";
+constexpr const char* kNew = "<StateProcessingRoot Version='2'/>";
+constexpr const char* kTheirs = "<StateProcessingRoot Version='9'/>";
+
+constexpr const char* kChanged = "not saved: the file has changed since it was loaded or last saved; load it again";
+constexpr const char* kGone = "not saved: the file that was loaded or last saved is no longer there";
+constexpr const char* kUnknown = "not saved: there is a file that was neither loaded nor saved from here";
+
+class SaveRefusal : public testing::Test {
+protected:
+    void SetUp() override { WriteText(m_path, kOld); }
+
+    void Load(XMLDataWrapper& wrapper) const {
+        ASSERT_TRUE(wrapper.LoadXMLFile(m_path.c_str(), false)) << wrapper.GetLastError();
+        ASSERT_TRUE(wrapper.SetQueryValue("@Version", "2", false));
+    }
+
+    /// Refused with the file's name and that reason, and nothing is changed or left beside the files there.
+    void ExpectRefused(XMLDataWrapper& wrapper, const fs::path& path, const char* reason) const {
+        const auto look = [&] {
+            std::map<std::string, std::string> files;
+            for (const auto& entry : fs::directory_iterator(m_path.parent_path())) {
+                files[entry.path().filename()] = entry.is_regular_file() ? ReadText(entry.path()) : "";
+            }
+            return files;
+        };
+        const auto before = look();
+        EXPECT_FALSE(wrapper.SaveXMLFile(path.c_str(), true));
+        EXPECT_EQ(wrapper.GetLastError().find(path.string() + ": " + reason), 0U) << wrapper.GetLastError();
+        EXPECT_EQ(look(), before);
+    }
+
+    static void ExpectSaved(XMLDataWrapper& wrapper, const fs::path& path, bool refuseChanged = true) {
+        EXPECT_TRUE(wrapper.SaveXMLFile(path.c_str(), refuseChanged)) << wrapper.GetLastError();
+        EXPECT_EQ(ReadText(path), wrapper.GetXMLText());
+    }
+
+    const TemporaryFolder m_folder;
+    const fs::path m_path = m_folder / "lane.xml";
+};
+
+TEST_F(SaveRefusal, WhateverOthersDoToTheFile) {
+    struct Case {
+        const char* what;
+        std::function<void()> others;
+        const char* reason;
+    };
+    const std::vector<Case> cases = {
+        {"write over it", [&] { WriteText(m_path, kTheirs); }, kChanged},
+        {"append", [&] { std::ofstream(m_path, std::ios::app) << "<!-- -->"; }, kChanged},
+        {"write and set the time back",
+         [&] {
+             const auto time = fs::last_write_time(m_path);
+             WriteText(m_path, kTheirs);
+             fs::last_write_time(m_path, time);
+         },
+         kChanged},
+        {"put another in its place",
+         [&] {
+             WriteText(m_folder / "other", kOld);
+             fs::rename(m_folder / "other", m_path);
+         },
+         kChanged},
+        {"change its mode", [&] { fs::permissions(m_path, fs::perms{0600}); }, kChanged},
+        {"remove it", [&] { fs::remove(m_path); }, kGone},
+        {"put a link to another in its place",
+         [&] {
+             WriteText(m_folder / "other", kOld);
+             fs::remove(m_path);
+             fs::create_symlink("other", m_path);
+         },
+         kUnknown},
+    };
+    for (const Case& each : cases) {
+        for (const bool savedBefore : {false, true}) {
+            SCOPED_TRACE(testing::Message() << each.what << (savedBefore ? " once it was saved" : ""));
+            fs::remove(m_path);
+            fs::remove(m_folder / "other");
+            WriteText(m_path, kOld);
+            XMLDataWrapper wrapper;
+            Load(wrapper);
+            if (savedBefore) {
+                ExpectSaved(wrapper, m_path);
+                ASSERT_TRUE(wrapper.SetQueryValue("@Version", "3", false));
+            }
+            each.others();
+            ExpectRefused(wrapper, m_path, each.reason);
+            ExpectRefused(wrapper, m_path, each.reason);
+            // The changes are still there, can be saved without asking, and the file is known from then on.
+            ExpectSaved(wrapper, m_path, false);
+            ExpectSaved(wrapper, m_path);
+        }
+    }
+}
+
+TEST_F(SaveRefusal, OtherFilesAreSafeAndNewOnesAreMade) {
+    const fs::path other = m_folder / "other.xml";
+    WriteText(other, kTheirs);
+    fs::create_directory(m_folder / "sub");
+    fs::create_symlink("../lane.xml", m_folder / "sub" / "link");
+    XMLDataWrapper wrapper;
+    Load(wrapper);
+    ExpectRefused(wrapper, other, kUnknown);
+    ExpectSaved(wrapper, m_folder / "copy.xml");
+    ExpectSaved(wrapper, m_folder / "copy.xml");
+    ExpectSaved(wrapper, m_path); // what was loaded is still known
+    ExpectSaved(wrapper, m_folder / "sub" / "link");
+    ExpectSaved(wrapper, m_folder / "copy.xml");
+    fs::remove(m_folder / "copy.xml");
+    ExpectRefused(wrapper, m_folder / "copy.xml", kGone);
+
+    // Without a file behind it a document knows none until it is saved.
+    FullFunctionXMLDataWrapper output;
+    ASSERT_TRUE(output.LoadXMLFile(m_path.c_str(), false) && output.CreateOutputDocument("StateProcessingRoot"));
+    XMLDataWrapper text;
+    ASSERT_TRUE(text.LoadXMLFile(m_path.c_str(), false) && text.LoadXMLText(kNew, false));
+    for (XMLDataWrapper* const fresh : {static_cast<XMLDataWrapper*>(&output), &text}) {
+        ExpectRefused(*fresh, m_path, kUnknown);
+        fs::remove(other);
+        ExpectSaved(*fresh, other);
+        ExpectSaved(*fresh, other);
+    }
+    // A load that fails leaves the file known.
+    WriteText(m_folder / "broken.xml", "<a>");
+    EXPECT_FALSE(wrapper.LoadXMLFile((m_folder / "broken.xml").c_str(), false));
+    ExpectSaved(wrapper, m_path);
+}
+
+TEST_F(SaveRefusal, ObjectsKnowTheFileOfTheirDocument) {
+    StateProcessingRootType own(false);
+    ASSERT_TRUE(own.LoadFromFile(nullptr, m_path.c_str(), false)) << own.GetLastError();
+    ExpectSaved(*own.GetContainedDataPtr(), m_path);
+
+    auto wrapper = std::make_unique<XMLDataWrapper>();
+    Load(*wrapper);
+    StateProcessingRootType left(false);
+    StateProcessingRootType orphan(false);
+    ASSERT_TRUE(left.LoadFromDataPacket(nullptr, wrapper.get(), false));
+    ASSERT_TRUE(wrapper->LoadXMLText(kNew, false)); // the object goes on with the old document
+    ExpectRefused(*wrapper, m_path, kUnknown);
+    ExpectSaved(*left.GetContainedDataPtr(), m_path);
+    ExpectRefused(*own.GetContainedDataPtr(), m_path, kChanged);
+
+    ASSERT_TRUE(wrapper->LoadXMLFile(m_path.c_str(), false));
+    ASSERT_TRUE(orphan.LoadFromDataPacket(nullptr, wrapper.get(), false));
+    wrapper.reset();
+    ExpectSaved(*orphan.GetContainedDataPtr(), m_path);
+    ExpectRefused(*left.GetContainedDataPtr(), m_path, kChanged);
+}
+
+// The clock of a file system may stand still for longer than a change takes; this one may be too good to show it.
+TEST_F(SaveRefusal, TellsContentsApartThatHaveOneStamp) {
+    KnownFiles files;
+    EXPECT_EQ(ReadFile(m_path, 1000, "", &files.loaded), kOld);
+    EXPECT_EQ(files.loaded.content, KnownFile::HashOf(kOld)) << "the file is younger than the clock is fine";
+    KnownFiles changed = files;
+    changed.loaded.content = KnownFile::HashOf(kTheirs);
+    EXPECT_THROW(SaveAtomically(m_path, kNew, Overwrite::OnlyKnown, changed), SaveError);
+    EXPECT_EQ(ReadText(m_path), kOld);
+    SaveAtomically(m_path, kNew, Overwrite::OnlyKnown, files);
+    EXPECT_EQ(ReadText(m_path), kNew);
+    EXPECT_EQ(files.loaded.content, KnownFile::HashOf(kNew));
+    FileStamp old = files.loaded.stamp;
+    old.changedSeconds -= 10;
+    EXPECT_TRUE(files.loaded.stamp.IsFresh() && !old.IsFresh());
+}
+
+TEST(ReadingFiles, TakesNoMoreMemoryThanTheCap) {
+    const TemporaryFolder base;
+    const std::string sparse = (base / "sparse").string();
+    WriteText(sparse, "");
+    fs::resize_file(sparse, std::uintmax_t{1} << 33U);
+    const std::string pipe = (base / "pipe").string();
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    constexpr long kMegabytes = 16;
+    const std::string cap = " " + std::to_string(kMegabytes << 20);
+#if defined(__SANITIZE_ADDRESS__)
+    constexpr long kKept = 2; // the sanitizer holds back what was freed
+#else
+    constexpr long kKept = 1;
+#endif
+    struct Case {
+        std::string before;
+        std::string file;
+        std::string result;
+        long kilobytes;
+    };
+    const long most = kKept * kMegabytes * 1024;
+    const std::vector<Case> cases = {
+        {"", sparse, sparse + ": the file is too large", 0},
+        {"", "/dev/zero", "/dev/zero: the file is too large", most},
+        {"yes >'" + pipe + "' 2>&1 & ", pipe, pipe + ": the file is too large", most},
+        {"head -c 14000000 /dev/zero >'" + pipe + "' & ", pipe, "14000000 bytes", most},
+        // says that its size is 0
+        {"", "/proc/self/smaps", "", 0},
+    };
+    for (const Case& each : cases) {
+        const CommandResult result =
+            RunCommand(each.before + "'" FRAMEWORK_SAVE_DRIVER "' read '" + each.file + "'" + cap);
+        const std::size_t tab = result.output.find('\t');
+        ASSERT_NE(tab, std::string::npos) << result.output;
+        if (each.result.empty()) {
+            EXPECT_GT(std::stol(result.output), 0) << result.output;
+        } else {
+            EXPECT_EQ(result.output.substr(0, tab), each.result);
+        }
+        EXPECT_LE(std::stol(result.output.substr(tab + 1)), each.kilobytes + 2048) << each.file;
+    }
+}
+
+TEST(ReadingFiles, AFileAboveTheLimitSaysHowToRaiseIt) {
+    const TemporaryFolder base;
+    const std::string path = (base / "sparse.xml").string();
+    WriteText(path, "");
+    fs::resize_file(path, std::uintmax_t{1} << 33U);
+    XMLDataWrapper wrapper;
+    EXPECT_FALSE(wrapper.LoadXMLFile(path.c_str(), false));
+    const std::string limit = std::to_string(LoadLimits::Default().bytes);
+    EXPECT_EQ(wrapper.GetLastError(), path + ":1:1: the document has more than " + limit +
+                                          " bytes, the limit; raise LoadLimits::bytes with LoadLimits::SetDefault");
+}
+
+} // namespace
+} // namespace Robustness

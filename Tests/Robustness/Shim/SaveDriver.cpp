@@ -1,0 +1,262 @@
+// Saves for the tests of saving, which judge what it leaves.
+//   SaveDriver sweep STYLE FOLDER SIZE ACTION...  one save for each call and action, each in a folder
+//   FOLDER/CALL-ACTION
+//                                                 of its own, up to the call that no save makes. A line for each: call,
+//                                                 action, result, state of the folder, result of a second save without
+//                                                 faults, end; parted by tabs. Needs the fault shim preloaded.
+//   SaveDriver kill STYLE FOLDER SIZE ROUNDS      saves two texts in turn until it is killed at a random moment; a
+//                                                 line with folder and end for each round
+//   SaveDriver read FILE CAP                      reads a file; a line with the result, and the kB that memory grew by
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "Framework/XMLDataWrapper.h"
+#include "Framework/XMLSupport/AtomicFile.h"
+#include "SavedState.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace Robustness;
+
+constexpr const char* kInPlace = "the new file is in place";
+
+struct Careless {
+    bool inPlace = false; ///< writes over the old file
+    bool forced = true;
+    bool looksAtForcing = true;
+    bool stdio = false; ///< and closes without looking
+};
+
+bool WriteByDescriptor(const std::string& path, const std::string& text, const Careless& how) {
+    const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0640);
+    if (file < 0) {
+        return false;
+    }
+    bool good = true;
+    for (std::size_t done = 0; good && done < text.size();) {
+        const ssize_t written = ::write(file, text.data() + done, text.size() - done);
+        good = written > 0;
+        done += good ? static_cast<std::size_t>(written) : 0;
+    }
+    if (good && how.forced) {
+        good = ::fsync(file) == 0 || !how.looksAtForcing;
+    }
+    return (::close(file) == 0) && good;
+}
+
+bool WriteByStdio(const std::string& path, const std::string& text) {
+    std::FILE* const file = std::fopen(path.c_str(), "w");
+    if (file == nullptr) {
+        return false;
+    }
+    const bool good = std::fwrite(text.data(), 1, text.size(), file) == text.size();
+    std::fclose(file); // the mistake
+    const int again = ::open(path.c_str(), O_RDONLY);
+    const bool forced = again >= 0 && ::fsync(again) == 0;
+    return ::close(again) == 0 && forced && good;
+}
+
+/// Empty, or what went wrong.
+std::string SaveCarelessly(const std::string& path, const std::string& text, const Careless& how) {
+    if (how.inPlace) {
+        return WriteByDescriptor(path, text, how) ? "" : "cannot save";
+    }
+    const std::string temporary = path + ".tmp";
+    const bool good = how.stdio ? WriteByStdio(temporary, text) : WriteByDescriptor(temporary, text, how);
+    if (!good || ::rename(temporary.c_str(), path.c_str()) != 0) {
+        ::unlink(temporary.c_str());
+        return "cannot save";
+    }
+    const int folder = ::open(fs::path(path).parent_path().c_str(), O_RDONLY);
+    const bool forced = folder >= 0 && ::fsync(folder) == 0;
+    ::close(folder);
+    return forced ? "" : kInPlace;
+}
+
+/// One document on its way from the disk to the disk.
+class Saver {
+public:
+    Saver(const std::string& style, const fs::path& folder, std::size_t size)
+        : m_style(style), m_path((folder / kLaneFile).string()), m_size(size) {
+        fs::create_directories(folder);
+        if (style == "create") {
+            Check(m_document.LoadXMLText(LaneText(false, size), false));
+            return;
+        }
+        std::ofstream(m_path, std::ios::binary) << LaneText(false, size);
+        fs::permissions(m_path, fs::perms{0640});
+        if ((style == "replace" || style == "refuse") && ::geteuid() == 0) {
+            constexpr uid_t kNobody = 65534;
+            Check(::chown(m_path.c_str(), kNobody, kNobody) == 0);
+        }
+        Check(m_document.LoadXMLFile(m_path.c_str(), false));
+    }
+
+    void Change(bool changed) {
+        m_changed = changed;
+        Check(m_document.SetQueryValue("Version", changed ? "two" : "1", false));
+    }
+
+    /// "saved", or "failed: " and the error.
+    std::string Save() {
+        std::string error;
+        if (m_style == "replace") {
+            error = m_document.SaveXMLFile(m_path.c_str()) ? "" : m_document.GetLastError();
+        } else if (m_style == "refuse" || m_style == "create") {
+            error = m_document.SaveXMLFile(m_path.c_str(), true) ? "" : m_document.GetLastError();
+        } else {
+            error = SaveCarelessly(m_path, LaneText(m_changed, m_size),
+                                   {.inPlace = m_style.starts_with("in-place"),
+                                    .forced = !m_style.ends_with("unforced"),
+                                    .looksAtForcing = m_style != "forcing-ignored",
+                                    .stdio = m_style == "stdio"});
+        }
+        return error.empty() ? "saved" : "failed: " + error;
+    }
+
+private:
+    static void Check(bool good) {
+        if (!good) {
+            std::abort();
+        }
+    }
+
+    std::string m_style;
+    std::string m_path;
+    std::size_t m_size;
+    bool m_changed = false;
+    XMLDataWrapper m_document;
+};
+
+void SaveWithFault(const std::string& style, const fs::path& folder, std::size_t size, int call,
+                   const std::string& action) {
+    Saver saver(style, folder, size);
+    saver.Change(true);
+    const std::string target = (folder / kLaneFile).string();
+    ::setenv("FAULT_LOG", (folder.string() + ".log").c_str(), 1);
+    ::setenv("FAULT_AT", std::to_string(call).c_str(), 1);
+    ::setenv("FAULT_ACTION", action.c_str(), 1);
+    ::setenv("FAULT_MEDDLE", target.c_str(), 1);
+    ::setenv("FAULT_FOLDER", folder.c_str(), 1);
+    const std::string result = saver.Save();
+    ::unsetenv("FAULT_FOLDER");
+    const std::string state = SavedState(folder, size);
+    const std::string again = result == "saved" && action != "meddle" ? "-" : saver.Save();
+    std::printf("\t%s\t%s\t%s", result.c_str(), state.c_str(), again.c_str());
+    std::fflush(stdout);
+}
+
+/// Runs in a process of its own; `meanwhile` in this one.
+template <class Work, class Meanwhile> std::string Apart(Work work, Meanwhile meanwhile) {
+    std::fflush(stdout);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        work();
+        ::_exit(0);
+    }
+    meanwhile(child);
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL ? "killed"
+           : WIFEXITED(status) && WEXITSTATUS(status) == 0    ? "ended"
+                                                              : "broke";
+}
+
+bool MakesCall(const fs::path& log, int call) {
+    std::ifstream file(log);
+    std::string line;
+    int count = 0;
+    while (std::getline(file, line)) {
+        ++count;
+    }
+    return count >= call;
+}
+
+void Sweep(const std::string& style, const fs::path& base, std::size_t size, const std::vector<std::string>& actions) {
+    Saver(style, base / "warm", size).Change(true); // what starts once shall not start in each process
+    bool isThere = true;
+    for (int call = 1; isThere; ++call) {
+        isThere = false;
+        for (const std::string& action : actions) {
+            const fs::path folder = base / (std::to_string(call) + "-" + action);
+            std::printf("%d\t%s", call, action.c_str());
+            const std::string end = Apart([&] { SaveWithFault(style, folder, size, call, action); }, [](pid_t) {});
+            std::printf("\t%s\n", end.c_str());
+            isThere = MakesCall(folder.string() + ".log", call) || isThere;
+        }
+    }
+}
+
+void Kill(const std::string& style, const fs::path& base, std::size_t size, int rounds) {
+    std::mt19937 random(std::random_device{}());
+    std::uniform_int_distribution<useconds_t> microseconds(500, 40000);
+    for (int round = 0; round < rounds; ++round) {
+        const fs::path folder = base / std::to_string(round);
+        Saver saver(style, folder, size);
+        const auto save = [&] {
+            for (bool changed = true; saver.Save() == "saved"; changed = !changed) {
+                saver.Change(changed);
+            }
+        };
+        const std::string end = Apart(save, [&](pid_t child) {
+            ::usleep(microseconds(random));
+            ::kill(child, SIGKILL);
+        });
+        std::printf("%d\t%s\n", round, end.c_str());
+    }
+}
+
+long PeakMemory() {
+    std::ifstream status("/proc/self/status");
+    std::string word;
+    while (status >> word && word != "VmHWM:") {
+    }
+    long kilobytes = 0;
+    status >> kilobytes;
+    return kilobytes;
+}
+
+void Read(const std::string& path, std::size_t cap) {
+    const long before = PeakMemory();
+    std::string result;
+    try {
+        result = std::to_string(Framework::ReadFile(path, cap).size()) + " bytes";
+    } catch (const Framework::FileError& error) {
+        result = error.what();
+    }
+    std::printf("%s\t%ld\n", result.c_str(), PeakMemory() - before);
+}
+
+} // namespace
+
+int main(int count, char** texts) {
+    std::vector<std::string> arguments(texts + 1, texts + count);
+    ::umask(0027);
+    if (arguments.size() > 2 && arguments[0] != "read") {
+        arguments[2] = fs::weakly_canonical(arguments[2]).string();
+    }
+    if (arguments.size() > 4 && arguments[0] == "sweep") {
+        Sweep(arguments[1], arguments[2], std::stoul(arguments[3]), {arguments.begin() + 4, arguments.end()});
+    } else if (arguments.size() == 5 && arguments[0] == "kill") {
+        Kill(arguments[1], arguments[2], std::stoul(arguments[3]), std::stoi(arguments[4]));
+    } else if (arguments.size() == 3 && arguments[0] == "read") {
+        Read(arguments[1], std::stoul(arguments[2]));
+    } else {
+        return 2;
+    }
+    return 0;
+}
