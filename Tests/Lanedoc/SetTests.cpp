@@ -157,6 +157,39 @@ TEST_F(LanedocSet, PrintsADiffThatPatchApplies) {
     }
 }
 
+/// Somebody else overwrites the first byte of the file before each call in turn that lanedoc makes for it.
+TEST_F(LanedocSet, NeverOverwritesWhatOthersWroteMeanwhile) {
+    std::filesystem::create_directory("lane");
+    const std::string folder = std::filesystem::canonical("lane").string();
+    const std::string file = folder + "/a.xml";
+    const std::string theirs = "X" + std::string(text).substr(1);
+    std::string call;
+    for (int number = 1; call != "rename"; ++number) {
+        ASSERT_LT(number, 50);
+        Put(file, text);
+        std::filesystem::remove("calls");
+        const std::string faults = "FAULT_FOLDER='" + folder +
+                                   "' FAULT_LOG=calls FAULT_ACTION=meddle FAULT_AT=" + std::to_string(number) +
+                                   " FAULT_MEDDLE='" + file + "' ";
+        const int status = std::system(
+            (faults + "ASAN_OPTIONS=\"$ASAN_OPTIONS:verify_asan_link_order=0\" LD_PRELOAD='" + FRAMEWORK_FAULT_SHIM +
+             "' '" + FRAMEWORK_LANEDOC + "' set -i '" + file + "' Version=2 2>errors.txt")
+                .c_str());
+        std::ifstream calls("calls");
+        for (int line = 0; line < number && calls >> call; ++line) {
+            calls.ignore(10000, '\n');
+        }
+        SCOPED_TRACE("before call " + std::to_string(number) + ", " + call + ": " + Get("errors.txt"));
+        const int code = WEXITSTATUS(status);
+        if (call == "rename") { // the instant that is left
+            EXPECT_EQ(code, 0);
+        } else {
+            EXPECT_TRUE(code == 3 || (code == 5 && Holds(Get("errors.txt"), "a.xml: error: not saved: the file has")));
+            EXPECT_EQ(Get(file), theirs);
+        }
+    }
+}
+
 TEST_F(LanedocSet, LeavesAFileAloneWhenNothingChanges) {
     const auto longAgo = std::filesystem::file_time_type::clock::now() - std::chrono::hours(100);
     std::filesystem::last_write_time("a.xml", longAgo);

@@ -161,7 +161,7 @@ ExitCode Set(const SetOptions& options, ColorMode color) {
     if (after.empty()) {
         throw Failure(ExitCode::BadInput, WithSeverity(document.GetLastError(), "error", source.Name()));
     }
-    if (options.inPlace && after != before && !document.SaveXMLFile(options.file.c_str())) {
+    if (options.inPlace && after != before && !document.SaveXMLFile(options.file.c_str(), true)) {
         throw Failure(ExitCode::OutputFailed, WithSeverity(document.GetLastError(), "error", source.Name()));
     }
     if (options.diff) {
@@ -196,8 +196,8 @@ void AddSetCommand(CLI::App& tool, Request& request) {
   lanedoc set StateProcessingRoot.xml 'StateTable/State[1]/Doc[Index=1]=For all states.' --in-place
 
 A value that the document does not hold yet is added to its element; an entry of a list must be there. Comments, layout
-and all else stay byte for byte. Several assignments are made in order, all or none of them. The diff, sent to a file,
-is one that patch applies.
+and all else stay byte for byte. Several assignments are made in order, all or none of them. A file that somebody changes
+meanwhile is not overwritten. The diff, sent to a file, is one that patch applies.
 
 Exit codes: 0 done, 1 no such entry, 2 wrong use or an illegal value, 3 bad input, 5 output failed)");
     command->callback(
