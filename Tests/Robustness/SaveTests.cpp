@@ -255,6 +255,23 @@ TEST(SaveFaults, AChangeIsNoticedUntilTheRename) {
     EXPECT_TRUE(isRenamed);
 }
 
+TEST(SaveFaults, AFileThatAppearsIsNeverOverwritten) {
+    const TemporaryFolder base(QuickFolder());
+    bool isRenamed = false;
+    for (const Save& save : Sweep(base, "create", {"meddle"})) {
+        SCOPED_TRACE(testing::Message() << "before call " << save.call << ": " << save.result);
+        if (!isRenamed) { // not even in the last instant
+            EXPECT_NE(save.result.find("not saved: there is a file"), std::string::npos);
+            EXPECT_EQ(ReadText(save.folder / kLaneFile), "X");
+            EXPECT_EQ(save.state, "damaged") << "by us, and nothing beside it";
+        } else {
+            EXPECT_TRUE(save.Saved());
+        }
+        isRenamed = isRenamed || save.Swept() == "rename";
+    }
+    EXPECT_TRUE(isRenamed);
+}
+
 TEST(SaveKilled, AtAnyMomentTheFileIsWhole) {
     const TemporaryFolder base(QuickFolder());
     const int rounds = FullSizes() ? 200 : 20;

@@ -5,7 +5,8 @@
 //   FAULT_AT      the number of the call, from 1
 //   FAULT_ACTION  ENOSPC, EIO, EINTR, EINVAL: it fails with that and does nothing; EIO-on: so do all later ones;
 //                 short: half is written or read; kill-before, kill-after: the process dies; torn: half is written,
-//                 then it dies; meddle: before the call somebody else overwrites the first byte of FAULT_MEDDLE
+//                 then it dies; meddle: before the call somebody else overwrites or makes the first byte of
+//                 FAULT_MEDDLE
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
@@ -60,7 +61,8 @@ void Append(const std::string& path, const std::string& line) {
 
 void Meddle() {
     const std::string path(Variable("FAULT_MEDDLE"));
-    const auto file = static_cast<int>(::syscall(SYS_openat, AT_FDCWD, path.c_str(), O_WRONLY | O_CLOEXEC, 0));
+    const auto file =
+        static_cast<int>(::syscall(SYS_openat, AT_FDCWD, path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
     ::syscall(SYS_write, file, "X", 1);
     ::syscall(SYS_close, file);
 }
