@@ -5,6 +5,7 @@
 #include "Framework/XMLSupport/AtomicFile.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Generator {
 
@@ -228,12 +229,10 @@ void ReadTopLevel(ChildReader& children, SchemaFile& file) {
 
 } // namespace
 
-SchemaFile ReadSchemaFile(const std::filesystem::path& path) {
+SchemaFile ReadSchema(std::string bytes, const std::string& name) {
     SchemaFile file;
-    file.name = path.filename().string();
-    const LoadLimits limits;
-    const auto document =
-        Framework::Document::Parse(Framework::ReadFile(path.string(), limits.bytes), file.name, limits);
+    file.name = name;
+    const auto document = Framework::Document::Parse(std::move(bytes), name, LoadLimits());
 
     // Prefixes are fixed, so that nobody has to follow namespaces to read a schema; neither has this reader.
     const SchemaElement schema(*document, document->Root());
@@ -250,6 +249,10 @@ SchemaFile ReadSchemaFile(const std::filesystem::path& path) {
         ReadTopLevel(children, file);
     }
     return file;
+}
+
+SchemaFile ReadSchemaFile(const std::filesystem::path& path) {
+    return ReadSchema(Framework::ReadFile(path.string(), LoadLimits().bytes), path.filename().string());
 }
 
 std::vector<SchemaFile> ReadSchemaFolder(const std::filesystem::path& folder) {
