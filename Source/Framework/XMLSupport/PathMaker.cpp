@@ -1,5 +1,6 @@
 #include "Framework/XMLSupport/PathMaker.h"
 
+#include <map>
 #include <stdexcept>
 #include <utility>
 
@@ -11,6 +12,16 @@
 namespace Framework {
 
 namespace {
+
+/// An element with both values cannot be, so it would be made anew each time.
+void CheckValues(const std::vector<PathCondition>& conditions) {
+    std::map<std::string_view, std::string_view> values;
+    for (const PathCondition& condition : conditions) {
+        if (values.try_emplace(condition.attribute, condition.value).first->second != condition.value) {
+            throw std::runtime_error("the attribute " + condition.attribute + " is to have two values");
+        }
+    }
+}
 
 void AppendAll(DOMNode& parent, const std::vector<DOMNode*>& children) {
     for (DOMNode* const child : children) {
@@ -101,6 +112,7 @@ DOMNode* PathMaker::NewElementFor(const PathStep& step) {
     if (step.isAttribute) {
         throw std::runtime_error("the attribute " + step.name + " is no element to create");
     }
+    CheckValues(step.conditions);
     DOMNode* const element = NewElement(*m_tree.Document(), step.name);
     for (const PathCondition& condition : step.conditions) {
         SetAttribute(*element, *m_tree.Document(), condition.attribute, condition.value);
