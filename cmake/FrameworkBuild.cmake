@@ -23,6 +23,15 @@ if(FRAMEWORK_SANITIZE)
     add_link_options(${FRAMEWORK_SANITIZE_FLAGS})
 endif()
 
+if(FRAMEWORK_BUILD_FUZZERS)
+    if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+        message(FATAL_ERROR "libFuzzer comes with clang: configure with the preset \"fuzz\"")
+    endif()
+    # What the fuzzer steers by is counted in all code; only the targets themselves link its main function.
+    add_compile_options(-fsanitize=fuzzer-no-link)
+    add_link_options(-fsanitize=fuzzer-no-link)
+endif()
+
 # Language level, visibility and warnings for a target with sources of ours.
 function(framework_target_settings target)
     target_compile_features(${target} PUBLIC cxx_std_20)

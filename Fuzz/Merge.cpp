@@ -1,0 +1,144 @@
+#include <memory>
+
+#include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/XMLDataWrapper.h"
+#include "Target.h"
+#include "Trees.h"
+
+namespace Fuzz {
+
+namespace {
+
+constexpr std::string_view kSeparator = "\n====\n";
+
+std::unique_ptr<TypedDataContainer> LoadedObject(const zelString& name, XMLDataWrapper& wrapper) {
+    std::unique_ptr<TypedDataContainer> object = ObjectFor(name);
+    Expect(object->LoadFromDataPacket(nullptr, &wrapper, false), "a document does not load into its class",
+           object->GetLastError());
+    return object;
+}
+
+bool HasControlWords(std::string_view text) {
+    return text.find("MergeAction") != std::string_view::npos || text.find("Placement") != std::string_view::npos;
+}
+
+/// Without control words a merge takes over every value that the override names.
+void ExpectTaken(TypedDataContainer& merged, TypedDataContainer& override, const std::string& path) {
+    for (const CatalogField& field : ContainerCatalog::ClassOf(override).Fields()) {
+        const std::string here = path + "/" + std::string(field.Name());
+        if (field.IsScalar() && field.StandsInDocument(override)) {
+            Expect(field.GetText(merged) == field.GetText(override), "a value of the override is not taken",
+                   here + "=" + field.GetText(merged));
+        } else if (TypedDataContainer* const child = field.GetChild(override);
+                   child != nullptr && Framework::ContainerAccess::EarlierNodes(*child).empty()) {
+            // Of a child that stands twice a merge takes the last element, a load both.
+            TypedDataContainer* const there = field.GetChild(merged);
+            Expect(there != nullptr, "a child of the override is not taken", here);
+            ExpectTaken(*there, *child, here);
+        }
+        const std::size_t length = field.Length(override);
+        const std::size_t mergedLength = field.Length(merged);
+        Expect(mergedLength >= length, "entries of the override are not taken", here);
+        for (std::size_t i = 0; i < length; ++i) {
+            const std::size_t behindTheBase = mergedLength - length + i;
+            const bool isKeyed = field.GetForm() == CatalogField::KeyedList;
+            const std::size_t at = !isKeyed ? behindTheBase
+                                   : field.HasNumberedKeys()
+                                       ? mergedLength
+                                       : field.FindEntry(merged, field.EntryKey(override, i)).value_or(mergedLength);
+            if (field.HasNumberedKeys()) {
+                continue; // a load numbers them anew, a merge takes their keys
+            }
+            Expect(at < mergedLength, "an entry of the override is not taken", here);
+            if (TypedDataContainer* const entry = field.Entry(override, i)) {
+                ExpectTaken(*field.Entry(merged, at), *entry, here);
+            } else {
+                Expect(field.EntryText(merged, at) == field.EntryText(override, i),
+                       "a text of the override is not taken", here);
+            }
+        }
+    }
+}
+
+/// A source that cannot be read, or holds no element of the object's name, changes nothing.
+void ExpectRefused(TypedDataContainer& object, std::string_view override) {
+    const Reading before = ReadAll(object);
+    const MemoryFile file(override);
+    Expect(!object.MergeFromFile(nullptr, file.Path()), "a merge succeeds that has nothing to take");
+    Expect(!object.GetLastError().empty(), "a refused merge has no error");
+    ExpectEqual(ReadAll(object), before, "a refused merge changes the object");
+    Expect(object.Valid(), "a refused merge makes an object invalid");
+}
+
+/// The tree goes into its own document, from which the next load has the values of the root; a second time there is
+/// nothing left to write.
+void ExpectUpdates(TypedDataContainer& object, XMLDataWrapper& wrapper, const Reading& merged) {
+    object.UpdateContainedData();
+    const zelString text = wrapper.GetXMLText();
+    Expect(!text.empty(), "a merged document cannot be saved", wrapper.GetLastError());
+    object.UpdateContainedData();
+    Expect(wrapper.GetXMLText() == text, "a second update writes once more");
+    ExpectEqual(ReadAll(object), merged, "an update changes the object");
+
+    XMLDataWrapper again;
+    Expect(again.LoadXMLText(text, true), "a merged document does not load", again.GetLastError());
+    const std::unique_ptr<TypedDataContainer> other = Another(object);
+    Expect(other->LoadFromDataPacket(nullptr, &again, true), "a merged document does not load into an object",
+           other->GetLastError());
+    for (const CatalogField& field : ContainerCatalog::ClassOf(object).Fields()) {
+        Expect(!wrapper.GetLastError().empty() || field.GetText(*other) == field.GetText(object),
+               "a merged value is not written", std::string(field.Name()) + "=" + field.GetText(*other));
+    }
+}
+
+} // namespace
+
+std::vector<std::string_view> DocumentsOfMerge(std::string_view input) {
+    const std::size_t at = input.find(kSeparator);
+    if (at == std::string_view::npos) {
+        return {input};
+    }
+    return {input.substr(0, at), input.substr(at + kSeparator.size())};
+}
+
+void Merge(std::string_view input) {
+    const std::vector<std::string_view> documents = DocumentsOfMerge(input);
+    if (documents.size() != 2) {
+        return;
+    }
+    const OverrideLog log;
+    XMLDataWrapper base;
+    if (!base.LoadXMLText(zelString(documents[0]), false)) {
+        return;
+    }
+    const zelString name = ContainerCatalog::RootElement(base);
+    const std::unique_ptr<TypedDataContainer> object = LoadedObject(name, base);
+
+    XMLDataWrapper source;
+    if (!source.LoadXMLText(zelString(documents[1]), false) || !source.NodeExists("//" + name, true)) {
+        ExpectRefused(*object, documents[1]);
+        return;
+    }
+    const zelString text = source.GetXMLText();
+    const std::size_t issuesOfBase = log.Count();
+    const Reading before = ReadAll(*object);
+    if (!object->MergeFromDataPacket(nullptr, "Night", &source, false)) {
+        Expect(log.Count() > issuesOfBase, "a merge fails without a word to the log", object->GetLastError());
+        ExpectEqual(ReadAll(*object), before, "a merge that failed changes the object");
+        return;
+    }
+    Expect(source.GetXMLText() == text, "a merge changes its source");
+    const Reading merged = ReadAll(*object);
+    const std::size_t issuesOfMerge = log.Count();
+    if (issuesOfMerge == issuesOfBase && !HasControlWords(documents[1])) {
+        const std::unique_ptr<TypedDataContainer> override = LoadedObject(name, source);
+        if (log.Count() == issuesOfMerge && !merged.hasEqualKeys) {
+            ExpectTaken(*object, *override, "");
+        }
+    }
+    ExpectDumpLoadsEqual(*object, merged, log);
+    ExpectUpdates(*object, base, merged);
+    delete object->Clone();
+}
+
+} // namespace Fuzz

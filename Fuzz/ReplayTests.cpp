@@ -1,0 +1,70 @@
+// Every build replays what fuzzing starts from and what it has found.
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+
+#include "Seeds.h"
+#include "XmlMutator.h"
+
+namespace Fuzz {
+
+/// For the name of the test.
+void PrintTo(const Target& target, std::ostream* out) {
+    *out << target.name;
+}
+
+namespace {
+
+class Replay : public testing::TestWithParam<Target> {
+protected:
+    static void Run(const std::string& name, const std::string& bytes) {
+        std::cout << name << std::endl; // the last one is known even when it takes the program down
+        try {
+            GetParam().run(bytes);
+        } catch (const Violation& violation) {
+            ADD_FAILURE() << name << ": " << violation.what;
+        }
+    }
+};
+
+TEST_P(Replay, SeedsAndKeptInputsHold) {
+    const std::vector<Seed> seeds = SeedsOf(GetParam());
+    ASSERT_GT(seeds.size(), 20U) << "the seeds are not all there";
+    for (const Seed& seed : seeds) {
+        Run(seed.name, seed.bytes);
+    }
+}
+
+/// A short fuzzing without coverage: the same inputs every time, so that what passes once passes always.
+TEST_P(Replay, MutatedSeedsHold) {
+    unsigned number = 0;
+    for (const Seed& seed : SeedsOf(GetParam())) {
+        const std::vector<std::string_view> documents = GetParam().documents(seed.bytes);
+        if (!documents.empty() && seed.bytes.size() < 4000) {
+            const std::string_view document = documents[++number % documents.size()];
+            std::string changed = seed.bytes;
+            changed.replace(static_cast<std::size_t>(document.data() - seed.bytes.data()), document.size(),
+                            MutateXml(document, number));
+            Run(seed.name + " mutated", changed);
+        }
+    }
+    EXPECT_EQ(number > 20, GetParam().documents != &NoDocuments) << number;
+}
+
+/// The test of the test: a target that finds nothing wrong with anything would pass as well.
+TEST(Targets, TellAViolation) {
+    EXPECT_NO_THROW(Expect(true, "what"));
+    try {
+        Expect(false, "what", "detail");
+        ADD_FAILURE() << "no violation";
+    } catch (const Violation& violation) {
+        EXPECT_EQ(violation.what, "what: detail");
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Fuzz, Replay, testing::ValuesIn(Targets()),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+} // namespace
+} // namespace Fuzz
