@@ -44,6 +44,7 @@ INSTANTIATE_TEST_SUITE_P(
         Edit{"<R><A></A></R>", "//A", " ", "<R><A> </A></R>"}, Edit{"<R><A>v</A></R>", "//A", "", "<R><A></A></R>"},
         Edit{"<R>\r\n<A>&#118;&amp;\r\n</A>\r\n</R>", "//A", "1\n2\r3", "<R>\r\n<A>1\r\n2&#13;3</A>\r\n</R>"},
         Edit{"<R><A>a<!--c-->b<?p?>c</A></R>", "//A", "w", "<R><A>w<!--c--><?p?></A></R>"},
+        Edit{"<R><A>a<!--c-->b</A></R>", "//A", "a", "<R><A>a<!--c--></A></R>"}, // its first text alone
         Edit{"<R><A><!--c--><B>x</B></A></R>", "//A", "w", "<R><A>w<!--c--><B>x</B></A></R>"},
         Edit{"<R><A><B>x</B>t<B>y</B></A></R>", "//A", "w", "<R><A><B>x</B>w<B>y</B></A></R>"},
         Edit{"<R><A><![CDATA[v]]></A></R>", "//A", "w<&", "<R><A><![CDATA[w<&]]></A></R>"},

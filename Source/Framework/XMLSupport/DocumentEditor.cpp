@@ -102,12 +102,7 @@ void DocumentEditor::RememberTexts(Number element, Number first) {
     if (m_changes.texts.contains(element)) {
         return;
     }
-    std::vector<Number> texts;
-    for (Number child = Record(element).inner.firstChild; child != 0; child = Record(child).next) {
-        if (Record(child).IsText() && child < m_changes.parsedNodes) {
-            texts.push_back(child);
-        }
-    }
+    std::vector<Number> texts = StandingTexts(element);
     if (texts.size() != 1 || texts.front() != first) {
         m_changes.texts.emplace(element, std::move(texts));
     }
@@ -161,15 +156,19 @@ bool DocumentEditor::IsBlankOfAdded(Number text) const {
 
 /// The texts of an element as they were parsed, in order.
 std::vector<DocumentEditor::Number> DocumentEditor::ParsedTexts(Number element) const {
-    if (const auto change = m_changes.texts.find(element); change != m_changes.texts.end()) {
-        return change->second;
-    }
+    const auto change = m_changes.texts.find(element);
+    return change != m_changes.texts.end() ? change->second : StandingTexts(element);
+}
+
+/// Those of the parsed texts of an element that stand in it now.
+std::vector<DocumentEditor::Number> DocumentEditor::StandingTexts(Number element) const {
+    std::vector<Number> texts;
     for (Number child = Record(element).inner.firstChild; child != 0; child = Record(child).next) {
         if (Record(child).IsText() && child < m_changes.parsedNodes) {
-            return {child};
+            texts.push_back(child);
         }
     }
-    return {};
+    return texts;
 }
 
 const NodeRecord& DocumentEditor::ParsedRecord(Number number) const {

@@ -36,6 +36,7 @@ private:
     void TakeOverBlanks(Number element) noexcept;
     bool IsBlankOfAdded(Number text) const;
     std::vector<Number> ParsedTexts(Number element) const;
+    std::vector<Number> StandingTexts(Number element) const;
     const NodeRecord& ParsedRecord(Number number) const;
     void RestoreText(Number element);
     void RestoreLeaf(Number number) noexcept;
