@@ -37,8 +37,10 @@ DocumentEditor::DocumentEditor(Document& document)
     : m_document(document), m_data(document.m_data), m_changes(document.m_data.changes) {
     if (!m_changes.any) {
         DecodedText& source = m_data.source;
-        if (!source.original.empty()) {
-            if (EncodeDocument(source.text, source.encoding, source.byteOrderMark) != source.original) {
+        if (source.encoding != "UTF-8") {
+            // UTF-7 may write in plain letters what this system writes otherwise.
+            const std::string& bytes = source.original.empty() ? source.text : source.original;
+            if (EncodeDocument(source.text, source.encoding, source.byteOrderMark) != bytes) {
                 throw WriteError("cannot change " + m_data.sourceName + ": the encoding " + source.encoding +
                                  " does not give the bytes of the document back");
             }

@@ -250,12 +250,16 @@ std::string Encode(const DocumentData& data, std::string text) {
 } // namespace
 
 std::string WriteDocument(const DocumentData& data) {
-    if (!data.source.original.empty()) {
-        return data.source.original;
+    const DecodedText& source = data.source;
+    if (!source.original.empty()) {
+        return source.original;
+    }
+    if (!data.changes.any && !source.byteOrderMark) {
+        return source.text;
     }
     const std::vector<Patch> patches = PatchMaker(data).Make();
     if (patches.empty()) {
-        return Encode(data, data.source.text);
+        return Encode(data, source.text);
     }
     std::string text = Apply(data.source.text, patches);
     CheckTagsLoadAgain(text, data.sourceName);
