@@ -36,19 +36,16 @@ void ExpectTaken(TypedDataContainer& merged, TypedDataContainer& override, const
             Expect(there != nullptr, "a child of the override is not taken", here);
             ExpectTaken(*there, *child, here);
         }
+        if (field.HasNumberedKeys()) {
+            continue; // a load numbers the entries anew, a merge takes their keys
+        }
         const std::size_t length = field.Length(override);
         const std::size_t mergedLength = field.Length(merged);
         Expect(mergedLength >= length, "entries of the override are not taken", here);
         for (std::size_t i = 0; i < length; ++i) {
-            const std::size_t behindTheBase = mergedLength - length + i;
-            const bool isKeyed = field.GetForm() == CatalogField::KeyedList;
-            const std::size_t at = !isKeyed ? behindTheBase
-                                   : field.HasNumberedKeys()
-                                       ? mergedLength
+            const std::size_t at = field.GetForm() == CatalogField::PlainList
+                                       ? mergedLength - length + i
                                        : field.FindEntry(merged, field.EntryKey(override, i)).value_or(mergedLength);
-            if (field.HasNumberedKeys()) {
-                continue; // a load numbers them anew, a merge takes their keys
-            }
             Expect(at < mergedLength, "an entry of the override is not taken", here);
             if (TypedDataContainer* const entry = field.Entry(override, i)) {
                 ExpectTaken(*field.Entry(merged, at), *entry, here);
