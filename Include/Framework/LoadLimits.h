@@ -30,7 +30,7 @@ struct FRAMEWORK_API LoadLimits {
     /// Memory in bytes that a document takes while it is parsed: its text, its tree and the parser. The objects that
     /// are filled from it come on top.
     std::size_t memory = std::size_t{1024} * 1024 * 1024;
-    /// Processor time in seconds that the loading thread may spend on parsing one document.
+    /// Processor time in seconds that a thread may spend on parsing one document, or on one query that takes XPath.
     double cpuSeconds = 10;
 
     /// The limits of the process: those of the last SetDefault, else the values above.

@@ -319,5 +319,20 @@ TEST(XPath, RefusesWhatIsNoneOrTooMuch) {
               NodeRef::None);
 }
 
+TEST(XPath, EndsWhenTheTimeIsOver) {
+    const auto tree = Load("<r>" + Repeat("<a/>", 100) + "</r>");
+    LoadLimits limits;
+    limits.cpuSeconds = 0.05;
+    LoadLimits::SetDefault(limits);
+    try {
+        EvaluateXPath(*tree, tree->Root(), Repeat("//*[", 10) + "b" + Repeat("]", 10)); // would take longer than a life
+        ADD_FAILURE() << "accepted";
+    } catch (const std::runtime_error& error) {
+        EXPECT_NE(std::string(error.what()).find("LoadLimits::cpuSeconds"), std::string::npos) << error.what();
+    }
+    LoadLimits::SetDefault(LoadLimits());
+    EXPECT_NE(EvaluateXPath(*tree, tree->Root(), "//a[last()]"), NodeRef::None);
+}
+
 } // namespace
 } // namespace Framework

@@ -6,10 +6,10 @@
 #include "Framework/XMLSupport/ParserMemory.h"
 #include "Framework/XMLSupport/ParserMessages.h"
 #include "Framework/XMLSupport/TagScanner.h"
+#include "Framework/XMLSupport/ThreadTime.h"
 
 #include <expat.h>
 
-#include <ctime>
 #include <exception>
 #include <memory>
 #include <new>
@@ -18,12 +18,6 @@
 namespace Framework {
 
 namespace {
-
-double ThreadSeconds() {
-    timespec now{};
-    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
 
 /// One run of expat over one document. Exceptions of the handlers wait here until the parser has returned: they must
 /// not cross its frames, and it may call further handlers after it was told to stop.

@@ -8,6 +8,7 @@
 #include "Framework/XMLSupport/XmlRuntime.h"
 
 #include <deque>
+#include <functional>
 #include <limits>
 #include <mutex>
 #include <typeinfo>
@@ -83,6 +84,7 @@ public:
 
     void TreeChanged() { m_order = NodeOrder::Unknown; }
     void Limit(std::size_t views) { m_limit = views; }
+    void Watch(std::function<void()> look) { m_look = std::move(look); }
     std::size_t CountNodes();
 
     const XmlTree& Tree() const override { return m_tree; }
@@ -110,7 +112,10 @@ private:
     std::size_t m_limit = std::numeric_limits<std::size_t>::max();
     const Text m_empty;
 
+    std::function<void()> m_look;
+
     std::mutex m_mutex; // guards all that follows
+    unsigned m_asked = 0;
     ViewTable m_views;
     std::deque<ViewName> m_names;
     HashedMap<std::string_view, const ViewName*> m_nameIndex;
@@ -221,6 +226,10 @@ FacadeHost::Node* ViewStore::View(NodeRef node) {
     const std::lock_guard lock(m_mutex);
     if (m_views.Size() > m_limit) {
         throw TooManyViews();
+    }
+    constexpr unsigned viewsPerLook = 4096;
+    if (++m_asked % viewsPerLook == 0 && m_look) {
+        m_look();
     }
     Node*& view = m_views.At(node);
     if (view == nullptr || (!IsFixed() && !Fits(node, *view))) {
@@ -333,6 +342,10 @@ xalan::XalanNode* NodeViews::View(NodeRef node) const {
 
 void NodeViews::Limit(std::size_t views) {
     m_store->Limit(views);
+}
+
+void NodeViews::Watch(std::function<void()> look) {
+    m_store->Watch(std::move(look));
 }
 
 std::size_t NodeViews::CountNodes() const {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <exception>
+#include <functional>
 #include <memory>
 
 namespace Framework {
@@ -53,6 +54,9 @@ public:
 
     /// From now on no more than so many views are made, then TooManyViews is thrown. Not while others read.
     void Limit(std::size_t views);
+
+    /// From now on `look` is called now and then as views are asked for, and may throw. Not while others read.
+    void Watch(std::function<void()> look);
 
     /// The number of nodes in the tree, attributes included; ForXPath only, which needs the walk anyhow.
     std::size_t CountNodes() const;

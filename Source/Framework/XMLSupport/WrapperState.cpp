@@ -154,7 +154,7 @@ TreeEditor& WrapperState::Edit() {
 }
 
 void WrapperState::Load(std::shared_ptr<const Document> loaded, bool isReadOnly,
-                         std::shared_ptr<const KnownFiles> loadedFiles) {
+                        std::shared_ptr<const KnownFiles> loadedFiles) {
     WrapperState fresh;
     fresh.m_files = std::move(loadedFiles);
     fresh.document = std::move(loaded);

@@ -105,8 +105,8 @@ struct WrapperState {
     void SetError(int number, std::string_view text) noexcept;
     std::string Error() const;
     int ErrorNumber() const;
-    /// The files that the document was loaded from and saved to; shared by the wrappers that go on with it, until one of
-    /// them saves. Null when there are none.
+    /// The files that the document was loaded from and saved to; shared by the wrappers that go on with it, until one
+    /// of them saves. Null when there are none.
     std::shared_ptr<const KnownFiles> Files() const;
     void SetFiles(std::shared_ptr<const KnownFiles> files);
 

@@ -1,7 +1,11 @@
 #include "Framework/XMLSupport/XPathFallback.h"
 
+#include "Framework/LoadLimits.h"
+#include "Framework/SupportFunc.h"
+#include "Framework/XMLSupport/LimitMessages.h"
 #include "Framework/XMLSupport/NodeViews.h"
 #include "Framework/XMLSupport/PathError.h"
+#include "Framework/XMLSupport/ThreadTime.h"
 #include "Framework/XMLSupport/Utf.h"
 #include "Framework/XMLSupport/XPathMemory.h"
 #include "Framework/XMLSupport/XmlMemory.h"
@@ -189,6 +193,17 @@ NodeRef EvaluateTwice(NodeViews& views, NodeRef context, std::string_view expres
     return Evaluate(*start, expression, memory, views.CountNodes());
 }
 
+/// Predicates in predicates cost as much as there are nodes, to the power of their number.
+void LimitTime(NodeViews& views) {
+    const double limit = LoadLimits::Current().cpuSeconds;
+    views.Watch([limit, start = ThreadSeconds()] {
+        if (ThreadSeconds() - start > limit) {
+            throw XPathProblem(
+                LimitPassed("it takes too much processor time", SupportFunc::GetStrValue(limit) + " s", "cpuSeconds"));
+        }
+    });
+}
+
 /// Xalan repeats the whole expression, token by token.
 std::string Shortened(std::string message) {
     constexpr std::size_t kLongest = 200;
@@ -208,6 +223,7 @@ NodeRef EvaluateXPath(const XmlTree& tree, NodeRef context, std::string_view exp
     // Views of its own: they go when it is done, no other thread waits for them, and they know the order of any tree.
     NodeViews views(tree, NodeOrder::ForXPath);
     XPathMemory memory(views); // outlives what is thrown, which may hold texts from it
+    LimitTime(views);
     try {
         return WithBadAlloc([&] { return EvaluateTwice(views, context, expression, memory); });
     } catch (const TooManyViews&) { // no number of them is too large the second time: they were closed
