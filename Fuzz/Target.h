@@ -28,8 +28,8 @@ void Load(std::string_view input);
 void Merge(std::string_view input);
 /// Find and make nodes of small fixed documents by query. The input is queries, one on each line.
 void Paths(std::string_view input);
-/// Save what was not changed, what was, and what was changed back. The input is a byte that picks a value, the rest of
-/// its line is the text to set, and below stands the document.
+/// Save what was not changed, what was, and what was changed back. The input is a byte that picks two values, the rest
+/// of its line is the text to set, and below stands the document.
 void Save(std::string_view input);
 /// Read schema files and generate from them. The input is files, each below a line "==== <name>.xsd".
 void Schema(std::string_view input);
