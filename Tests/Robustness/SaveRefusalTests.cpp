@@ -237,8 +237,8 @@ TEST(ReadingFiles, AFileAboveTheLimitSaysHowToRaiseIt) {
     XMLDataWrapper wrapper;
     EXPECT_FALSE(wrapper.LoadXMLFile(path.c_str(), false));
     const std::string limit = std::to_string(LoadLimits::Default().bytes);
-    EXPECT_EQ(wrapper.GetLastError(), path + ":1:1: the document has more than " + limit +
-                                          " bytes, the limit; raise LoadLimits::bytes with LoadLimits::SetDefault");
+    EXPECT_EQ(wrapper.GetLastError(), path + ":1:1: the document has more than " + limit + " bytes, the limit is " +
+                                          limit + "; raise LoadLimits::bytes with LoadLimits::Scope or SetDefault");
 }
 
 } // namespace
