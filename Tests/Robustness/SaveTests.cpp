@@ -101,9 +101,10 @@ std::vector<Save> Sweep(const TemporaryFolder& base, const std::string& style,
     return saves;
 }
 
-/// Whether a power cut behind the save would have left the new file: all that was written was forced to the disk at
-/// the first try, before it took its name; and its folder afterwards.
+/// Whether a power cut behind the save would have left the new file: all that was written was forced to the disk and
+/// closed at the first try, before it took its name; and its folder afterwards.
 bool IsForced(const Save& save) {
+    std::set<std::string> written;
     std::set<std::string> unforced;
     std::set<std::string> lost;
     bool folderForced = true;
@@ -112,8 +113,9 @@ bool IsForced(const Save& save) {
         const std::string& file = line[1];
         const bool good = line.back() != "-1" && line.back() != "killed";
         if (name == "write") {
+            written.insert(file);
             unforced.insert(file);
-        } else if (name == "fsync" && !good) {
+        } else if ((name == "fsync" || (name == "close" && written.contains(file))) && !good) {
             lost.insert(file);
         } else if (name == "fsync" && file == ".") {
             folderForced = true;
