@@ -291,6 +291,8 @@ TEST(SaveKilled, AtAnyMomentTheFileIsWhole) {
         EXPECT_EQ(states.contains("damaged"), style != "replace");
         if (style == "replace") {
             EXPECT_FALSE(states.contains("damaged stray") || states.contains("none") || states.contains("none stray"));
+            EXPECT_TRUE(!FullSizes() || (states.contains("new") && states.contains("old stray")))
+                << "not killed at any moment";
         }
     }
 }

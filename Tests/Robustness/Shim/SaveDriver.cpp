@@ -7,7 +7,8 @@
 //   SaveDriver kill STYLE FOLDER SIZE ROUNDS      saves two texts in turn until it is killed at a random moment; a
 //                                                 line with folder and end for each round
 //   SaveDriver read FILE CAP                      reads a file; a line with the result, and the kB that memory grew by
-#include <cerrno>
+#include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -202,8 +203,14 @@ void Sweep(const std::string& style, const fs::path& base, std::size_t size, con
 }
 
 void Kill(const std::string& style, const fs::path& base, std::size_t size, int rounds) {
+    // Within the time of a few saves, whatever the disk makes of them.
+    Saver warm(style, base / "warm", size);
+    warm.Save();
+    const auto start = std::chrono::steady_clock::now();
+    warm.Save();
+    const auto time = std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - start);
     std::mt19937 random(std::random_device{}());
-    std::uniform_int_distribution<useconds_t> microseconds(500, 40000);
+    std::uniform_int_distribution<long> microseconds(500, std::max(20'000L, static_cast<long>(time.count()) * 5));
     for (int round = 0; round < rounds; ++round) {
         const fs::path folder = base / std::to_string(round);
         Saver saver(style, folder, size);
@@ -213,7 +220,7 @@ void Kill(const std::string& style, const fs::path& base, std::size_t size, int 
             }
         };
         const std::string end = Apart(save, [&](pid_t child) {
-            ::usleep(microseconds(random));
+            ::usleep(static_cast<useconds_t>(microseconds(random)));
             ::kill(child, SIGKILL);
         });
         std::printf("%d\t%s\n", round, end.c_str());
