@@ -39,8 +39,7 @@ std::string_view Document::Value(NodeRef node, std::string& /*room*/) const {
 }
 
 XALAN_CPP_NAMESPACE::XalanNode* Document::View(NodeRef node) const {
-    std::call_once(m_viewsOnce, [this] { m_views = std::make_unique<NodeViews>(*this, NodeOrder::Numbers); });
-    return m_views->View(node);
+    return m_views.Get([this] { return std::make_unique<NodeViews>(*this, NodeOrder::Numbers); }).View(node);
 }
 
 std::string Document::Bytes() const {
@@ -58,8 +57,8 @@ ByteRange Document::ValueRange(NodeRef attribute) const {
 }
 
 Place Document::PlaceAt(std::size_t offset) const {
-    std::call_once(m_placesOnce, [this] { m_places.emplace(m_data.source.text); });
-    return m_places->At(m_data.source.text, offset);
+    const std::string& text = m_data.source.text;
+    return m_places.Get([&] { return std::make_unique<TextPlaces>(text); }).At(text, offset);
 }
 
 } // namespace Framework

@@ -2,12 +2,11 @@
 
 #include "Framework/LoadLimits.h"
 #include "Framework/XMLSupport/DocumentData.h"
+#include "Framework/XMLSupport/Lazy.h"
 #include "Framework/XMLSupport/TextPlaces.h"
 #include "Framework/XMLSupport/XmlTree.h"
 
 #include <memory>
-#include <mutex>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -88,10 +87,8 @@ private:
     DocumentData m_data;
 
     // Made when first asked for, and nothing of the document itself: a copy starts without them.
-    mutable std::once_flag m_placesOnce;
-    mutable std::optional<TextPlaces> m_places;
-    mutable std::once_flag m_viewsOnce;
-    mutable std::unique_ptr<NodeViews> m_views;
+    mutable Lazy<TextPlaces> m_places;
+    mutable Lazy<NodeViews> m_views;
 };
 
 } // namespace Framework

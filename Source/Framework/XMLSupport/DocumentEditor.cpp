@@ -52,8 +52,8 @@ DocumentEditor::DocumentEditor(Document& document)
     // A copy of a document comes without what the vectors had in reserve.
     MakeRoom(m_changes.freeNodes, m_data.nodes.size() - m_changes.parsedNodes);
     MakeRoom(m_changes.freeValues, m_changes.values.size());
-    if (m_document.m_views != nullptr) {
-        m_document.m_views->TreeChanged();
+    if (NodeViews* const views = m_document.m_views.IfMade()) {
+        views->TreeChanged();
     }
 }
 

@@ -1,5 +1,6 @@
 #include "Framework/XMLSupport/XmlRuntime.h"
 
+#include <atomic>
 #include <exception>
 #include <mutex>
 #include <new>
@@ -37,16 +38,21 @@ public:
 class OneStart {
 public:
     template <class Function> void Run(const char* library, std::size_t memory, Function start) {
-        std::call_once(m_once, [&] {
+        if (m_isStarted.load(std::memory_order_acquire)) {
+            return;
+        }
+        const std::lock_guard lock(m_mutex);
+        if (!m_isStarted && !m_hasFailed) {
             StartMemory::Instance().SetAside(memory);
             try {
                 start();
+                m_isStarted.store(true, std::memory_order_release);
             } catch (...) {
                 m_hasFailed = true;
                 Keep(library, CaughtFailure().Text());
             }
             StartMemory::Instance().GiveBack();
-        });
+        }
         if (m_hasFailed) {
             throw std::runtime_error(m_failure.empty() ? "an XML library cannot be started" : m_failure);
         }
@@ -60,7 +66,8 @@ private:
         }
     }
 
-    std::once_flag m_once;
+    std::mutex m_mutex; // not std::call_once, see Lazy
+    std::atomic<bool> m_isStarted = false;
     bool m_hasFailed = false;
     std::string m_failure;
 };
