@@ -46,6 +46,19 @@ void ExpectDomIsEqual(TypedDataContainer& object, const Reading& reading, const 
     }
 }
 
+/// The dump by query leaves out what no query can name, and says so; what it writes loads.
+void ExpectQueryDumpLoads(TypedDataContainer& object) {
+    FullFunctionXMLDataWrapper output;
+    Expect(output.CreateOutputDocument(object.GetContainerName().c_str()), "no output document", output.GetLastError());
+    Expect(object.DumpMergeContents("", &output, -1, true), "a tree cannot be dumped by query", object.GetLastError());
+    XMLDataWrapper loaded;
+    Expect(loaded.LoadXMLText(output.GetXMLText(), true), "a dump by query does not load",
+           loaded.GetLastError() + output.GetLastError());
+    const std::unique_ptr<TypedDataContainer> other = Another(object);
+    Expect(other->LoadFromDataPacket(nullptr, &loaded, true), "a dump by query does not load into an object",
+           other->GetLastError());
+}
+
 /// Writing back what was loaded changes nothing, except words that are none.
 void ExpectUpdateKeepsBytes(TypedDataContainer& object, XMLDataWrapper& wrapper, const Reading& reading,
                             const zelString& bytes) {
@@ -87,6 +100,7 @@ void Load(std::string_view input) {
     Expect(clone != nullptr, "an object cannot be cloned", object->GetLastError());
     ExpectEqual(ReadAll(*clone), reading, "a clone differs");
     ExpectDumpLoadsEqual(*object, reading, log);
+    ExpectQueryDumpLoads(*object);
     ExpectDomIsEqual(*object, reading, bytes);
     ExpectUpdateKeepsBytes(*object, wrapper, reading, bytes);
 

@@ -118,8 +118,8 @@ TEST(Merge, WhatIsNotTakenOverIsReportedWithItsPlace) {
     const char* const sources[] = {
         "<LoadConfig>\n  <ThreadChildList/>\n</LoadConfig>",
         "<LoadConfig>\n  <ThreadChildList UniqueName='Z' MergeAction='Remove'/></LoadConfig>",
-        "<LoadConfig>\n  <ThreadChildList UniqueName='A' MergeAction='merge'><ChildThread "
-        "UniqueName='X'/></ThreadChildList></LoadConfig>",
+        ("<LoadConfig>\n  <ThreadChildList UniqueName='A' MergeAction='merge'><ChildThread "
+         "UniqueName='X'/></ThreadChildList></LoadConfig>"),
     };
     for (const char* const source : sources) {
         IssueRecorder recorder;

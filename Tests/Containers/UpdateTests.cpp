@@ -12,11 +12,9 @@ namespace {
 std::string_view ChangedStretch(const std::string& before, const std::string& after) {
     const auto [left, right] = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
     const auto head = static_cast<std::size_t>(left - before.begin());
-    std::size_t tail = 0;
-    while (tail < std::min(before.size(), after.size()) - head && before.rbegin()[tail] == after.rbegin()[tail]) {
-        ++tail;
-    }
-    return std::string_view(before).substr(head, before.size() - head - tail);
+    const auto room = static_cast<std::ptrdiff_t>(std::min(before.size(), after.size()) - head);
+    const auto tail = std::mismatch(before.rbegin(), before.rbegin() + room, after.rbegin()).first - before.rbegin();
+    return std::string_view(before).substr(head, before.size() - head - static_cast<std::size_t>(tail));
 }
 
 /// Ends of elements and starts of others are never part of a value.

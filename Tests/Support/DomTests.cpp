@@ -28,8 +28,8 @@ using xercesc::DOMNode;
 
 const char* const kDocuments[] = {
     "<a/>",
-    "<?pi data?><!-- c --><a b='1' a='&#10;&lt;\"'>t<b/> "
-    "<![CDATA[]]>x<![CDATA[y]]><!----><?p?><c>&#13;\n</c></a><!--e-->",
+    ("<?pi data?><!-- c --><a b='1' a='&#10;&lt;\"'>t<b/> "
+     "<![CDATA[]]>x<![CDATA[y]]><!----><?p?><c>&#13;\n</c></a><!--e-->"),
     "<p:a xmlns:q='u' p:k='v' k=''><q:b/>\xF0\x9F\x98\x80\xC3\xA4<c><d><e k='1' l='2'/></d></c></p:a>",
 };
 

@@ -96,8 +96,8 @@ TEST(XmlWriter, CDataIsClosedOnlyWhereItMust) {
 TEST(XmlWriter, DocumentsSurviveWriting) {
     const char* const documents[] = {
         "<a/>",
-        "<?pi data?><!-- c --><a b='1' a='&#10;&lt;\"'>t<b/> "
-        "<![CDATA[]]>x<![CDATA[y]]><!----><?p?><c>&#13;\n</c></a><!--e-->",
+        ("<?pi data?><!-- c --><a b='1' a='&#10;&lt;\"'>t<b/> "
+         "<![CDATA[]]>x<![CDATA[y]]><!----><?p?><c>&#13;\n</c></a><!--e-->"),
         "<p:a xmlns:q='u' p:k='v'><q:b/><:c/></p:a>",
         "<a>\n  <b/>\n  <b> </b>\n</a>",
         "<\xC3\xA4 \xCE\xB1='1'/>",
