@@ -235,9 +235,10 @@ TEST(Threads, EightGiveWhatOneGives) {
     std::vector<std::pair<Transcript, Transcript>> alone;
     const IssueCounter issues;
     for (const auto& [root, example] : Examples()) {
-        ExampleWork& work =
-            *works.emplace_back(std::make_unique<ExampleWork>(ContainerCatalog::FindRoot(root), example));
+        const CatalogClass type = ContainerCatalog::FindRoot(root);
+        ExampleWork work(type, example);
         alone.emplace_back(work.WithOwnDocument(), work.WithSharedDocument());
+        works.push_back(std::make_unique<ExampleWork>(type, example)); // afresh: nothing of it is made yet
     }
     const std::size_t shares = Robustness::FullSizes() ? 200 : 4;
     std::atomic<std::size_t> next = 0;
@@ -254,6 +255,33 @@ TEST(Threads, EightGiveWhatOneGives) {
     });
     for (const std::unique_ptr<ExampleWork>& work : works) {
         work->ExpectUnmoved();
+    }
+}
+
+/// What is made when it is first asked for, by all at once.
+TEST(Threads, ReadThroughOneWrapper) {
+    std::string xml = "<r>";
+    for (int i = 0; i < 300; ++i) {
+        xml += "<e" + std::to_string(i % 40) + " k='" + std::to_string(i) + "'>v" + std::to_string(i) + "</e" +
+               std::to_string(i % 40) + ">";
+    }
+    const int rounds = Robustness::FullSizes() ? 500 : 3;
+    for (int round = 0; round < rounds; ++round) {
+        XMLDataWrapper wrapper;
+        ASSERT_TRUE(wrapper.LoadXMLText(xml + "</r>", true));
+        InThreads(kThreads, [&](unsigned) {
+            for (int i = 0; i < 300; ++i) {
+                const zelString number = SupportFunc::GetStrValue(i);
+                const zelString path = "e" + SupportFunc::GetStrValue(i % 40) + "[@k='" + number + "']";
+                EXPECT_EQ(wrapper.GetStringValue(path, false), "v" + number);
+                XalanNode* const node = wrapper.GetXalanNode(path, false);
+                ASSERT_NE(node, nullptr);
+                EXPECT_EQ(zelString(node->getFirstChild()->getNodeValue().c_str()), "v" + number);
+                EXPECT_EQ(wrapper.GetNodeAttribute(node, "k"), number);
+                EXPECT_FALSE(wrapper.SetQueryValue(path, "new", false));
+                EXPECT_EQ(wrapper.GetLastError(), "the document is read only");
+            }
+        });
     }
 }
 
@@ -429,8 +457,8 @@ TEST(Threads, SetWhatHoldsForTheWholeProcess) {
     std::atomic<int> issues = 0;
     const auto count = [](void* context, const OverrideIssue&) { ++*static_cast<std::atomic<int>*>(context); };
     InThreads(4, [&](unsigned number) {
-        for (std::size_t i = 0; i < roots.size(); i += 4) {
-            const std::string_view root = roots[(i + number) % roots.size()];
+        for (std::size_t i = 0; i < roots.size(); ++i) {
+            const std::string_view root = roots[(i * (number + 1)) % roots.size()];
             TypedDataContainer::SetOverrideIssueHandler(count, &issues);
             LoadLimits::SetDefault(LoadLimits::Default());
             const CatalogClass type = ContainerCatalog::FindRoot(root);
@@ -443,7 +471,7 @@ TEST(Threads, SetWhatHoldsForTheWholeProcess) {
             EXPECT_TRUE(object->UpdateContainedData());
         }
     });
-    EXPECT_GE(issues, static_cast<int>(roots.size()));
+    EXPECT_GE(issues, static_cast<int>(roots.size() * 4));
     TypedDataContainer::SetOverrideIssueHandler(nullptr, nullptr);
 }
 
