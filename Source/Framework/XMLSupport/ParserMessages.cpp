@@ -83,6 +83,16 @@ std::size_t BrokenReference(std::string_view text, std::size_t offset) {
     return at > 0 && text[at - 1] == '&' ? at - 1 : kNone;
 }
 
+/// Start of the instruction whose target, right before the offset, is "xml" in some case, or none.
+std::size_t ReservedTarget(std::string_view before) {
+    constexpr std::size_t length = 5; // <?xml
+    const std::string_view last = before.substr(before.size() - std::min(before.size(), length));
+    const auto isLetter = [&](std::size_t at, char letter) { return (last[at] | 0x20) == letter; };
+    return last.size() == length && last.starts_with("<?") && isLetter(2, 'x') && isLetter(3, 'm') && isLetter(4, 'l')
+               ? before.size() - length
+               : kNone;
+}
+
 ParseError InvalidToken(const DocumentData& data, const DocumentBuilder& builder, std::size_t offset) {
     const std::string_view text = data.source.text;
     const std::string shown(CharacterAt(text, offset));
@@ -114,8 +124,14 @@ ParseError InvalidToken(const DocumentData& data, const DocumentBuilder& builder
                    : ErrorAt(data, offset,
                              "unexpected " + Quoted(shown) + " behind '<': expected a name, or &lt; for a plain '<'");
     }
-    if (before.ends_with("<!")) {
-        return ErrorAt(data, offset - 2, std::string(kNoMarkup));
+    if (before.ends_with("<!") || before.ends_with("<![")) {
+        return ErrorAt(data, before.rfind('<'), std::string(kNoMarkup));
+    }
+    if (const std::size_t target = ReservedTarget(before); target != kNone) {
+        return ErrorAt(
+            data, target,
+            "an instruction may not be named xml, in whatever case: expected another name, or <?xml in small "
+            "letters at the very start of the document");
     }
     if (shown == "<") {
         return ErrorAt(data, offset,
