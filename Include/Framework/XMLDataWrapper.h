@@ -47,7 +47,8 @@ struct WrapperAccess;
 ///
 /// **DOM.** Whoever calls GetDOMNode on a loaded, not read-only document turns it over to a DOM: from then on reads see
 /// the DOM, and the text of the document is written from it; content is kept exactly, formatting is not. On a read-only
-/// document the DOM is a copy that nobody reads back.
+/// document the DOM is a copy that nobody reads back. A document with more than 10,000 different names is not turned
+/// into a DOM: there is no node, and the last error tells.
 ///
 /// **Threads.** One thread at a time uses a wrapper; different ones may be used by different threads, also those over
 /// one document. Through one wrapper over a read-only document any number of threads may at the same time do what moves

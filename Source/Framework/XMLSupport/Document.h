@@ -48,6 +48,8 @@ public:
     std::uint32_t NameNumber(NodeRef node) const { return Record(node).name; }
     /// 0 when no node of the document bears that name.
     std::uint32_t NumberOfName(std::string_view name) const { return m_data.names.Find(name); }
+    /// Number of different names that nodes bear.
+    std::size_t NameCount() const { return m_data.names.Count(); }
 
     const std::string& SourceName() const { return m_data.sourceName; }
     /// The text as UTF-8 without byte order mark: what ranges refer to.

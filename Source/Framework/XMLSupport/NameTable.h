@@ -23,6 +23,8 @@ public:
     std::size_t Memory() const {
         return m_letters + m_names.size() * sizeof(std::string) + m_slots.capacity() * sizeof(Slot);
     }
+    /// Number of different names.
+    std::size_t Count() const { return m_names.size() - 1; }
 
 private:
     std::size_t SlotOf(std::string_view name, std::uint32_t hash) const;

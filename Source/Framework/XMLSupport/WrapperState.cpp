@@ -92,6 +92,13 @@ void WrapperState::ForgetAttribute(NodeRef element, std::string_view name) {
 }
 
 void WrapperState::BuildDom() {
+    // A DOM keeps its names in lists that it looks through for every node. No document in use comes near this.
+    constexpr std::size_t mostNames = 10'000;
+    if (document->NameCount() > mostNames) {
+        throw std::runtime_error(document->SourceName() + " has " + std::to_string(document->NameCount()) +
+                                 " different names; with more than " + std::to_string(mostNames) +
+                                 " a document is not turned into a DOM");
+    }
     auto side = std::make_shared<DomSide>();
     side->document = Framework::BuildDom(*document, [&side](NodeRef node, DOMNode* image) {
         side->nodeOf.emplace(node, image);
