@@ -1,0 +1,428 @@
+// Every hostile document is loaded as the container that its root asks for, from a file, from memory, and as a merge
+// into an object that holds something, each in a process of its own that may use little memory, little time, no file
+// but the document and no socket.
+
+#include "Containers/EveryClass.h"
+#include "Containers/Values.h"
+#include "Framework/LoadLimits.h"
+#include "Robustness/HostileDocuments.h"
+#include "Robustness/HostileState.h"
+#include "Robustness/HostileTexts.h"
+#include "Robustness/HostileWatch.h"
+#include "Robustness/Sizes.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <optional>
+#include <set>
+#include <sstream>
+
+#include <arpa/inet.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace Robustness {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Lines = std::vector<std::string>;
+
+std::string ShortOf(const std::string& text) {
+    return text.size() <= 300 ? text : text.substr(0, 300) + "...";
+}
+
+/// A folder with the files that no load may open, and a socket at which nobody may knock.
+class HostileDocumentTests : public testing::Test {
+protected:
+    /// Done once, so that not every child process has to: the XML libraries start with the first document.
+    static void SetUpTestSuite() {
+        XMLDataWrapper wrapper;
+        ASSERT_TRUE(wrapper.LoadXMLText("<a/>", false) && wrapper.GetDOMNode(true, false) != nullptr);
+    }
+
+    HostileDocumentTests() {
+        m_trap.folder = fs::temp_directory_path() / ("hostile." + std::to_string(::getpid()));
+        fs::create_directories(m_trap.folder);
+        const std::string word(kCanary);
+        std::ofstream(m_trap.folder + "/canary.txt") << word;
+        std::ofstream(m_trap.folder + "/canary.xml") << "<c>" << word << "</c>";
+        std::ofstream(m_trap.folder + "/canary.dtd")
+            << "<!ENTITY c '" << word << "'><!ATTLIST TranslationKeyMap language CDATA '" << word << "'>";
+        m_folderBefore = fs::current_path();
+        fs::current_path(m_trap.folder); // where names without a folder would lead
+
+        m_listener = ::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+        sockaddr_in address = {};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t length = sizeof address;
+        auto* const generic = reinterpret_cast<sockaddr*>(&address);
+        if (::bind(m_listener, generic, length) == 0 && ::listen(m_listener, 8) == 0 &&
+            ::getsockname(m_listener, generic, &length) == 0) {
+            m_trap.port = ntohs(address.sin_port);
+        }
+    }
+    ~HostileDocumentTests() override {
+        ::close(m_listener);
+        fs::current_path(m_folderBefore);
+        fs::remove_all(m_trap.folder);
+    }
+    void SetUp() override { ASSERT_NE(m_trap.port, 0); }
+
+    bool SomebodyKnocked() const {
+        const int visitor = ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC);
+        ::close(visitor);
+        return visitor >= 0;
+    }
+
+    const Trap& GetTrap() const { return m_trap; }
+    void Judge(const HostileDocuments& documents);
+
+private:
+    Trap m_trap;
+    fs::path m_folderBefore;
+    int m_listener = -1;
+};
+
+// --- what is done with one document, in the watched process
+
+class Judgement {
+public:
+    Judgement(Watch& watch, const HostileDocument& document, const std::string& path, const std::string& good)
+        : m_watch(watch), m_document(document), m_path(path), m_good(good) {}
+
+    void Run() {
+        if (m_document.lifted) {
+            LoadLimits::SetDefault(LoadLimits::None());
+        }
+        TypedDataContainer::SetOverrideIssueHandler([](void*, const OverrideIssue&) {}, nullptr);
+        FromFile();
+        FromMemory();
+        AsMerge();
+        Tell();
+    }
+
+private:
+    void At(const std::string& step) { m_watch.At(m_document.name + ": " + step); }
+
+    bool IsRefused() const { return !m_document.refusal.empty(); }
+
+    void Check(bool holds, const std::string& failure) {
+        if (!holds) {
+            m_watch.Fail(failure);
+        }
+    }
+
+    /// An object of the document's class that holds something.
+    std::unique_ptr<TypedDataContainer> Holder() {
+        auto object = ContainerCatalog::Create(m_document.root, false);
+        XMLDataWrapper wrapper;
+        Check(wrapper.LoadXMLText(m_good, false) && object->LoadFromDataPacket(nullptr, &wrapper, false),
+              "the good document does not load");
+        return object;
+    }
+
+    void CheckOutcome(bool success, const std::string& error, const std::string& source) {
+        if (!IsRefused()) {
+            Check(success, "refused: " + ShortOf(error));
+            return;
+        }
+        Check(!success, "not refused");
+        Check(error.rfind(source + ":" + m_document.refusal, 0) == 0,
+              "refused otherwise: " + ShortOf(error) + "\n  expected " + m_document.refusal);
+        Check(error.size() < 1000, "the error has " + std::to_string(error.size()) + " bytes");
+    }
+
+    /// Loads or merges; what is refused must leave no trace.
+    Cost Try(TypedDataContainer& object, const std::string& source, const std::function<bool()>& load) {
+        const Lines before = IsRefused() ? StateOf(object) : Lines();
+        bool success = false;
+        const Cost cost = m_watch.Measure([&] { success = load(); });
+        CheckOutcome(success, object.GetLastError(), source);
+        Check(!IsRefused() || StateOf(object) == before, "the refused document left a trace");
+        if (!kSanitized && IsRefused()) {
+            const double most = m_document.isBomb ? 40 : 150;
+            Check(cost.megabytes < most,
+                  "the refusal took " + std::to_string(cost.megabytes) + " MB, most is " + std::to_string(most));
+        }
+        return cost;
+    }
+
+    void FromFile() {
+        At("load from a file");
+        const auto object = Holder();
+        m_load = Try(*object, m_path, [&] { return object->LoadFromFile(nullptr, m_path.c_str(), false); });
+        if (!IsRefused()) {
+            CheckWhole(*object);
+        }
+    }
+
+    void FromMemory() {
+        At("load from memory");
+        XMLDataWrapper wrapper;
+        Check(wrapper.LoadXMLText(m_good, false), "the good document does not load");
+        bool success = false;
+        {
+            const std::string bytes = Bytes();
+            success = wrapper.LoadXMLText(bytes, false);
+        }
+        const bool isOtherRoot = m_document.refusal.rfind("1:1: no element ", 0) == 0;
+        if (!success && !isOtherRoot) {
+            CheckOutcome(success, wrapper.GetLastError(), "<text>");
+            Check(wrapper.GetXMLText() == m_good, "the wrapper lost what it held");
+            return;
+        }
+        const auto object = Holder();
+        Try(*object, "<text>", [&] { return object->LoadFromDataPacket(nullptr, &wrapper, true); });
+    }
+
+    void AsMerge() {
+        At("merge from a file");
+        const auto object = Holder();
+        m_merge = Try(*object, m_path, [&] { return object->MergeFromFile(nullptr, m_path.c_str()); });
+        if (!IsRefused()) {
+            CheckReadable(*object);
+        }
+    }
+
+    std::string Bytes() const {
+        std::ifstream file(m_path, std::ios::binary | std::ios::ate);
+        std::string bytes(static_cast<std::size_t>(file.tellg()), '\0');
+        file.seekg(0).read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        return bytes;
+    }
+
+    Lines CheckReadable(TypedDataContainer& object) {
+        Lines lines = Samples::Lines(object);
+        Check(std::none_of(lines.begin(), lines.end(),
+                           [](const std::string& line) { return line.find(kCanary) != line.npos; }),
+              "a value holds the word of the canary file");
+        return lines;
+    }
+
+    /// Everything that a host may do next with an object that was loaded.
+    void CheckWhole(TypedDataContainer& object) {
+        const std::string bytes = Bytes();
+        At("read everything");
+        const Lines lines = CheckReadable(object);
+        XMLDataWrapper& wrapper = *object.GetContainedDataPtr();
+        Check(wrapper.GetXMLText() == bytes, "the document does not save to the same bytes");
+        At("update an unchanged object");
+        Check(object.UpdateContainedData() && wrapper.GetXMLText() == bytes,
+              "an update of nothing changes the document");
+        At("dump");
+        {
+            const std::unique_ptr<XMLDataWrapper> dump(object.BuildAndReturnDataContent());
+            Check(dump != nullptr, "cannot be dumped: " + ShortOf(object.GetLastError()));
+            const auto again = ContainerCatalog::Create(m_document.root, false);
+            Check(dump != nullptr && again->LoadFromDataPacket(nullptr, dump.get(), false) &&
+                      Samples::Lines(*again) == lines,
+                  "the dump loads otherwise");
+        }
+        At("turn into a DOM and save");
+        CheckDom(bytes, lines);
+        At("edit and save");
+        CheckEdit(object, wrapper, bytes);
+        At("find an entry by its key");
+        CheckQueries(object, wrapper);
+        At("merge something and update");
+        XMLDataWrapper good;
+        Check(good.LoadXMLText(m_good, false) && object.MergeFromDataPacket(nullptr, "Good", &good, false) &&
+                  object.UpdateContainedData(),
+              "nothing can be merged into it: " + ShortOf(object.GetLastError()));
+        CheckReadable(object);
+    }
+
+    /// A DOM looks through all its names for each of them: there is none for a document that has many.
+    void CheckDom(const std::string& bytes, const Lines& lines) {
+        XMLDataWrapper dom;
+        Check(dom.LoadXMLText(bytes, false), "it does not load again");
+        const bool hasDom = dom.GetDOMNode(true, false) != nullptr;
+        Check(hasDom || dom.GetLastError().find("different names") != zelString::npos,
+              "there is no DOM: " + ShortOf(dom.GetLastError()));
+        const std::string text = dom.GetXMLText();
+        const auto again = ContainerCatalog::Create(m_document.root, false);
+        XMLDataWrapper reload;
+        Check((hasDom || text == bytes) && reload.LoadXMLText(text, false) &&
+                  again->LoadFromDataPacket(nullptr, &reload, false) && Samples::Lines(*again) == lines,
+              "the DOM saves otherwise: " + ShortOf(dom.GetLastError() + reload.GetLastError()));
+    }
+
+    void CheckQueries(TypedDataContainer& object, XMLDataWrapper& wrapper) {
+        for (const CatalogField& list : ContainerCatalog::ClassOf(object).Fields()) {
+            if (list.GetForm() == CatalogField::KeyedList && list.Length(object) > 0) {
+                const zelString key = list.EntryKey(object, list.Length(object) - 1);
+                const std::string query = "//" + m_document.root + "/" + std::string(list.Name()) + "[@" +
+                                          std::string(list.KeyAttribute()) + "='" + key + "']";
+                Check(wrapper.GetXalanNode(query, true) != nullptr, "an entry is not found: " + ShortOf(query));
+            }
+        }
+    }
+
+    /// Changes the longest text: what is hostile mostly sits there.
+    void CheckEdit(TypedDataContainer& object, XMLDataWrapper& wrapper, const std::string& bytes) {
+        std::optional<Value> longest;
+        std::size_t length = 0;
+        for (const Value& value : ValuesOf(object)) {
+            if (value.field.GetValue() == CatalogField::String && value.Get().size() >= length &&
+                value.field.GetForm() != CatalogField::Attribute) {
+                length = value.Get().size();
+                longest = value;
+            }
+        }
+        if (!longest || !longest->Set("edited")) {
+            return;
+        }
+        const Lines lines = Samples::Lines(object);
+        std::string saved;
+        m_save = m_watch.Measure([&] {
+            Check(object.UpdateContainedData(), "the edit cannot be written: " + ShortOf(wrapper.GetLastError()));
+            saved = wrapper.GetXMLText();
+        });
+        const auto again = ContainerCatalog::Create(m_document.root, false);
+        XMLDataWrapper reload;
+        Check(saved != bytes && reload.LoadXMLText(saved, false) &&
+                  again->LoadFromDataPacket(nullptr, &reload, false) && Samples::Lines(*again) == lines,
+              "the edited document loads otherwise: " + ShortOf(reload.GetLastError()));
+    }
+
+    /// Milliseconds and megabytes of load, merge and save, as numbers with blanks between.
+    void Tell() {
+        std::ostringstream facts;
+        facts << m_load.milliseconds << ' ' << m_load.megabytes << ' ' << m_merge.milliseconds << ' '
+              << m_save.milliseconds;
+        m_watch.Tell(facts.str());
+    }
+
+    Watch& m_watch;
+    const HostileDocument& m_document;
+    const std::string& m_path;
+    const std::string& m_good;
+    Cost m_load;
+    Cost m_merge;
+    Cost m_save;
+};
+
+// --- the judge of a whole table
+
+/// A document of the class with every field.
+std::string GoodDocument(const std::string& root) {
+    Samples::Random random(7);
+    return Samples::ToXml(Samples::Make(ContainerCatalog::FindRoot(root), root, random, 1, true), random, false);
+}
+
+/// What the system itself reads to turn another encoding into UTF-8.
+bool IsConversion(const std::string& call) {
+    return call.find("/gconv/") != call.npos || call == "openat /etc/ld.so.cache";
+}
+
+struct Case {
+    const HostileDocument* document;
+    std::size_t size;
+    std::string path;
+};
+
+struct Figures {
+    double load = 0;
+    double megabytes = 0;
+    double merge = 0;
+    double save = 0;
+};
+
+/// Judges the documents in one process after the other. The figures are those of the last.
+Figures JudgeTogether(const std::vector<Case>& cases) {
+    std::set<std::string> mayBeOpened;
+    std::map<std::string, std::string> good; // by root
+    for (const Case& each : cases) {
+        std::ofstream(each.path, std::ios::binary) << each.document->text(each.size);
+        mayBeOpened.insert("openat " + each.path);
+        if (good.find(each.document->root) == good.end()) {
+            good[each.document->root] = GoodDocument(each.document->root);
+        }
+    }
+    const Watched watched = RunWatched(kSanitized ? 300 : 60, [&](Watch& watch) {
+        for (const Case& each : cases) {
+            Judgement(watch, *each.document, each.path, good[each.document->root]).Run();
+        }
+    });
+    for (const std::string& failure : watched.failures) {
+        ADD_FAILURE() << failure;
+    }
+    for (const std::string& call : watched.reached) {
+        EXPECT_TRUE(mayBeOpened.count(call) != 0 || IsConversion(call)) << "reached out: " << call;
+    }
+    Figures figures;
+    if (!watched.facts.empty()) {
+        std::istringstream(watched.facts.back()) >> figures.load >> figures.megabytes >> figures.merge >> figures.save;
+    }
+    return figures;
+}
+
+std::string Growth(double small, double large) {
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), small < 1 ? "-" : "%.1f", large / small);
+    return text.data();
+}
+
+/// The row of one document, as the documentation shows it.
+void PrintRow(const Case& one, const Figures& figures, const Figures& half) {
+    std::printf("%-62s %10ju %-8s %8.1f %7.1f %8.1f %8.1f  %s %s %s\n", one.document->name.c_str(),
+                fs::file_size(one.path), one.document->refusal.empty() ? "loaded" : "refused", figures.load,
+                figures.megabytes, figures.merge, figures.save, Growth(half.load, figures.load).c_str(),
+                Growth(half.merge, figures.merge).c_str(), Growth(half.save, figures.save).c_str());
+    std::fflush(stdout);
+}
+
+/// Those of one size are small and share a process; every other has one to itself.
+void HostileDocumentTests::Judge(const HostileDocuments& documents) {
+    std::vector<Case> small;
+    for (const HostileDocument& document : documents) {
+        const std::size_t size = FullSizes() ? document.full : document.small;
+        const Case one{&document, size, m_trap.folder + "/" + std::to_string(&document - documents.data()) + ".xml"};
+        if (document.full == 0) {
+            small.push_back(one);
+        } else if (size != 0) {
+            const Figures figures = JudgeTogether({one});
+            if (FullSizes()) {
+                const bool grows = document.refusal.empty();
+                const Case halved{&document, size / 2, m_trap.folder + "/half.xml"};
+                PrintRow(one, figures, grows ? JudgeTogether({halved}) : Figures());
+            }
+            fs::remove(one.path);
+        }
+    }
+    JudgeTogether(small);
+    EXPECT_FALSE(SomebodyKnocked());
+}
+
+TEST_F(HostileDocumentTests, EntitiesAreRefused) {
+    Judge(EntityDocuments());
+}
+TEST_F(HostileDocumentTests, NothingReachesOut) {
+    Judge(ReachingDocuments(GetTrap()));
+}
+TEST_F(HostileDocumentTests, DepthIsLimited) {
+    Judge(DepthDocuments());
+}
+TEST_F(HostileDocumentTests, FloodsAreRefusedOrLinear) {
+    Judge(FloodDocuments());
+}
+TEST_F(HostileDocumentTests, CollisionsCostNothing) {
+    Judge(CollisionDocuments());
+}
+TEST_F(HostileDocumentTests, HugePartsAreRefusedOrLinear) {
+    Judge(HugeDocuments());
+}
+TEST_F(HostileDocumentTests, BadCharactersAreRefused) {
+    Judge(CharacterDocuments());
+}
+TEST_F(HostileDocumentTests, BadMarkupIsRefused) {
+    Judge(MarkupDocuments());
+}
+
+} // namespace
+} // namespace Robustness
