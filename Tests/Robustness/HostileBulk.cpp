@@ -3,6 +3,7 @@
 
 #include "Robustness/HostileDocuments.h"
 #include "Robustness/HostileTexts.h"
+#include "Robustness/Sizes.h"
 
 namespace Robustness {
 
@@ -55,7 +56,8 @@ std::string ElementsNamed(const std::vector<std::string>& names) {
 
 HostileDocuments DepthDocuments() {
     const auto bomb = [](std::string name, std::size_t size, std::function<std::string(std::size_t)> text) {
-        return HostileDocument{std::move(name), kTooDeep, std::move(text), size, size, "TranslationConfig", true};
+        return HostileDocument{std::move(name),     kTooDeep,      std::move(text), size, size,
+                               "TranslationConfig", kBombMegabytes};
     };
     return {
         bomb("depth 1,000", 1'000, &Nested),
@@ -66,11 +68,11 @@ HostileDocuments DepthDocuments() {
         Fixed("depth just allowed", "", Nested(255)),
         {"depth with attributes", "2:2296: elements are nested too deeply",
          [](std::size_t size) { return InRoot(Repeat("<a b='c'>", size) + Repeat("</a>", size)); }, 1'000, 100'000,
-         "TranslationConfig", true},
-        {"depth without limits", "", &Nested, 20'000, kMega, "TranslationConfig", false, true},
+         "TranslationConfig", kBombMegabytes},
+        {"depth without limits", "", &Nested, 20'000, kMega, "TranslationConfig", 0, true},
         {"depth of fields within fields", "2:3264: elements are nested too deeply",
          [](std::size_t size) { return InValue(Repeat("<ResultValue>", size) + Repeat("</ResultValue>", size)); },
-         1'000, 100'000, "TranslationConfig", true},
+         1'000, 100'000, "TranslationConfig", kBombMegabytes},
     };
 }
 
@@ -95,18 +97,18 @@ HostileDocuments FloodDocuments() {
         Sized(
             "1,000,000 names", 30'000, kMega,
             [](std::size_t size) { return InRoot(Join(size, [](std::size_t n) { return Numbered("<n", n, "/>"); })); }),
-        Sized("1,000,000 siblings", 30'000, kMega, [](std::size_t size) { return InRoot(Repeat("<a/>\n", size)); }),
-        Sized("1,000,000 entries of a plain list", 10'000, kMega,
+        Sized("1,000,000 siblings", 10'000, kMega, [](std::size_t size) { return InRoot(Repeat("<a/>\n", size)); }),
+        Sized("1,000,000 entries of a plain list", 5'000, kMega,
               [](std::size_t size) {
                   return InValue("</ResultValue>" + Repeat("<Doc>d</Doc>", size) + "<ResultValue>");
               }),
-        Sized("children that stand again and again", 10'000, kMega,
+        Sized("children that stand again and again", 5'000, kMega,
               [](std::size_t size) { return InRoot(Repeat("<TranslationText/>", size)); }),
         Sized(
-            "100,000 equal keys", 2'000, 100'000,
+            "100,000 equal keys", 1'000, 100'000,
             [](std::size_t size) { return KeyedElements(std::vector<std::string>(size, "k")); }, "VendraConfig"),
         Sized(
-            "100,000 keys", 2'000, 100'000,
+            "100,000 keys", 1'000, 100'000,
             [](std::size_t size) {
                 std::vector<std::string> keys(size);
                 for (std::size_t number = 0; number < size; ++number) {
@@ -143,7 +145,7 @@ HostileDocuments CollisionDocuments() {
                   [factor](std::size_t size) { return ElementsNamed(CollidingByFactor(size, factor)); }));
     }
     documents.push_back(Sized(
-        "keys that look alike to a hash with 31", 2'000, 100'000,
+        "keys that look alike to a hash with 31", 1'000, 100'000,
         [](std::size_t size) { return KeyedElements(CollidingByFactor(size, 31)); }, "VendraConfig"));
     for (const char* const prefix : {"", "148:"}) {
         const std::string how = *prefix == '\0' ? "" : " with their length in front";
@@ -151,69 +153,79 @@ HostileDocuments CollisionDocuments() {
         documents.push_back(Sized("names that look alike to the standard hash" + how, 3'000, 100'000,
                                   [alike](std::size_t size) { return ElementsNamed(alike(size)); }));
         documents.push_back(Sized(
-            "keys that look alike to the standard hash" + how, 2'000, 100'000,
+            "keys that look alike to the standard hash" + how, 1'000, 100'000,
             [alike](std::size_t size) { return KeyedElements(alike(size)); }, "VendraConfig"));
         documents.push_back(Sized(
-            "keys of texts that look alike to the standard hash" + how, 2'000, 100'000,
+            "keys of texts that look alike to the standard hash" + how, 1'000, 100'000,
             [alike](std::size_t size) { return KeyedTexts(alike(size)); }, "StateProcessingRoot"));
     }
     return documents;
 }
 
 HostileDocuments HugeDocuments() {
+    using Around = std::function<std::string(const std::string&)>;
     constexpr std::size_t small = kMega;
     constexpr std::size_t full = 100 * kMega;
-    const auto loads = [](std::string name, const std::function<std::string(const std::string&)>& around,
-                          std::string_view piece = "a", const char* root = "TranslationConfig") {
+    const std::string tooLong = ": a tag has too many bytes, the limit is 16777216; raise LoadLimits::bytesPerTag";
+    const auto loads = [](std::string name, std::string_view piece, const Around& around,
+                          const char* root = "TranslationConfig") {
         return Sized(
             std::move(name), small, full,
             [around, piece](std::size_t size) { return around(Repeat(piece, size / piece.size())); }, root);
     };
-    const auto refused = [](std::string name, std::string refusal, const std::string& start) {
+    // Of tags only the small ones load.
+    const auto tag = [&](std::string name, const std::string& place, std::string_view piece, const Around& around,
+                         const char* root = "TranslationConfig") {
+        HostileDocument document = loads(std::move(name), piece, around, root);
+        document.refusal = FullSizes() ? place + tooLong : "";
+        return document;
+    };
+    const auto open = [](std::string name, std::string refusal, const std::string& start) {
         return HostileDocument{
             std::move(name), std::move(refusal),
             [start](std::size_t size) { return "<TranslationConfig>\n" + start + Repeat("a", size); }, small, full};
     };
+    const auto openTag = [&](std::string name, const std::string& refusal, const std::string& start) {
+        return open(std::move(name), FullSizes() ? "2:1" + tooLong : refusal, start);
+    };
     using Text = const std::string&;
     return {
-        loads("huge text", [](Text huge) { return InValue(huge); }),
+        loads("huge text", "a", &InValue),
+        loads("huge text of lines", "\r\n", &InValue),
+        loads("huge text of brackets", "]", &InValue),
+        loads("huge text in Thai", "\xE0\xB8\x81", &InValue),
+        loads("huge comment", "a", [](Text huge) { return InRoot("<!--" + huge + "-->"); }),
+        loads("huge instruction", "a", [](Text huge) { return InRoot("<?a " + huge + "?>"); }),
+        loads("huge name of an instruction", "a", [](Text huge) { return InRoot("<?" + huge + "?>"); }),
+        loads("huge section", "a", [](Text huge) { return InValue("<![CDATA[" + huge + "]]>"); }),
+        loads("blanks behind the root", "\n", [](Text huge) { return InValue("x") + huge; }),
+        loads("blanks in the declaration", " ",
+              [](Text huge) { return "<?xml version='1.0'" + huge + "?>" + InValue("x"); }),
         loads(
-            "huge text of lines", [](Text huge) { return InValue(huge); }, "\r\n"),
-        loads(
-            "huge text of brackets", [](Text huge) { return InValue(huge); }, "]"),
-        loads(
-            "huge text in Thai", [](Text huge) { return InValue(huge); }, "\xE0\xB8\x81"),
-        loads("huge attribute", [](Text huge) { return InTag("a='" + huge + "'"); }),
-        loads(
-            "huge key", [](Text huge) { return "<VendraConfig><Config Name='" + huge + "'/></VendraConfig>"; }, "a",
-            "VendraConfig"),
-        loads("huge comment", [](Text huge) { return InRoot("<!--" + huge + "-->"); }),
-        loads("huge instruction", [](Text huge) { return InRoot("<?a " + huge + "?>"); }),
-        loads("huge section", [](Text huge) { return InValue("<![CDATA[" + huge + "]]>"); }),
-        loads("huge name of an element", [](Text huge) { return InRoot("<" + huge + "/>"); }),
-        loads("huge name of an attribute", [](Text huge) { return InTag(huge + "=''"); }),
-        loads("huge name of an instruction", [](Text huge) { return InRoot("<?" + huge + "?>"); }),
-        loads(
-            "blanks in a tag", [](Text huge) { return InTag("a=''" + huge); }, " "),
-        loads(
-            "blanks behind the root", [](Text huge) { return InValue("x") + huge; }, "\n"),
-        loads(
-            "blanks in the declaration", [](Text huge) { return "<?xml version='1.0'" + huge + "?>" + InValue("x"); },
-            " "),
-        loads(
-            "huge number",
+            "huge number", "9",
             [](Text huge) { return "<ItemHandlerLogData><BaseWeight>" + huge + "</BaseWeight></ItemHandlerLogData>"; },
-            "9", "ItemHandlerLogData"),
-        refused("text without end", "2:", ""),
-        refused("tag without end", "2:1: the tag is not closed", "<b "),
-        refused("name without end", "2:1: the tag is not closed", "<b"),
-        refused("attribute without end", "2:1: the tag is not closed", "<b c='"),
-        refused("comment without end", "2:1: the comment is not closed", "<!--"),
-        refused("instruction without end", "2:1: the instruction is not closed", "<?b "),
-        refused("section without end", "2:1: the CDATA section is not closed", "<![CDATA["),
-        refused("reference without end", "2:1: the reference is not closed", "&"),
-        refused("end tag without end", "2:1: the end tag is not closed", "</"),
-        refused("attribute without blanks", "2:8: unexpected 'a' within a tag", "<b c=''"),
+            "ItemHandlerLogData"),
+        tag("huge attribute", "1:88", "a", [](Text huge) { return InTag("a='" + huge + "'"); }),
+        tag(
+            "huge key", "1:15", "a",
+            [](Text huge) { return "<VendraConfig><Config Name='" + huge + "'/></VendraConfig>"; }, "VendraConfig"),
+        tag("huge name of an element", "2:1", "a", [](Text huge) { return InRoot("<" + huge + "/>"); }),
+        tag("huge name of an attribute", "1:88", "a", [](Text huge) { return InTag(huge + "=''"); }),
+        tag("blanks in a tag", "1:88", " ", [](Text huge) { return InTag("a=''" + huge); }),
+        open("text without end", "2:", ""),
+        open("comment without end", "2:1: the comment is not closed", "<!--"),
+        open("instruction without end", "2:1: the instruction is not closed", "<?b "),
+        open("section without end", "2:1: the CDATA section is not closed", "<![CDATA["),
+        open("reference without end", "2:1: the reference is not closed", "&"),
+        openTag("tag without end", "2:1: the tag is not closed", "<b "),
+        openTag("name without end", "2:1: the tag is not closed", "<b"),
+        openTag("attribute without end", "2:1: the tag is not closed", "<b c='"),
+        openTag("attribute without blanks", "2:8: unexpected 'a' within a tag", "<b c=''"),
+        openTag("end tag without end", "2:1: the end tag is not closed", "</"),
+        // Refused unread.
+        {"more bytes than allowed",
+         "1:1: the document has 270000000 bytes, the limit is 268435456; raise LoadLimits::bytes",
+         [](std::size_t size) { return Repeat(" ", size); }, 0, 270 * kMega},
     };
 }
 

@@ -26,9 +26,12 @@ struct HostileDocument {
     std::size_t small = 0; ///< sizes of the small and the full run; 0: there is but one
     std::size_t full = 0;
     std::string root = "TranslationConfig";
-    bool isBomb = false; ///< far larger inside than it looks: to be refused with very little memory
-    bool lifted = false; ///< loaded without limits
+    double mostMegabytes = 150; ///< that a refusal may take
+    bool lifted = false;        ///< loaded without limits
 };
+
+/// What is far larger inside than it looks has to be refused with very little memory.
+inline constexpr double kBombMegabytes = 40;
 
 using HostileDocuments = std::vector<HostileDocument>;
 

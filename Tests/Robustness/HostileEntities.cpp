@@ -25,7 +25,7 @@ std::string Chain(std::size_t length, std::size_t times, const std::string& perc
 
 HostileDocument Bomb(std::string name, std::size_t small, std::size_t full,
                      std::function<std::string(std::size_t)> text) {
-    return {std::move(name), kNoDoctype, std::move(text), small, full, "TranslationConfig", true};
+    return {std::move(name), kNoDoctype, std::move(text), small, full, "TranslationConfig", kBombMegabytes};
 }
 
 } // namespace

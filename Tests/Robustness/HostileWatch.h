@@ -46,7 +46,8 @@ struct Watched {
 
 /// Runs the work in a process of its own, which is ended when it uses more processor time than given. From the moment
 /// the work begins the kernel hands every system call but the harmless ones to the watch, whoever makes it; they are
-/// carried out all the same, but for those that start programs or processes.
+/// carried out all the same, but for those that start programs or processes. (A call made while signals are blocked
+/// ends the process.)
 Watched RunWatched(unsigned mostSeconds, const std::function<void(Watch&)>& work);
 
 } // namespace Robustness

@@ -1,0 +1,154 @@
+// What the tests of hostile documents rest on: that the watch sees what it should, that the documents are live, and
+// that texts which are to collide do.
+
+#include "Robustness/HostileDocuments.h"
+#include "Robustness/HostileTexts.h"
+#include "Robustness/HostileWatch.h"
+
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <set>
+
+#include <arpa/inet.h>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+#include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/parsers/XercesDOMParser.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
+
+namespace Robustness {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(HostileWatch, SeesWhoeverReachesOut) {
+    const Watched watched = RunWatched(10, [](Watch& watch) {
+        std::ifstream file("/etc/passwd");
+        std::string line;
+        if (!std::getline(file, line)) {
+            watch.Fail("the file was not opened");
+        }
+        ::close(static_cast<int>(::syscall(SYS_openat, AT_FDCWD, "/etc/group", O_RDONLY)));
+        const int descriptor = ::socket(AF_INET, SOCK_STREAM, 0);
+        sockaddr_in address = {};
+        address.sin_family = AF_INET;
+        address.sin_port = htons(9);
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        ::connect(descriptor, reinterpret_cast<sockaddr*>(&address), sizeof address);
+        if (::fork() >= 0) {
+            watch.Fail("a process was started");
+        }
+    });
+    EXPECT_EQ(watched.failures, std::vector<std::string>());
+    const std::set<std::string> reached(watched.reached.begin(), watched.reached.end());
+    for (const char* const call :
+         {"openat /etc/passwd", "openat /etc/group", "socket", "connect 127.0.0.1:9", "clone"}) {
+        EXPECT_EQ(reached.count(call), 1U) << call;
+    }
+}
+
+TEST(HostileWatch, TellsHowAProcessEnded) {
+    const auto endOf = [](const std::function<void()>& work) {
+        const Watched watched = RunWatched(1, [&](Watch& watch) {
+            watch.At("here");
+            work();
+        });
+        return watched.failures.empty() ? std::string() : watched.failures.front();
+    };
+    EXPECT_EQ(endOf([] {}), "");
+    EXPECT_EQ(endOf([] { throw std::runtime_error("x"); }), "here: an exception escaped: x");
+    EXPECT_EQ(endOf([] { ::raise(SIGTERM); }), "here: ended by signal 15 (Terminated)");
+    EXPECT_EQ(endOf([] { ::_exit(0); }), "here: exit was called, with status 0");
+    EXPECT_EQ(endOf([] {
+                  for (volatile bool forever = true; forever;) {
+                  }
+              }).substr(0, 21),
+              "here: ended by signal");
+}
+
+TEST(HostileWatch, MeasuresMemoryThatWasGivenBack) {
+    if (kSanitized) {
+        GTEST_SKIP() << "sanitizers keep memory of their own";
+    }
+    const Watched watched = RunWatched(10, [](Watch& watch) {
+        for (const std::size_t size : {0U, 60'000'000U, 5'000'000U}) {
+            bool isFound = false;
+            const Cost cost = watch.Measure([&] { isFound = std::string(size, 'x').find('y') != std::string::npos; });
+            const double expected = static_cast<double>(size) / 1024 / 1024;
+            if (isFound || cost.megabytes < expected - 1 || cost.megabytes > expected + 3) {
+                watch.Fail(std::to_string(size) + " bytes measured as " + std::to_string(cost.megabytes) + " MB");
+            }
+        }
+    });
+    EXPECT_EQ(watched.failures, std::vector<std::string>());
+}
+
+/// A parser with its settings as they come does what these documents ask for: they would hurt whoever follows them.
+TEST(HostileWatch, DocumentsThatReachOutWouldDoSo) {
+    const fs::path folder = fs::temp_directory_path() / ("live." + std::to_string(::getpid()));
+    fs::create_directories(folder);
+    for (const char* const name : {"canary.txt", "canary.xml"}) {
+        std::ofstream(folder / name) << "<c>" << kCanary << "</c>";
+    }
+    std::ofstream(folder / "canary.dtd") << "<!ENTITY c '" << kCanary << "'>";
+    std::size_t live = 0;
+    for (const HostileDocument& document : ReachingDocuments({folder, 9})) {
+        const std::string text = document.text(0);
+        const bool readsFile = text.find("canary.") != text.npos && text.find("http:") == text.npos;
+        if (document.refusal.empty() || !readsFile) {
+            continue;
+        }
+        const Watched watched = RunWatched(10, [&](Watch&) {
+            xercesc::XMLPlatformUtils::Initialize();
+            xercesc::XercesDOMParser parser;
+            const std::string id = folder / "document.xml";
+            const xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(text.data()), text.size(),
+                                                    id.c_str());
+            parser.parse(source);
+        });
+        const auto opened = [&](const std::string& call) {
+            return call.find((folder / "canary").string()) != call.npos;
+        };
+        live += std::any_of(watched.reached.begin(), watched.reached.end(), opened) ? 1 : 0;
+    }
+    fs::remove_all(folder);
+    EXPECT_GE(live, 6U);
+}
+
+TEST(HostileTexts, CollideWhateverTheHashStartsFrom) {
+    for (const std::string prefix : {"", "148:", "12345678"}) {
+        const std::vector<std::string> texts = CollidingByStandardHash(20'000, prefix);
+        std::set<std::size_t> hashes;
+        std::set<std::size_t> others; // with another start of the same length
+        for (const std::string& text : texts) {
+            hashes.insert(std::hash<std::string>()(prefix + text));
+            others.insert(std::hash<std::string>()(std::string(64 + prefix.size(), '#') + text));
+        }
+        EXPECT_EQ(std::set<std::string>(texts.begin(), texts.end()).size(), texts.size());
+#ifdef __GLIBCXX__
+        EXPECT_EQ(hashes.size(), 1U) << prefix;
+        EXPECT_EQ(others.size(), 1U) << prefix;
+#endif
+    }
+    for (const unsigned factor : {31U, 33U, 37U, 38U}) {
+        std::set<unsigned> hashes;
+        const std::vector<std::string> texts = CollidingByFactor(20'000, factor);
+        for (const std::string& text : texts) {
+            unsigned hash = 0;
+            for (const char letter : text) {
+                hash = hash * factor + static_cast<unsigned char>(letter);
+            }
+            hashes.insert(hash);
+        }
+        EXPECT_EQ(hashes.size(), 1U) << factor;
+        EXPECT_EQ(std::set<std::string>(texts.begin(), texts.end()).size(), texts.size());
+    }
+}
+
+} // namespace
+} // namespace Robustness
