@@ -210,19 +210,27 @@ void Kill(const std::string& style, const fs::path& base, std::size_t size, int 
     warm.Save();
     const auto time = std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - start);
     std::mt19937 random(std::random_device{}());
-    std::uniform_int_distribution<long> microseconds(500, std::max(20'000L, static_cast<long>(time.count()) * 5));
+    std::uniform_int_distribution<long> microseconds(0, std::max(5'000L, static_cast<long>(time.count()) * 5));
     for (int round = 0; round < rounds; ++round) {
         const fs::path folder = base / std::to_string(round);
         Saver saver(style, folder, size);
+        int started[2] = {};
+        if (::pipe2(started, O_CLOEXEC) != 0) {
+            std::abort();
+        }
         const auto save = [&] {
-            for (bool changed = true; saver.Save() == "saved"; changed = !changed) {
+            for (bool changed = true; saver.Save() == "saved" && ::write(started[1], "", 1) == 1; changed = !changed) {
                 saver.Change(changed);
             }
         };
         const std::string end = Apart(save, [&](pid_t child) {
+            char byte = 0;
+            ::close(started[1]);
+            static_cast<void>(::read(started[0], &byte, 1) == 1);
             ::usleep(static_cast<useconds_t>(microseconds(random)));
             ::kill(child, SIGKILL);
         });
+        ::close(started[0]);
         std::printf("%d\t%s\n", round, end.c_str());
     }
 }
