@@ -180,7 +180,10 @@ std::map<std::string, int> Violations(const std::vector<Save>& saves, const std:
 // "replace" overwrites any file, "refuse" only the one it loaded, "create" makes one where none is.
 TEST(SaveFaults, EveryFaultAtEveryCallLeavesTheOldOrTheNewFile) {
     const TemporaryFolder base(QuickFolder());
-    for (const std::string style : {"replace", "refuse", "create"}) {
+    for (const std::string style : {"refuse", "create", "replace"}) {
+        if (style == "replace" && !FullSizes()) {
+            continue; // the calls of "refuse", but for those that ask whether it may
+        }
         const std::vector<Save> saves = Sweep(base, style);
         ASSERT_GE(saves.size(), 8 * kFaults.size()) << style << ": the shim does not see the calls";
         std::map<std::string, int> ends;
@@ -276,24 +279,25 @@ TEST(SaveFaults, AFileThatAppearsIsNeverOverwritten) {
 
 TEST(SaveKilled, AtAnyMomentTheFileIsWhole) {
     const TemporaryFolder base(QuickFolder());
-    const int rounds = FullSizes() ? 200 : 20;
-    for (const std::string style : {"replace", "in-place unforced"}) {
-        constexpr std::size_t size = 300'000;
+    constexpr std::size_t size = 300'000;
+    const auto kill = [&](const std::string& style, int rounds) {
         std::map<std::string, int> states;
         for (const auto& line : Drive("kill '" + style + "' " + Quoted(base / style) + " " + std::to_string(size) +
                                           " " + std::to_string(rounds),
                                       false)) {
-            ASSERT_EQ(line.size(), 2U);
-            EXPECT_EQ(line[1], "killed");
+            EXPECT_EQ(line.back(), "killed");
             ++states[SavedState(base / style / line[0], size)];
         }
         std::cout << style << ": " << testing::PrintToString(states) << "\n";
-        EXPECT_EQ(states.contains("damaged"), style != "replace");
-        if (style == "replace") {
-            EXPECT_FALSE(states.contains("damaged stray") || states.contains("none") || states.contains("none stray"));
-            EXPECT_TRUE(!FullSizes() || (states.contains("new") && states.contains("old stray")))
-                << "not killed at any moment";
-        }
+        return states;
+    };
+    const std::map<std::string, int> states = kill("replace", FullSizes() ? 200 : 20);
+    for (const auto& [state, count] : states) {
+        EXPECT_TRUE(state.starts_with("old") || state.starts_with("new")) << count << " times " << state;
+    }
+    if (FullSizes()) { // enough to be sure that the moments are well spread
+        EXPECT_TRUE(states.contains("new") && states.contains("old stray"));
+        EXPECT_TRUE(kill("in-place unforced", 200).contains("damaged"));
     }
 }
 
