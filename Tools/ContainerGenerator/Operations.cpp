@@ -110,7 +110,7 @@ std::vector<Operation> PlainWordAccessors(const Names& of) {
          "Get" + of.name,
          {kIndex},
          of.Entry("Framework::GrowTo(" + of.list + ", " + of.tableRow + ", Index)")},
-        {"void", "AddNew" + of.name, {{of.type + "*", "szNew"}}, of.list + ".push_back(szNew);"},
+        {"void", "AddNew" + of.name, {{of.type + "*", "szNew"}}, "Framework::AddNewWord(" + of.list + ", szNew);"},
     };
 }
 

@@ -123,7 +123,7 @@ CaptureLevelType* CaptureConfigSubRuleType::GetCaptureLevel(int Index) {
 }
 
 void CaptureConfigSubRuleType::AddNewCaptureLevel(CaptureLevelType* szNew) {
-    m_CaptureLevelList.push_back(szNew);
+    Framework::AddNewWord(m_CaptureLevelList, szNew);
 }
 
 bool CaptureConfigSubRuleType::GetAddTrace() {

@@ -233,6 +233,12 @@ TypedDataEnumeration* GrowTo(std::vector<TypedDataEnumeration*>& words, const Fi
     return IsAt(words.size(), Index) ? words[static_cast<std::size_t>(Index)] : nullptr;
 }
 
+void AddNewWord(std::vector<TypedDataEnumeration*>& words, TypedDataEnumeration* szNew) {
+    std::unique_ptr<TypedDataEnumeration> word(szNew);
+    words.push_back(szNew);
+    word.release();
+}
+
 void AddWord(std::vector<TypedDataEnumeration*>& words, const FieldRow& row, const zelString& pData) {
     std::unique_ptr<TypedDataEnumeration> word(row.list->newWord(pData.c_str()));
     words.push_back(word.get());

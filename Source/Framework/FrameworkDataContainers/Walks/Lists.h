@@ -37,6 +37,7 @@ zelString GrowTo(std::vector<zelString>& texts, int Index);
 
 // plain list of enumerations
 TypedDataEnumeration* GrowTo(std::vector<TypedDataEnumeration*>& words, const FieldRow& row, int Index);
+void AddNewWord(std::vector<TypedDataEnumeration*>& words, TypedDataEnumeration* szNew);
 void AddWord(std::vector<TypedDataEnumeration*>& words, const FieldRow& row, const zelString& pData);
 void ClearWords(std::vector<TypedDataEnumeration*>& words);
 

@@ -187,7 +187,7 @@ ShadeType* ListsType::GetShade(int Index) {
 }
 
 void ListsType::AddNewShade(ShadeType* szNew) {
-    m_ShadeList.push_back(szNew);
+    Framework::AddNewWord(m_ShadeList, szNew);
 }
 
 int ListsType::GetItemLength() {
