@@ -8,10 +8,12 @@
 #include <string>
 
 #include <xalanc/XPath/XPathInit.hpp>
+#include <xercesc/dom/DOM.hpp>
 #include <xercesc/util/PanicHandler.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 
 #include "Framework/XMLSupport/CaughtFailure.h"
+#include "Framework/XMLSupport/DomTree.h"
 #include "Framework/XMLSupport/XmlMemory.h"
 
 namespace Framework {
@@ -72,6 +74,13 @@ private:
     std::string m_failure;
 };
 
+/// Xerces fills the table of what may stand below what when the first node is appended in the process, and has no lock
+/// for it.
+void AppendFirstNode() {
+    const DomDocumentPtr document(xercesc::DOMImplementation::getImplementation()->createDocument(&StartMemory::Instance()));
+    document->appendChild(document->createElement(u"first"));
+}
+
 /// What stays for ever, and needs no memory to come to life: objects that are destroyed at exit may still come here.
 struct Runtime {
     ThrowingPanicHandler panicHandler; // to which Xerces keeps a pointer
@@ -97,6 +106,7 @@ void EnsureXmlRuntime() {
     runtime.xerces.Run("Xerces-C", memory, [&] {
         xercesc::XMLPlatformUtils::Initialize(xercesc::XMLUni::fgXercescDefaultLocale, nullptr, &runtime.panicHandler,
                                               &StartMemory::Instance());
+        AppendFirstNode();
     });
 }
 
