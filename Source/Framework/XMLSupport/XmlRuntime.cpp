@@ -77,7 +77,8 @@ private:
 /// Xerces fills the table of what may stand below what when the first node is appended in the process, and has no lock
 /// for it.
 void AppendFirstNode() {
-    const DomDocumentPtr document(xercesc::DOMImplementation::getImplementation()->createDocument(&StartMemory::Instance()));
+    const DomDocumentPtr document(
+        xercesc::DOMImplementation::getImplementation()->createDocument(&StartMemory::Instance()));
     document->appendChild(document->createElement(u"first"));
 }
 
