@@ -5,7 +5,7 @@
 #include "Framework/ContainerBase/ContainerAccess.h"
 #include "Framework/ContainerBase/ListEdit.h"
 #include "Framework/ContainerCatalog.h"
-#include "Framework/FrameworkDataContainers/Walks/FieldTable.h"
+#include "Framework/FrameworkDataContainers/Walks/Children.h"
 #include "Framework/FrameworkDataContainers/Walks/Scalars.h"
 #include "Framework/XMLSupport/Utf.h"
 
@@ -90,15 +90,8 @@ TypedDataContainer* CatalogField::MakeChild(TypedDataContainer& object) const {
     if (m_pRow->child == nullptr) {
         return nullptr;
     }
-    if (TypedDataContainer* const present = m_pRow->child->get(object)) {
-        return present;
-    }
-    std::unique_ptr<TypedDataContainer> child(m_pRow->child->create());
-    child->SetContainerName(m_pRow->name.data());
-    child->SetFeatureID(object.GetFeatureID());
-    ContainerAccess::SetLookup(*child, ContainerAccess::Lookup(object));
-    m_pRow->child->store(object, child.get());
-    return child.release();
+    TypedDataContainer* const present = m_pRow->child->get(object);
+    return present != nullptr ? present : &ChildInPlace(object, *m_pRow);
 }
 
 TypedDataContainer* CatalogField::AddEntry(TypedDataContainer& object, const zelString& sKey) const {

@@ -1,6 +1,7 @@
 #include "Framework/ContainerBase/ContainerAccess.h"
 #include "Framework/ContainerBase/ListEdit.h"
 #include "Framework/ContainerBase/OverrideLog.h"
+#include "Framework/FrameworkDataContainers/Walks/Children.h"
 #include "Framework/FrameworkDataContainers/Walks/Scalars.h"
 #include "Framework/FrameworkDataContainers/Walks/Walks.h"
 #include "Framework/XMLSupport/FaultPoint.h"
@@ -105,15 +106,9 @@ private:
             child->MergeFromDataPacket(ContainerAccess::Lookup(m_object), m_featureID, m_wrapper, true);
             return;
         }
-        if (child == nullptr) {
-            child = row.child->create();
-            row.child->store(m_object, child);
-        }
-        child->SetContainerName(row.name.data());
-        child->SetFeatureID(m_object.GetFeatureID());
-        ContainerAccess::SetLookup(*child, ContainerAccess::Lookup(m_object));
-        child->SetContainedDataPtr(m_wrapper, m_tree.View(node), ContainerAccess::IsReadOnly(m_object), true);
-        ContainerAccess::SetMergeFeature(*child, m_featureID);
+        TypedDataContainer& loaded = ChildInPlace(m_object, row);
+        loaded.SetContainedDataPtr(m_wrapper, m_tree.View(node), ContainerAccess::IsReadOnly(m_object), true);
+        ContainerAccess::SetMergeFeature(loaded, m_featureID);
     }
 
     /// Does what the child's node asks for beyond the usual steps. False when these are not to follow.

@@ -1,6 +1,7 @@
 #include "Framework/ContainerBase/ContainerAccess.h"
 #include "Framework/ContainerBase/MergeControl.h"
 #include "Framework/ContainerBase/OverrideLog.h"
+#include "Framework/FrameworkDataContainers/Walks/Children.h"
 #include "Framework/FrameworkDataContainers/Walks/Scalars.h"
 #include "Framework/FrameworkDataContainers/Walks/Walks.h"
 #include "Framework/XMLSupport/FaultPoint.h"
@@ -84,15 +85,8 @@ private:
 
     /// A child that is there is used again: an element that stands twice fills one object twice.
     void TakeChild(const FieldRow& row, NodeRef node) {
-        TypedDataContainer* child = row.child->get(m_object);
-        if (child == nullptr) {
-            child = row.child->create();
-            row.child->store(m_object, child);
-        }
-        child->SetContainerName(row.name.data());
-        child->SetFeatureID(m_object.GetFeatureID());
-        ContainerAccess::SetLookup(*child, ContainerAccess::Lookup(m_object));
-        child->SetContainedDataPtr(Wrapper(), m_tree.View(node), ContainerAccess::IsReadOnly(m_object), true);
+        ChildInPlace(m_object, row)
+            .SetContainedDataPtr(Wrapper(), m_tree.View(node), ContainerAccess::IsReadOnly(m_object), true);
     }
 
     void TakeEntry(const FieldRow& row, NodeRef node) {
