@@ -187,7 +187,8 @@ void TakeApart(TypedDataContainer& object) {
     }
 }
 
-/// Where map and vector of a keyed list, or an entry's key and its key attribute, say different things.
+/// Where map and vector of a keyed list, an entry's key and its key attribute, or a field and the element name of what
+/// stands in it say different things.
 void FindDisagreements(TypedDataContainer& object, std::vector<std::string>& found) {
     using namespace Framework;
     const auto compare = [&](const FieldRow& row, auto& map, auto& entries) {
@@ -212,13 +213,17 @@ void FindDisagreements(TypedDataContainer& object, std::vector<std::string>& fou
             } else if (row.form == FieldForm::KeyedList) {
                 compare(row, object.*row.map.texts, object.*row.member.keyedTexts);
             }
-            TypedDataContainer* const child = row.child == nullptr ? nullptr : row.child->get(object);
-            if (child != nullptr) {
-                FindDisagreements(*child, found);
+            std::vector<TypedDataContainer*> below;
+            if (row.child != nullptr && row.child->get(object) != nullptr) {
+                below = {row.child->get(object)};
             } else if (row.list != nullptr && row.value == FieldValue::Container) {
-                for (TypedDataContainer* const entry : object.*row.member.entries) {
-                    FindDisagreements(*entry, found);
+                below = object.*row.member.entries;
+            }
+            for (TypedDataContainer* const each : below) {
+                if (each->GetContainerName() != std::string_view(row.name)) {
+                    found.push_back(std::string(row.name) + " is called " + each->GetContainerName());
                 }
+                FindDisagreements(*each, found);
             }
         }
     }
@@ -247,6 +252,7 @@ enum class Promise {
 enum class Leaves {
     AsItWas,          ///< in any case
     AsItWasOrInvalid, ///< one that is still valid was not touched
+    AsItWasOrMerged,  ///< one that notes no feature of a merge was not touched
     Whole,
 };
 
@@ -372,15 +378,15 @@ const Operation operations[] = {
      [](Scene& s) { return s.object->LoadFromDOMNode(nullptr, s.node, false); }},
     {"SetContainedDataPtr", Promise::EndsSomehow, Leaves::Whole, &LoadOther,
      [](Scene& s) { return s.object->SetContainedDataPtr(&s.source, nullptr, false, true); }},
-    {"MergeFromDataPacket", Promise::EndsSomehow, Leaves::Whole, &LoadOverride,
+    {"MergeFromDataPacket", Promise::EndsSomehow, Leaves::AsItWasOrMerged, &LoadOverride,
      [](Scene& s) { return s.object->MergeFromDataPacket(nullptr, std::move(s.feature), &s.source, false); }},
-    {"MergeFromFile", Promise::EndsSomehow, Leaves::Whole, &WriteFile,
+    {"MergeFromFile", Promise::EndsSomehow, Leaves::AsItWasOrMerged, &WriteFile,
      [](Scene& s) { return s.object->MergeFromFile(nullptr, kIn.c_str()); }},
-    {"MergeFromTemplate", Promise::EndsSomehow, Leaves::Whole, &Register,
+    {"MergeFromTemplate", Promise::EndsSomehow, Leaves::AsItWasOrMerged, &Register,
      [](Scene& s) { return s.object->MergeFromTemplate(nullptr, kStore, s.name.c_str()); }},
-    {"MergeFromModel", Promise::EndsSomehow, Leaves::Whole, &Register,
+    {"MergeFromModel", Promise::EndsSomehow, Leaves::AsItWasOrMerged, &Register,
      [](Scene& s) { return s.object->MergeFromModel(nullptr, kStore, s.name.c_str()); }},
-    {"MergeFromDOMNode", Promise::EndsSomehow, Leaves::Whole, &TakeDomNode,
+    {"MergeFromDOMNode", Promise::EndsSomehow, Leaves::AsItWasOrMerged, &TakeDomNode,
      [](Scene& s) { return s.object->MergeFromDOMNode(nullptr, std::move(s.feature), s.node); }},
     {"UpdateContainedData", Promise::EndsSomehow, Leaves::AsItWas, &ChangeValues,
      [](Scene& s) { return s.object->UpdateContainedData(); }, nullptr, &CheckUpdated},
@@ -705,7 +711,8 @@ public:
         }
         const std::vector<std::string> after = Samples::Lines(*scene.object);
         if (m_operation.leaves == Leaves::AsItWas ||
-            (m_operation.leaves == Leaves::AsItWasOrInvalid && !success && scene.object->Valid())) {
+            (m_operation.leaves == Leaves::AsItWasOrInvalid && !success && scene.object->Valid()) ||
+            (m_operation.leaves == Leaves::AsItWasOrMerged && scene.object->GetMergeAttributes().empty())) {
             EXPECT_EQ(after, before);
             EXPECT_EQ(Disagreements(*scene.object), disagreements);
         } else {
