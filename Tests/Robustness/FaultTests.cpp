@@ -621,7 +621,7 @@ void FailAtStep(const char* where) {
     if (stepsLeft < 0 || stepsLeft-- > 0) {
         return;
     }
-    wasRefusal = thrownKind == 0 && std::string_view(where) == "WriteNode";
+    wasRefusal = thrownKind == 0 && (std::string_view(where) == "WriteNode" || std::string_view(where) == "Find");
     switch (thrownKind) {
     case 0:
         throw std::runtime_error(where);
