@@ -333,9 +333,18 @@ struct Figures {
     double save = 0;
 };
 
+/// Whether the call only looks where a link on the way to the file leads.
+bool IsOnTheWay(const std::string& call, const std::string& path) {
+    const std::string looked = call.rfind("readlink ", 0) == 0 ? call.substr(9) : std::string();
+    return !looked.empty() && (path == looked || path.rfind(looked + "/", 0) == 0);
+}
+
 /// Judges the documents in one process after the other. The figures are those of the last.
 Figures JudgeTogether(const std::vector<Case>& cases) {
     std::set<std::string> mayBeOpened;
+    const auto isOnTheWay = [&](const std::string& call) {
+        return std::any_of(cases.begin(), cases.end(), [&](const Case& each) { return IsOnTheWay(call, each.path); });
+    };
     std::map<std::string, std::string> good; // by root
     for (const Case& each : cases) {
         std::ofstream(each.path, std::ios::binary) << each.document->text(each.size);
@@ -353,7 +362,7 @@ Figures JudgeTogether(const std::vector<Case>& cases) {
         ADD_FAILURE() << failure;
     }
     for (const std::string& call : watched.reached) {
-        EXPECT_TRUE(mayBeOpened.count(call) != 0 || IsConversion(call)) << "reached out: " << call;
+        EXPECT_TRUE(mayBeOpened.count(call) != 0 || isOnTheWay(call) || IsConversion(call)) << "reached out: " << call;
     }
     Figures figures;
     if (!watched.facts.empty()) {
@@ -415,7 +424,8 @@ TEST_F(HostileDocumentTests, FilesThatAreNoneAreRefused) {
     for (const File& file :
          {File{web, web + ": cannot open"}, File{url, url + ": cannot open"}, File{"", ": cannot open"},
           File{GetTrap().folder, GetTrap().folder + ": cannot read"},
-          File{large, large + ":1:1: the document has 1001 bytes, the limit is 1000; raise LoadLimits::bytes"},
+          File{large,
+               large + ":1:1: the document has more than 1000 bytes, the limit is 1000; raise LoadLimits::bytes"},
           File{"/dev/zero", "/dev/zero:1:1: the document has more than 1000 bytes, the limit is 1000; raise"}}) {
         SCOPED_TRACE(file.path);
         const Watched watched = RunWatched(10, [&](Watch& watch) {
@@ -428,7 +438,9 @@ TEST_F(HostileDocumentTests, FilesThatAreNoneAreRefused) {
             }
         });
         EXPECT_EQ(watched.failures, Lines());
-        EXPECT_EQ(watched.reached, Lines(2, "openat " + std::string(file.path.c_str())));
+        Lines reached = watched.reached;
+        std::erase_if(reached, [&](const std::string& call) { return IsOnTheWay(call, file.path); });
+        EXPECT_EQ(reached, Lines(2, "openat " + std::string(file.path.c_str())));
     }
     LoadLimits::SetDefault(LoadLimits());
     EXPECT_FALSE(SomebodyKnocked());
