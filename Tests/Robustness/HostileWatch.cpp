@@ -70,7 +70,7 @@ constexpr std::array kHarmless{SYS_read,        SYS_write,        SYS_pread64,  
                                SYS_futex,       SYS_rt_sigaction, SYS_rt_sigprocmask, SYS_rt_sigreturn, SYS_sigaltstack,
                                SYS_getrusage,   SYS_getpid,       SYS_clock_gettime,  SYS_gettid,       SYS_tgkill,
                                SYS_sched_yield, SYS_getrandom,    SYS_exit,           SYS_gettimeofday, SYS_exit_group,
-                               SYS_prlimit64,   SYS_getrlimit,    SYS_ftruncate,      SYS_clock_getres};
+                               SYS_prlimit64,   SYS_getrlimit,    SYS_ftruncate,      SYS_clock_getres, SYS_pipe2};
 
 struct CallName {
     long number;
