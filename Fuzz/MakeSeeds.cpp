@@ -1,4 +1,4 @@
-// Writes what `./fuzz` starts from: MakeSeeds <folder> makes <folder>/<target>/ and <folder>/<target>.dict.
+// Writes what `./fuzz` starts from: MakeSeeds <folder> makes <folder>/<target>/.
 
 #include <exception>
 #include <filesystem>
@@ -24,7 +24,6 @@ void WriteSeeds(const std::filesystem::path& folder) {
         for (const Fuzz::Seed& seed : Fuzz::SeedsOf(target)) {
             WriteText(folder / name / seed.name, seed.bytes);
         }
-        WriteText(folder / (name + ".dict"), Fuzz::DictionaryOf(target));
     }
 }
 

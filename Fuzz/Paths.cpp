@@ -12,7 +12,6 @@
 #include "Framework/XMLSupport/Utf.h"
 #include "Framework/XMLSupport/XPathFallback.h"
 #include "Framework/XMLSupport/XmlRuntime.h"
-#include "PathReadings.h"
 #include "Target.h"
 
 namespace Fuzz {
@@ -97,18 +96,6 @@ std::string Found(const XmlTree& tree, ChildIndex& index, NodeRef context, std::
     } catch (const std::runtime_error& refused) {
         Expect(*refused.what() != '\0', "a refusal says nothing");
         return "refused";
-    }
-}
-
-void ExpectReadsAsAllReadings(std::string_view query, const ParsedPath& parsed) {
-    const std::optional<ParsedPath> best = ReadByTryingAll(query);
-    if (!best.has_value()) {
-        return; // too many ways to try them all
-    }
-    Expect(parsed.kind == best->kind, "a query is read as another kind", query);
-    if (parsed.kind == PathKind::Simple) {
-        Expect(Written(parsed.path) == Written(best->path), "a query is read differently",
-               Written(parsed.path) + " instead of " + Written(best->path));
     }
 }
 
@@ -207,7 +194,6 @@ void Paths(std::string_view input) {
         input.remove_prefix(std::min(line + 1, input.size()));
 
         const ParsedPath parsed = ParseQueryPath(query);
-        ExpectReadsAsAllReadings(query, parsed);
         const std::vector<std::string> found = inDocument.Find(query, parsed);
         if (parsed.kind == PathKind::Simple) {
             Expect(inDom.Find(query, parsed) == found, "a DOM is searched differently", query);

@@ -12,11 +12,8 @@ struct Seed {
     std::string bytes;
 };
 
-/// What the fuzzing of a target begins with and its test replays: made from the example documents, from the catalogue
-/// and from the schema, and the files in Seeds/<target>; then the files in Inputs/<target>, which found a defect once.
+/// What the fuzzing of a target begins with and its test replays: made from the example documents and from the
+/// catalogue, and the files in Seeds/<target>; then the files in Inputs/<target>, which found a defect once.
 std::vector<Seed> SeedsOf(const Target& target);
-
-/// A dictionary in libFuzzer's form: the words in Dictionaries, with the names and words of all classes.
-std::string DictionaryOf(const Target& target);
 
 } // namespace Fuzz

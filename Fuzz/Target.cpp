@@ -12,8 +12,10 @@ std::vector<std::string_view> NoDocuments(std::string_view) {
 
 const std::vector<Target>& Targets() {
     static const std::vector<Target> targets{
-        {"Load", &Load, &DocumentsOfWhole}, {"Merge", &Merge, &DocumentsOfMerge},    {"Paths", &Paths, &NoDocuments},
-        {"Save", &Save, &DocumentsOfSave},  {"Schema", &Schema, &DocumentsOfSchema},
+        {"Load", &Load, &DocumentsOfWhole},
+        {"Merge", &Merge, &DocumentsOfMerge},
+        {"Paths", &Paths, &NoDocuments},
+        {"Save", &Save, &DocumentsOfSave},
     };
     return targets;
 }

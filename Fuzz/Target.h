@@ -31,14 +31,11 @@ void Paths(std::string_view input);
 /// Save what was not changed, what was, and what was changed back. The input is a byte that picks two values, the rest
 /// of its line is the text to set, and below stands the document.
 void Save(std::string_view input);
-/// Read schema files and generate from them. The input is files, each below a line "==== <name>.xsd".
-void Schema(std::string_view input);
 
 /// The documents in an input of the target, as views of it: what a mutation may treat as XML.
 std::vector<std::string_view> DocumentsOfWhole(std::string_view input);
 std::vector<std::string_view> DocumentsOfMerge(std::string_view input);
 std::vector<std::string_view> DocumentsOfSave(std::string_view input);
-std::vector<std::string_view> DocumentsOfSchema(std::string_view input);
 std::vector<std::string_view> NoDocuments(std::string_view input);
 
 struct Target {
