@@ -35,27 +35,11 @@ inline constexpr double kBombMegabytes = 40;
 
 using HostileDocuments = std::vector<HostileDocument>;
 
-HostileDocuments EntityDocuments();
-HostileDocuments ReachingDocuments(const Trap& trap);
-HostileDocuments DepthDocuments();
-HostileDocuments FloodDocuments();
-HostileDocuments CollisionDocuments();
-HostileDocuments HugeDocuments();
-HostileDocuments CharacterDocuments();
-HostileDocuments MarkupDocuments();
-
-// What the tables are made with. Whatever stands `inside` begins at line 2, column 1.
-
-/// A document of one size.
-HostileDocument Fixed(std::string name, std::string refusal, std::string text);
-
-/// Below the root, where no field is.
-std::string InRoot(std::string_view inside);
-/// In a text that an object holds as a value.
-std::string InValue(std::string_view inside);
-/// Among the attributes of an element that no field names.
-std::string InTag(std::string_view inside);
-/// Between the XML declaration and what follows, a document that begins with its root.
-std::string InProlog(std::string_view inside, std::string_view rest = InValue("x"));
+/// A group of HostileDocuments.txt.
+HostileDocuments DocumentsOf(std::string_view group, const Trap& trap = {});
+/// Every kind of broken UTF-8 in every kind of markup.
+HostileDocuments BadUtf8();
+/// Units of UTF-16 and UTF-32 that are no characters.
+HostileDocuments BadUnits();
 
 } // namespace Robustness

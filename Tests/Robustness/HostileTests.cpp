@@ -7,7 +7,6 @@
 #include "Framework/LoadLimits.h"
 #include "Robustness/HostileDocuments.h"
 #include "Robustness/HostileState.h"
-#include "Robustness/HostileTexts.h"
 #include "Robustness/HostileWatch.h"
 #include "Robustness/Sizes.h"
 
@@ -448,8 +447,8 @@ TEST_F(HostileDocumentTests, FilesThatAreNoneAreRefused) {
 
 /// In this process, where a sanitizer looks for leaks at the end.
 TEST_F(HostileDocumentTests, RefusalsLeakNothing) {
-    for (const HostileDocuments& documents : {EntityDocuments(), CharacterDocuments(), MarkupDocuments()}) {
-        for (const HostileDocument& document : documents) {
+    for (const char* const group : {"Entities", "Characters", "Markup"}) {
+        for (const HostileDocument& document : DocumentsOf(group)) {
             XMLDataWrapper wrapper;
             const bool success = wrapper.LoadXMLText(document.text(10), false);
             EXPECT_EQ(success, wrapper.GetLastError().empty()) << document.name;
@@ -458,28 +457,30 @@ TEST_F(HostileDocumentTests, RefusalsLeakNothing) {
 }
 
 TEST_F(HostileDocumentTests, EntitiesAreRefused) {
-    Judge(EntityDocuments());
+    Judge(DocumentsOf("Entities"));
 }
 TEST_F(HostileDocumentTests, NothingReachesOut) {
-    Judge(ReachingDocuments(GetTrap()));
+    Judge(DocumentsOf("Reaching", GetTrap()));
 }
 TEST_F(HostileDocumentTests, DepthIsLimited) {
-    Judge(DepthDocuments());
+    Judge(DocumentsOf("Depth"));
 }
 TEST_F(HostileDocumentTests, FloodsAreRefusedOrLinear) {
-    Judge(FloodDocuments());
+    Judge(DocumentsOf("Floods"));
 }
 TEST_F(HostileDocumentTests, CollisionsCostNothing) {
-    Judge(CollisionDocuments());
+    Judge(DocumentsOf("Collisions"));
 }
 TEST_F(HostileDocumentTests, HugePartsAreRefusedOrLinear) {
-    Judge(HugeDocuments());
+    Judge(DocumentsOf("Huge"));
 }
 TEST_F(HostileDocumentTests, BadCharactersAreRefused) {
-    Judge(CharacterDocuments());
+    Judge(DocumentsOf("Characters"));
+    Judge(BadUtf8());
+    Judge(BadUnits());
 }
 TEST_F(HostileDocumentTests, BadMarkupIsRefused) {
-    Judge(MarkupDocuments());
+    Judge(DocumentsOf("Markup"));
 }
 
 } // namespace

@@ -62,17 +62,6 @@ TEST(Attachments, OutliveTheWrapperAndTheDocumentItIsGivenNext) {
     }
 }
 
-TEST(Attachments, AnOwnedWrapperGoesWithTheLastOfThem) {
-    std::shared_ptr<Attachment> attachment = Attachment::Owning(Loaded());
-    EXPECT_TRUE(attachment->IsPrivate());
-    EXPECT_EQ(Attachment::Of(*attachment->Wrapper()), attachment);
-    EXPECT_FALSE(attachment->Wrapper()->LoadXMLText("<t/>", false));
-    EXPECT_EQ(Value(*attachment->Wrapper(), "b/a"), "inner");
-    const std::weak_ptr<const Document> document = WrapperAccess::State(*attachment->Wrapper()).document;
-    attachment.reset();
-    EXPECT_TRUE(document.expired());
-}
-
 TEST(Attachments, AScopeMovesWhatCameInBetween) {
     auto wrapper = Loaded();
     const std::shared_ptr<Attachment> before = Attachment::Of(*wrapper);
@@ -100,52 +89,6 @@ TEST(Attachments, AScopeMovesWhatCameInBetween) {
     wrapper.reset();
     EXPECT_EQ(Value(*before->Wrapper(), "a"), "edited"); // on the node where the wrapper died
     EXPECT_EQ(Value(moved, "a"), "inner");
-}
-
-TEST(Attachments, AScopeEndsWellWhenNothingOrALoadCameInBetween) {
-    const auto wrapper = Loaded();
-    { const AttachmentScope scope(*wrapper); }
-    EXPECT_TRUE(WrapperAccess::State(*wrapper).attachment.expired());
-    std::shared_ptr<Attachment> during;
-    {
-        const AttachmentScope scope(*wrapper);
-        during = Attachment::Of(*wrapper);
-        EXPECT_TRUE(wrapper->LoadXMLText("<s/>", false));
-    }
-    EXPECT_EQ(Value(*during->Wrapper(), "b/a"), "inner");
-    EXPECT_TRUE(wrapper->NodeExists("//s", true));
-}
-
-/// Many threads may load from it at once: nothing of the wrapper may change.
-TEST(Attachments, ToAReadOnlyDocumentAreOnesOwnForEveryTree) {
-    for (const bool isReloaded : {false, true}) {
-        auto wrapper = std::make_unique<XMLDataWrapper>();
-        ASSERT_TRUE(wrapper->LoadXMLText(kXml, true));
-        wrapper->SelectNode("b", false);
-        const std::shared_ptr<Attachment> trees[] = {Attachment::ForTree(*wrapper), Attachment::ForTree(*wrapper),
-                                                     Attachment::Of(*wrapper)};
-        EXPECT_TRUE(WrapperAccess::State(*wrapper).attachment.expired());
-        const std::shared_ptr<Attachment> copy = Attachment::ForCopy(trees[0]);
-        EXPECT_NE(trees[0]->Wrapper(), trees[1]->Wrapper());
-        EXPECT_NE(trees[0]->Wrapper(), copy->Wrapper());
-        EXPECT_EQ(Attachment::Of(*trees[0]->Wrapper()), trees[0]); // what parts of the tree share
-        for (const auto& attachment : {trees[0], trees[1], trees[2], copy}) {
-            EXPECT_EQ(attachment->ShownWrapper(), wrapper.get());
-            EXPECT_NE(attachment->Wrapper(), wrapper.get());
-        }
-        if (isReloaded) {
-            EXPECT_FALSE(wrapper->LoadXMLText("<s", true));
-            EXPECT_EQ(copy->ShownWrapper(), wrapper.get());
-            EXPECT_TRUE(wrapper->LoadXMLText("<s/>", true));
-        } else {
-            wrapper.reset();
-        }
-        for (const auto& attachment : {trees[0], trees[1], trees[2], copy}) {
-            EXPECT_EQ(attachment->ShownWrapper(), attachment->Wrapper());
-            EXPECT_EQ(Value(*attachment->Wrapper(), "a", true), "of r");
-            EXPECT_FALSE(attachment->Wrapper()->LoadXMLText("<t/>", false));
-        }
-    }
 }
 
 } // namespace

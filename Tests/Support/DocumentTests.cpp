@@ -184,26 +184,6 @@ TEST(Document, ReadsOddButWellFormedDocuments) {
     }
 }
 
-TEST(Document, AnswersForNoNodeAndForKindsWithoutTheThingAsked) {
-    const auto document = Parse("<a k='v'>t</a>");
-    const NodeRef attribute = document->FirstAttribute(document->Root());
-    const NodeRef text = document->FirstChild(document->Root());
-    for (const NodeRef node : {NodeRef::None, attribute, text}) {
-        EXPECT_EQ(document->FirstChild(node), NodeRef::None);
-        EXPECT_EQ(document->LastChild(node), NodeRef::None);
-        EXPECT_EQ(document->FirstAttribute(node), NodeRef::None);
-    }
-    std::string room;
-    EXPECT_EQ(document->Kind(NodeRef::None), NodeKind::None);
-    EXPECT_EQ(document->Value(NodeRef::None, room), "");
-    EXPECT_EQ(document->Value(document->Root(), room), "");
-    EXPECT_EQ(document->Name(text), "");
-    EXPECT_EQ(document->Parent(attribute), document->Root());
-    EXPECT_EQ(document->Parent(document->DocumentNode()), NodeRef::None);
-    EXPECT_EQ(document->NumberOfName("absent"), 0U);
-    EXPECT_EQ(document->StartTag(text).Size(), 0U);
-}
-
 TEST(Document, CountsLinesAndColumnsAsPeopleDo) {
     const auto document =
         Parse("<a>\r\n\t<b/>\r<c/>\n\n \xC3\xA4\xF0\x9F\x99\x82<d k='1'/>" + std::string(600, 'x') + "<e/></a>");
@@ -229,58 +209,6 @@ TEST(Document, CountsLinesAndColumnsAsPeopleDo) {
     EXPECT_EQ(document->PlaceAt(1U << 30U), document->PlaceAt(document->Source().size()));
 }
 
-std::string Encoded(std::string_view text, const std::string& encoding, bool mark) {
-    const auto bytes = EncodeDocument(text, encoding, mark);
-    EXPECT_TRUE(bytes.has_value()) << encoding;
-    return bytes.value_or("");
-}
-
-TEST(Document, ReadsEveryEncodingAndKeepsItsBytes) {
-    struct Case {
-        std::string declared; // empty: no declaration
-        std::string encoding;
-        bool mark;
-        std::string text;
-    };
-    const std::string any = "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x99\x82";
-    const Case cases[] = {
-        {"", "UTF-8", false, any},
-        {"", "UTF-8", true, any},
-        {"utf-8", "UTF-8", true, any},
-        {"", "UTF-16LE", true, any},
-        {"UTF-16", "UTF-16BE", true, any},
-        {"UTF-16", "UTF-16LE", false, any},
-        {"", "UTF-16BE", false, any},
-        {"utf-32", "UTF-32LE", true, any},
-        {"", "UTF-32BE", true, any},
-        {"UTF-32BE", "UTF-32BE", false, any},
-        {"UTF-32", "UTF-32LE", false, any},
-        {"US-ASCII", "US-ASCII", false, "plain"},
-        {"ISO-8859-1", "ISO-8859-1", false, "\xC3\xA4\xC3\xBF"},
-        {"windows-1252", "windows-1252", false, "\xE2\x82\xAC\xE2\x80\x93"},
-        {"Shift_JIS", "Shift_JIS", false, "\xE3\x83\x86\xE3\x82\xB9\xE3\x83\x88"},
-        {"EUC-JP", "EUC-JP", false, "\xE3\x83\x86"},
-    };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.encoding + (each.mark ? " with mark, declared " : " declared ") + each.declared);
-        const std::string declaration =
-            each.declared.empty() ? "" : "<?xml version=\"1.0\" encoding='" + each.declared + "'?>\n";
-        const std::string text = declaration + "<a k='" + each.text + "'>" + each.text + "</a>";
-        const std::string bytes = Encoded(text, each.encoding, each.mark);
-        const auto document = Parse(bytes);
-        EXPECT_EQ(document->Source(), text);
-        EXPECT_EQ(document->EncodingName(), each.encoding);
-        EXPECT_EQ(document->HasByteOrderMark(), each.mark);
-        EXPECT_EQ(Dump(*document, document->Root(), false), "a( k='" + each.text + "'|\"" + each.text + "\")");
-        EXPECT_EQ(document->Bytes(), bytes);
-        EXPECT_EQ(EncodeDocument(document->Source(), document->EncodingName(), document->HasByteOrderMark()), bytes);
-        EXPECT_EQ(document->PlaceOf(document->Root()), (Place{each.declared.empty() ? 1U : 2U, 1}));
-    }
-    EXPECT_EQ(EncodeDocument("\xE2\x82\xAC", "ISO-8859-1", false), std::nullopt);
-    EXPECT_EQ(Parse("<?xml version='1.0' encoding='Shift_JIS'?><a>\x83\x65</a>"s)->Source().substr(45, 3),
-              "\xE3\x83\x86");
-}
-
 TEST(Document, ReadsRandomDocumentsAsTheyWereWritten) {
     for (unsigned seed = 0; seed < 300; ++seed) {
         RandomWriter writer(seed);
@@ -292,66 +220,6 @@ TEST(Document, ReadsRandomDocumentsAsTheyWereWritten) {
         if (HasFatalFailure()) {
             return;
         }
-    }
-}
-
-TEST(Document, RefusesEveryPrefixAndSurvivesEveryFlippedBit) {
-    const std::string whole =
-        "<?xml version=\"1.0\" encoding='UTF-8'?>\n<!--c--><a k='v &lt; \xC3\xA4'>\r\n<b>&#65;]]</b>"
-        "<![CDATA[<x>]]><?p q?></a>";
-    for (std::size_t length = 0; length < whole.size(); ++length) {
-        ASSERT_THROW(Parse(whole.substr(0, length)), ParseError) << length;
-    }
-    for (std::size_t bit = 0; bit < whole.size() * 8; ++bit) {
-        std::string broken = whole;
-        broken[bit / 8] = static_cast<char>(broken[bit / 8] ^ (1 << (bit % 8)));
-        try {
-            CheckTree(*Parse(broken));
-        } catch (const ParseError& error) {
-            ASSERT_GE(error.Where().line, 1U);
-        }
-    }
-}
-
-TEST(Document, HoldsManyNodesAndNames) {
-    std::string text = "<list>";
-    for (int number = 0; number < 200'000; ++number) {
-        text += "<e" + std::to_string(number % 50'000) + " k='" + std::to_string(number) + "'/>";
-    }
-    text += "</list>";
-    const auto document = Parse(text);
-    EXPECT_EQ(document->NodeCount(), 400'002U);
-    std::string room;
-    int number = 199'999;
-    for (NodeRef each = document->LastChild(document->Root()); each != NodeRef::None;
-         each = document->PreviousSibling(each)) {
-        ASSERT_EQ(document->Name(each), "e" + std::to_string(number % 50'000));
-        ASSERT_EQ(document->Value(document->FirstAttribute(each), room), std::to_string(number--));
-    }
-    EXPECT_EQ(number, -1);
-    CheckTree(*document);
-}
-
-TEST(Document, IsReadByManyThreadsAtOnce) {
-    const auto document = Parse("<a>\n<b k='1'/>\n<c/></a>");
-    const Place expected{3, 1};
-    const NodeRef last = document->LastChild(document->Root());
-    std::vector<XALAN_CPP_NAMESPACE::XalanNode*> views(4);
-    std::vector<Place> places(4);
-    std::vector<std::thread> threads;
-    for (std::size_t number = 0; number < views.size(); ++number) {
-        threads.emplace_back([&, number] {
-            places[number] = document->PlaceOf(last);
-            views[number] = document->View(last);
-        });
-    }
-    for (std::thread& thread : threads) {
-        thread.join();
-    }
-    for (std::size_t number = 0; number < views.size(); ++number) {
-        EXPECT_EQ(places[number], expected);
-        EXPECT_NE(views[number], nullptr);
-        EXPECT_EQ(views[number], views[0]);
     }
 }
 

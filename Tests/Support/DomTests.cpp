@@ -158,17 +158,6 @@ TEST(NodeViews, ShowTheTreeAndLeadBackToIt) {
     EXPECT_EQ(NodeViews::Find(nullptr, found), NodeRef::None);
 }
 
-TEST(NodeViews, NamesAreDivided) {
-    const auto tree = Load("<p:a xmlns:q='u'>t</p:a>");
-    const XalanNode* const root = tree->View(tree->Root());
-    EXPECT_EQ(Utf8(root->getNodeName()) + "|" + Utf8(root->getPrefix()) + "|" + Utf8(root->getLocalName()), "p:a|p|a");
-    EXPECT_TRUE(root->getNamespaceURI().empty());
-    EXPECT_EQ(Utf8(root->getFirstChild()->getNodeName()), "#text");
-    EXPECT_TRUE(root->getFirstChild()->getLocalName().empty());
-    EXPECT_LT(root->getIndex(), root->getAttributes()->item(0)->getIndex());
-    EXPECT_LT(root->getAttributes()->item(0)->getIndex(), root->getFirstChild()->getIndex());
-}
-
 TEST(NodeViews, OfADomFollowItsChanges) {
     const DomTree tree(BuildDom(*Load("<a k='1'>old</a>")));
     const XalanNode* const root = tree.View(tree.Root());
@@ -189,32 +178,6 @@ TEST(NodeViews, OfADomFollowItsChanges) {
         DOMNode* const child = dom->appendChild(tree.Document()->createElement(name));
         EXPECT_EQ(ViewText(*root->getLastChild()), TreeText(tree, DomTree::Ref(child)));
         dom->removeChild(child)->release();
-    }
-}
-
-TEST(NodeViews, ManyThreadsReadOneDocument) {
-    std::string xml = "<r>";
-    for (int i = 0; i < 2000; ++i) {
-        xml += "<e k='" + std::to_string(i) + "' l='x'>t" + std::to_string(i) + "<!--c--></e>";
-    }
-    const auto tree = Load(xml + "</r>");
-    const std::string expected = TreeText(*tree);
-    std::vector<std::string> texts(4);
-    std::vector<const XalanNode*> roots(texts.size());
-    std::vector<std::thread> threads;
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        threads.emplace_back([&, i] {
-            texts[i] = ViewText(*tree->View(tree->DocumentNode()));
-            roots[i] = tree->View(tree->Root());
-            EXPECT_EQ(EvaluateXPath(*tree, tree->Root(), "//e[@k='1999']"), tree->LastChild(tree->Root()));
-        });
-    }
-    for (std::thread& thread : threads) {
-        thread.join();
-    }
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        EXPECT_EQ(texts[i], expected);
-        EXPECT_EQ(roots[i], roots[0]);
     }
 }
 

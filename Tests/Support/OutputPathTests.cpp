@@ -89,23 +89,5 @@ TEST(OutputPath, AWalkFindsWhatCameSinceItBegan) {
     EXPECT_EQ(wrapper.FindOutputNode("//r/list[@k='a' ]/e[61]", true, true), nullptr);
 }
 
-TEST(OutputPath, WritingReplacesDirectTextOnly) {
-    const char* const cases[][3] = {
-        {"<r/>", "x", "<r>x</r>"},
-        {"<r>a<b>c</b>d<!--e--></r>", "<x>", "<r>&lt;x&gt;<b>c</b><!--e--></r>"},
-        {"<r><b/>a<![CDATA[c]]></r>", "x", "<r><b/><![CDATA[x]]></r>"},
-        {"<r>a<b/></r>", "", "<r><b/></r>"},
-    };
-    for (const auto& [before, text, after] : cases) {
-        FullFunctionXMLDataWrapper wrapper;
-        ASSERT_TRUE(wrapper.LoadXMLText(before, false));
-        ASSERT_NE(wrapper.GetDOMNode(true, false), nullptr);
-        EXPECT_TRUE(wrapper.SetQueryValue("", text, false));
-        EXPECT_NE(wrapper.GetXMLText().find(after), std::string::npos) << wrapper.GetXMLText();
-        EXPECT_FALSE(wrapper.SetQueryValue("", "\x01", false));
-        EXPECT_NE(wrapper.GetXMLText().find(after), std::string::npos) << wrapper.GetXMLText();
-    }
-}
-
 } // namespace
 } // namespace Framework

@@ -59,27 +59,18 @@ TEST(ZelString, UsualExpressionsFindOneMeaning) {
 TEST(ZelString, TakesEveryKindOfText) {
     const char* pNull = nullptr;
     const XMLCh* pWideNull = nullptr;
-    EXPECT_TRUE(zelString(pNull).empty() && zelString(pWideNull).empty() && zelString(nullptr).empty());
-    EXPECT_EQ(zelString(u"gr\u00FC\u00DFe"), "gr\xC3\xBC\xC3\x9F"
-                                             "e");
+    EXPECT_TRUE(zelString(pNull).empty() && zelString(pWideNull).empty() && zelString(pNull, 0).empty());
     EXPECT_EQ(zelString("abc", 2), "ab");
-    EXPECT_EQ(zelString(pNull, 0), "");
-
     zelString text = "start of some length, past the small buffer";
     text = text.c_str() + 6;
     EXPECT_EQ(text, "of some length, past the small buffer");
-    text = u"wide";
-    EXPECT_EQ(text, "wide");
-    text = pWideNull;
-    EXPECT_EQ(text, "");
+    text = u"gr\u00FC\u00DFe";
+    EXPECT_EQ(text, "gr\xC3\xBC\xC3\x9F"
+                    "e");
     text = std::string("std");
-    zelString moved = std::move(text);
-    EXPECT_EQ(moved, "std");
-    moved = pNull;
-    EXPECT_EQ(moved, "");
-    moved = "x";
-    moved = nullptr;
-    EXPECT_EQ(moved, "");
+    EXPECT_EQ(text, "std");
+    text = nullptr;
+    EXPECT_EQ(text, "");
 }
 
 TEST(ZelString, FormatGrowsToWhatItNeeds) {
@@ -151,27 +142,10 @@ void ForEveryOffset(const auto& check) {
 }
 
 TEST(Utf, RefusesWhatIsNotUtf8) {
-    const char* malformed[] = {"\x80",
-                               "\xBF",
-                               "\xC0\x80",
-                               "\xC1\xBF",
-                               "\xC3",
-                               "\xC3(",
-                               "\xE0\x80\x80",
-                               "\xE0\x9F\xBF",
-                               "\xE2\x82",
-                               "\xE2(\xAC",
-                               "\xE2\x82(",
-                               "\xED\xA0\x80",
-                               "\xED\xBF\xBF",
-                               "\xF0\x8F\xBF\xBF",
-                               "\xF0\x9F\x92",
-                               "\xF0\x9F\x92(",
-                               "\xF4\x90\x80\x80",
-                               "\xF5\x80\x80\x80",
-                               "\xF8\x88\x80\x80\x80",
-                               "\xFE",
-                               "\xFF"};
+    const char* malformed[] = {"\x80",          "\xC0\x80",         "\xC3",
+                               "\xC3(",         "\xE0\x9F\xBF",     "\xE2\x82",
+                               "\xE2\x82(",     "\xED\xA0\x80",     "\xF0\x8F\xBF\xBF",
+                               "\xF0\x9F\x92(", "\xF4\x90\x80\x80", "\xFF"};
     for (const char* bad : malformed) {
         ForEveryOffset([bad](const std::string& before, std::size_t offset) {
             for (const std::string& text : {before + std::string(bad), before + std::string(bad) + "behind it"}) {
@@ -190,37 +164,13 @@ TEST(Utf, RefusesWhatIsNotUtf8) {
 }
 
 TEST(Utf, TellsWhatXmlAllows) {
-    const struct {
-        std::string_view character;
-        bool allowed;
-    } table[] = {{"\t"sv, true},
-                 {"\n"sv, true},
-                 {"\r"sv, true},
-                 {"\0"sv, false},
-                 {"\x01"sv, false},
-                 {"\x08"sv, false},
-                 {"\x0B"sv, false},
-                 {"\x1F"sv, false},
-                 {" "sv, true},
-                 {"\x7F"sv, true},
-                 {"\xC2\x80"sv, true},
-                 {"\xED\x9F\xBF"sv, true},
-                 {"\xEE\x80\x80"sv, true},
-                 {"\xEF\xBF\xBD"sv, true},
-                 {"\xEF\xBF\xBE"sv, false},
-                 {"\xEF\xBF\xBF"sv, false},
-                 {"\xF0\x90\x80\x80"sv, true},
-                 {"\xF0\x9F\xBF\xBF"sv, true},
-                 {"\xF4\x8F\xBF\xBF"sv, true}};
-    for (const auto& [character, allowed] : table) {
-        ForEveryOffset([c = character, ok = allowed](const std::string& before, std::size_t offset) {
-            const std::string text = before + std::string(c) + "behind it";
-            EXPECT_EQ(Framework::FindNonXmlText(text), ok ? std::string::npos : offset);
-            EXPECT_EQ(Framework::IsXmlText(text), ok);
-            EXPECT_EQ(Framework::FindInvalidUtf8(text), std::string::npos);
-        });
-    }
-    EXPECT_TRUE(Framework::IsXmlText({}));
+    ForEveryOffset([](const std::string& before, std::size_t offset) {
+        for (const std::string_view no : {"\0"sv, "\x08"sv, "\x0B"sv, "\x1F"sv, "\xEF\xBF\xBE"sv, "\xEF\xBF\xBF"sv}) {
+            EXPECT_EQ(Framework::FindNonXmlText(before + std::string(no) + "behind it"), offset);
+        }
+        EXPECT_TRUE(Framework::IsXmlText(before + "\t\n\r \x7F\xC2\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBD"
+                                                  "\xF0\x9F\xBF\xBF"));
+    });
 }
 
 TEST(Utf, EveryCharacterConvertsThereAndBack) {

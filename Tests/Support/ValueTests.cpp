@@ -10,8 +10,6 @@
 
 #include "Framework/ParameterList.h"
 #include "Framework/SupportFunc.h"
-#include "Framework/TypedDataEnumeration.h"
-#include "Framework/XMLSupport/EnumerationWords.h"
 #include "Framework/ZelString.h"
 
 namespace {
@@ -50,32 +48,20 @@ TEST(SupportFunc, ReadsInts) {
     const struct {
         std::string_view text;
         int value;
-    } table[] = {{"0", 0},
-                 {"12", 12},
+    } table[] = {{"12", 12},
                  {" \t\r\n-12\n ", -12},
                  {"+7", 7},
-                 {"007", 7},
                  {"2147483647", Most},
                  {"2147483648", Most},
                  {"-2147483648", Least},
                  {"-2147483649", Least},
-                 {"99999999999999999999999", Most},
                  {"-99999999999999999999999", Least},
                  {"", 0},
-                 {" ", 0},
-                 {"+", 0},
                  {"-", 0},
                  {"+-5", 0},
-                 {"--5", 0},
-                 {"+ 5", 0},
-                 {"12.0", 0},
                  {"0x10", 0},
-                 {"1e3", 0},
                  {"12 13", 0},
-                 {"12a", 0},
                  {"1,000", 0},
-                 {"1.000", 0},
-                 {"99999999999x", 0},
                  {"\v5", 0},
                  {"5\0"sv, 0},
                  {"\xEF\xBC\x95", 0}};
@@ -98,39 +84,22 @@ TEST(SupportFunc, ReadsDoubles) {
                  {".5", 0.5},
                  {"5.", 5},
                  {"1e3", 1000},
-                 {"1E+3", 1000},
-                 {"12", 12},
                  {"4.9e-324", 4.9e-324},
                  {"1.7976931348623157e308", Most},
                  {"1e309", Most},
-                 {"-1e309", -Most},
                  {"1" + zeros, Most},
-                 {"-1" + zeros, -Most},
-                 {"0.0001e+999", Most},
                  {"1" + zeros + "e-20", Most},
                  {"1e99999999999999999999", Most},
-                 {"1e9223372036854775807", Most},
                  {"1e-400", 0},
-                 {"0." + zeros + "1e+20", 0},
                  {"1e-99999999999999999999", 0},
-                 {"0e999", 0},
                  {"0." + zeros + "1e405", 1e4},
                  {"INF", Infinity},
-                 {"-INF", -Infinity},
                  {"+inf", Infinity},
-                 {"Infinity", Infinity},
                  {"", 0},
-                 {".", 0},
                  {"1,5", 0},
-                 {"1.5.2", 0},
-                 {"1e", 0},
                  {"0x1p3", 0},
                  {"+-1", 0},
-                 {"abc", 0},
-                 {"1.5f", 0},
-                 {"nan(1)", 0},
-                 {"infinit", 0},
-                 {"1e999x", 0}};
+                 {"nan(1)", 0}};
     for (const auto& [text, value] : table) {
         EXPECT_EQ(SupportFunc::GetDoubleValue(text), value) << text;
     }
@@ -146,18 +115,14 @@ TEST(SupportFunc, WritesNumbersThatReadBack) {
     const struct {
         double value;
         const char* text;
-    } table[] = {{0, "0"},
-                 {-0.0, "-0"},
+    } table[] = {{-0.0, "-0"},
                  {1.5, "1.5"},
                  {0.1, "0.1"},
-                 {100000, "100000"},
                  {1234567.25, "1234567.25"},
-                 {-3, "-3"},
                  {1e14, "100000000000000"},
                  {1e15, "1e+15"},
                  {0.00001, "0.00001"},
                  {1e-6, "1e-06"},
-                 {5e-324, "5e-324"},
                  {0.1 + 0.2, "0.30000000000000004"},
                  {std::numeric_limits<double>::max(), "1.7976931348623157e+308"},
                  {std::numeric_limits<double>::infinity(), "INF"},
@@ -194,122 +159,22 @@ TEST(ParameterList, CopiesWhatItIsGiven) {
     {
         const zelString text = "value";
         const long longValue = -5;
-        const bool boolValue = true;
-        const int intValue = 6;
         const double doubleValue = 0.5;
-        const char character = 'c';
         list.Add(&text, dcString, "Name", false);
-        list.Add(&longValue, dcLong, "l", false);
-        list.Add(&boolValue, dcBool, "b", false);
-        list.Add(&intValue, dcInt, "i", false);
+        list.Add(&longValue, dcLong, "l", true);
         list.Add(&doubleValue, dcDouble, "d", false);
-        list.Add(&character, dcChar, "c", true);
         list.Add("buffer", dcCharBuff, nullptr, false);
-        list.Add("fixed", dcFixedChar, "f", false);
         list.Add(nullptr, dcString, "none", false);
-        list.Add(&list, dcTypdeDCPtr, "p", false);
     }
-    ASSERT_EQ(list.size(), 10U);
-    EXPECT_EQ(list.ItemData(10), nullptr);
+    ASSERT_EQ(list.size(), 5U);
+    EXPECT_EQ(list.ItemData(5), nullptr);
     const ParameterList::ParameterDataType& first = *list.ItemData(0);
     EXPECT_TRUE(first.ElementName == "Name" && first.dcType == dcString && first.strValue == "value" &&
                 !first.RequiresDelete);
-    EXPECT_EQ(list.ItemData(1)->lValue, -5);
-    EXPECT_TRUE(list.ItemData(2)->bValue);
-    EXPECT_EQ(list.ItemData(3)->iValue, 6);
-    EXPECT_EQ(list.ItemData(4)->dValue, 0.5);
-    EXPECT_TRUE(list.ItemData(5)->cValue == 'c' && list.ItemData(5)->RequiresDelete);
-    EXPECT_TRUE(list.ItemData(6)->chBuffer == "buffer"sv && list.ItemData(6)->FixedLen == 7);
-    EXPECT_TRUE(list.ItemData(7)->tcValue == "fixed"sv);
-    EXPECT_EQ(list.ItemData(8)->strValue, "");
-    EXPECT_EQ(static_cast<void*>(list.ItemData(9)->pTDC), &list);
-}
-
-/// An enumeration class as the generator writes them, over a vocabulary with a gap.
-class StopBits : public TypedDataEnumeration {
-public:
-    enum ContainedValues { VALUE_UNKNOWN = -1, ONE = 0, TWO = 2, VALUE_END_OF_LIST };
-
-    StopBits() : m_Value(VALUE_UNKNOWN) {}
-    StopBits(const int& value) : m_Value(value) {}
-    StopBits(const ContainedValues& value) : m_Value(value) {}
-    StopBits(LPCTSTR szVal) : StopBits() { StopBits::AssignValue(szVal); }
-    StopBits(const StopBits&) = default;
-
-    StopBits& operator=(const StopBits&) = default;
-    StopBits& operator=(const int& value) {
-        m_Value = value;
-        return *this;
-    }
-    StopBits& operator=(const ContainedValues& value) {
-        m_Value = value;
-        return *this;
-    }
-    StopBits& operator=(LPCTSTR sVal) override {
-        AssignValue(sVal);
-        return *this;
-    }
-
-    int Value() const { return m_Value; }
-    operator int() const { return m_Value; }
-    operator ContainedValues() const { return static_cast<ContainedValues>(m_Value); }
-    bool operator==(const StopBits& other) const { return m_Value == other.m_Value; }
-    bool operator==(const int& value) const { return m_Value == value; }
-    bool operator==(const ContainedValues& value) const { return m_Value == static_cast<int>(value); }
-    bool operator==(LPCTSTR _Cmp) const override { return Framework::IsWordOf(Words, m_Value, _Cmp); }
-    zelString StringOf() const override { return Framework::WordOf(Words, m_Value); }
-    static void GetContainedValueList(std::vector<zelString>& pList) { Framework::AppendWords(Words, pList); }
-
-protected:
-    void AssignValue(LPCTSTR szVal) override { m_Value = Framework::NumberOf(Words, szVal); }
-    int m_Value;
-
-private:
-    static constexpr Framework::EnumerationWord Words[] = {{"ONE", ONE}, {"TWO", TWO}};
-};
-
-TEST(Enumeration, EveryKindOfValueFindsItsMeaning) {
-    const zelString two = "TWO";
-    EXPECT_EQ(StopBits(0).Value(), 0);
-    EXPECT_EQ(StopBits(nullptr).Value(), -1);
-    EXPECT_EQ(StopBits().Value(), -1);
-    EXPECT_EQ(StopBits(two).Value(), 2);
-    EXPECT_EQ(StopBits(StopBits::TWO).Value(), 2);
-
-    StopBits bits = "TWO";
-    const StopBits same = bits;
-    const int number = bits;
-    const StopBits::ContainedValues value = bits;
-    EXPECT_TRUE(number == 2 && value == StopBits::TWO);
-    EXPECT_TRUE(bits == same && bits == 2 && bits == StopBits::TWO && bits == "TWO" && bits == two && "TWO" == bits &&
-                2 == bits);
-    EXPECT_TRUE(bits != 0 && bits != "ONE" && bits != StopBits::ONE && !(bits == nullptr) && bits != StopBits(0));
-    bits = 0;
-    EXPECT_TRUE(bits == "ONE" && bits == 0);
-    bits = two;
-    EXPECT_EQ(bits.Value(), 2);
-    bits = nullptr;
-    EXPECT_EQ(bits.Value(), -1);
-    bits = StopBits::ONE;
-    bits = same;
-    EXPECT_EQ(bits.Value(), 2);
-}
-
-TEST(Enumeration, WordsAndNumbers) {
-    for (const char* text : {"one", "ON", "ONES", " ONE", "", "2"}) {
-        EXPECT_EQ(StopBits(text).Value(), -1) << text;
-    }
-    for (const int number : {-1, 1, 3, -2, 99}) {
-        const StopBits bits(number);
-        EXPECT_TRUE(bits.Value() == number && bits.StringOf() == "" && bits == "" && bits == nullptr);
-    }
-    StopBits bits("ONE");
-    TypedDataEnumeration& base = bits;
-    EXPECT_EQ(&(base = "TWO"), &base);
-    EXPECT_TRUE(base == "TWO" && base.StringOf() == "TWO" && bits.Value() == 2);
-    std::vector<zelString> list{"before"};
-    StopBits::GetContainedValueList(list);
-    EXPECT_EQ(list, (std::vector<zelString>{"before", "ONE", "TWO"}));
+    EXPECT_TRUE(list.ItemData(1)->lValue == -5 && list.ItemData(1)->RequiresDelete);
+    EXPECT_EQ(list.ItemData(2)->dValue, 0.5);
+    EXPECT_TRUE(list.ItemData(3)->chBuffer == "buffer"sv && list.ItemData(3)->FixedLen == 7);
+    EXPECT_EQ(list.ItemData(4)->strValue, "");
 }
 
 } // namespace

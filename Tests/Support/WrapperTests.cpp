@@ -170,40 +170,6 @@ TEST_F(WrapperFiles, AFailedLoadKeepsTheOldDocument) {
     EXPECT_FALSE(wrapper->NodeExists("//r", true));
 }
 
-TEST_F(WrapperFiles, AnUntouchedDocumentKeepsItsBytes) {
-    const auto utf16 = [](std::u16string_view text, bool bigEndian) {
-        std::string bytes;
-        for (const char16_t unit : text) {
-            const char halves[] = {static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)};
-            bytes += halves[bigEndian ? 1 : 0];
-            bytes += halves[bigEndian ? 0 : 1];
-        }
-        return bytes;
-    };
-    const std::u16string wide = u"\uFEFF<?xml version='1.0' encoding='UTF-16'?>\r\n<r a = \"\u00E9\">\U0001F600</r >\r";
-    const std::string documents[] = {
-        "<r/>",
-        "\xEF\xBB\xBF<?xml version=\"1.0\"?>\r\n<!-- c --><r b='2' a=\"1\" ><x></x><![CDATA[]]>&#10;\r</r>\n<?p?>\n\n",
-        utf16(wide, false),
-        utf16(wide, true),
-        "<?xml version='1.0' encoding='ISO-8859-1'?><r a='\xE9'>\xFC</r>",
-    };
-    for (const std::string& bytes : documents) {
-        for (const bool readOnly : {false, true}) {
-            const auto wrapper = Loaded(bytes, readOnly);
-            Value(*wrapper, "@a");
-            wrapper->SelectNode("", false);
-            EXPECT_EQ(wrapper->GetXMLText(), bytes);
-            ASSERT_TRUE(wrapper->SaveXMLFile(Path("saved.xml").c_str())) << wrapper->GetLastError();
-            XMLDataWrapper again;
-            ASSERT_TRUE(again.LoadXMLFile(Path("saved.xml").c_str(), readOnly)) << again.GetLastError();
-            EXPECT_EQ(again.GetXMLText(), bytes);
-        }
-    }
-    EXPECT_EQ(Value(*Loaded(documents[2]), "@a") + Value(*Loaded(documents[3]), "", true), "\xC3\xA9\xF0\x9F\x98\x80");
-    EXPECT_EQ(Value(*Loaded(documents[4]), "@a") + Value(*Loaded(documents[4]), "", true), "\xC3\xA9\xC3\xBC");
-}
-
 TEST(Wrapper, AskingForADomNodeMakesTheDomTheMaster) {
     const auto wrapper = Loaded();
     wrapper->LoadNodeList("a", "list", 0);

@@ -93,24 +93,6 @@ TEST(XmlWriter, CDataIsClosedOnlyWhereItMust) {
     }
 }
 
-TEST(XmlWriter, DocumentsSurviveWriting) {
-    const char* const documents[] = {
-        "<a/>",
-        ("<?pi data?><!-- c --><a b='1' a='&#10;&lt;\"'>t<b/> "
-         "<![CDATA[]]>x<![CDATA[y]]><!----><?p?><c>&#13;\n</c></a><!--e-->"),
-        "<p:a xmlns:q='u' p:k='v'><q:b/><:c/></p:a>",
-        "<a>\n  <b/>\n  <b> </b>\n</a>",
-        "<\xC3\xA4 \xCE\xB1='1'/>",
-    };
-    for (const char* const document : documents) {
-        const auto tree = Load(document);
-        const std::string written = WriteXml(*tree, tree->DocumentNode());
-        const auto read = Load(written);
-        EXPECT_EQ(TreeText(*read), TreeText(*tree));
-        EXPECT_EQ(WriteXml(*read, read->DocumentNode()), written);
-    }
-}
-
 /// Content of any shape, with neighbouring texts, which only a DOM can hold.
 void Grow(DOMDocument& document, DOMElement& parent, std::minstd_rand& random, int depth) {
     const auto& texts = NastyTexts();
@@ -176,14 +158,6 @@ TEST(XmlWriter, IndentsWhereNoTextStands) {
         const auto read = Load(written);
         EXPECT_EQ(WriteXml(*read, read->DocumentNode(), kIndented), expected);
     }
-}
-
-TEST(XmlWriter, WritesSubtreesAndTheDeclaration) {
-    const auto tree = Load("<a><b k='1'><c/></b></a>");
-    const NodeRef b = tree->FirstChild(tree->Root());
-    EXPECT_EQ(WriteXml(*tree, b, kBare), "<b k=\"1\"><c/></b>");
-    EXPECT_EQ(WriteXml(*tree, b, kIndented), "<b k=\"1\">\n  <c/>\n</b>");
-    EXPECT_EQ(WriteXml(*tree, tree->DocumentNode()).find("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a>"), 0U);
 }
 
 struct Refusal {
@@ -261,21 +235,6 @@ TEST(XmlWriter, EveryNameItLetsThroughLoads) {
     EXPECT_FALSE(IsXmlName(""));
     EXPECT_FALSE(IsXmlName("1a"));
     EXPECT_FALSE(IsXmlName("a b"));
-}
-
-TEST(XmlWriter, DepthCostsNoStack) {
-    constexpr int kDepth = 100000;
-    std::string xml;
-    for (int i = 0; i < kDepth; ++i) {
-        xml += "<a>";
-    }
-    for (int i = 0; i < kDepth; ++i) {
-        xml += "</a>";
-    }
-    const auto tree = Document::Parse(xml, "deep.xml", LoadLimits::None());
-    const DomDocumentPtr document = BuildDom(*tree);
-    const std::string written = Write(*document);
-    EXPECT_EQ(written.size(), xml.size() - 2); // the innermost is "<a/>", and a line end follows
 }
 
 } // namespace
