@@ -1,107 +1,19 @@
 // Documents in every encoding: they come in right, are saved as they came, and those that lie about their encoding or
 // are broken in it are refused with the place.
 
+#include "Commands.h"
 #include "Containers/EveryClass.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <filesystem>
-#include <fstream>
 #include <optional>
 
 #include <iconv.h>
-#include <unistd.h>
 
 namespace Robustness {
 namespace {
 
 namespace fs = std::filesystem;
 using namespace std::literals;
-
-struct Encoding {
-    std::string name;  ///< as documents declare it, and the system's converter knows it
-    std::string text;  ///< in UTF-8; needs the encoding
-    std::string bytes; ///< the same in the encoding
-    std::string other; ///< another text, and its bytes
-    std::string otherBytes;
-    std::string broken = {}; ///< what stands for no character; empty where everything does
-    bool isAscii = true;     ///< markup is written in it as in ASCII
-    std::string mark = {};   ///< in front of the document
-};
-
-/// Of UTF-16 and UTF-32, from the code points.
-std::string Wide(std::u32string_view text, std::size_t width, bool bigEndian) {
-    std::string bytes;
-    const auto append = [&](std::uint32_t unit) {
-        for (std::size_t byte = 0; byte < width; ++byte) {
-            bytes += static_cast<char>(unit >> (8 * (bigEndian ? width - 1 - byte : byte)) & 255U);
-        }
-    };
-    for (const char32_t letter : text) {
-        if (width == 2 && letter > 0xFFFF) {
-            append(0xD800 + ((letter - 0x10000) >> 10U));
-            append(0xDC00 + ((letter - 0x10000) & 0x3FFU));
-        } else {
-            append(letter);
-        }
-    }
-    return bytes;
-}
-
-Encoding WideEncoding(std::size_t width, bool bigEndian, bool marked) {
-    const std::u32string broken(1, width == 2 ? U'\xDE42' : U'\x110000');
-    return {(width == 2 ? "UTF-16"s : "UTF-32"s) + (bigEndian ? "BE" : "LE"),
-            "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x99\x82",
-            Wide(U"\x00E4\x20AC\x1F642", width, bigEndian),
-            "\xE3\x81\x82",
-            Wide(U"\x3042", width, bigEndian),
-            Wide(broken, width, bigEndian),
-            false,
-            marked ? Wide(U"\xFEFF", width, bigEndian) : ""};
-}
-
-const std::vector<Encoding>& Encodings() {
-    static const std::vector<Encoding> encodings{
-        {"UTF-8", "\xC3\xA4\xF0\x9F\x99\x82", "\xC3\xA4\xF0\x9F\x99\x82", "\xE2\x82\xAC", "\xE2\x82\xAC", "\xC3("},
-        {"UTF-8", "\xC3\xA4", "\xC3\xA4", "\xE2\x82\xAC", "\xE2\x82\xAC", "\xF8", true, "\xEF\xBB\xBF"},
-        WideEncoding(2, false, false),
-        WideEncoding(2, false, true),
-        WideEncoding(2, true, false),
-        WideEncoding(2, true, true),
-        WideEncoding(4, false, false),
-        WideEncoding(4, false, true),
-        WideEncoding(4, true, false),
-        WideEncoding(4, true, true),
-        {"ISO-8859-1", "\xC3\xA9\xC3\xBF", "\xE9\xFF", "\xC2\xA3", "\xA3"},
-        {"ISO-8859-2", "\xC5\x82\xC5\xB1", "\xB3\xFB", "\xC5\xA0", "\xA9"},
-        {"ISO-8859-7", "\xCE\xB1\xCF\x89", "\xE1\xF9", "\xCE\xA9", "\xD9", "\xAE"},
-        {"ISO-8859-15", "\xE2\x82\xAC\xC5\x93", "\xA4\xBD", "\xC5\xB8", "\xBE"},
-        {"windows-1251", "\xD0\x96\xE2\x84\x96", "\xC6\xB9", "\xD1\x8F", "\xFF", "\x98"},
-        {"windows-1252", "\xE2\x82\xAC\xE2\x80\x93\xC3\xA9", "\x80\x96\xE9", "\xE2\x84\xA2", "\x99", "\x81"},
-        {"KOI8-R", "\xD0\x96\xD1\x8F", "\xF6\xD1", "\xD0\xAE", "\xE0"},
-        {"IBM850", "\xC3\xA9\xC2\xBF", "\x82\xA8", "\xC3\x9F", "\xE1"},
-        {"TIS-620", "\xE0\xB8\x81\xE0\xB9\x84", "\xA1\xE4", "\xE0\xB8\x82", "\xA2", "\xFF"},
-        {"Shift_JIS", "\xE3\x83\x86\xE3\x82\xBD\xEF\xBD\xB1", "\x83\x65\x83\x5C\xB1", "\xE8\xA1\xA8", "\x95\x5C",
-         "\x83 "},
-        {"EUC-JP", "\xE3\x83\x86\xEF\xBD\xB1", "\xA5\xC6\x8E\xB1", "\xE8\xA1\xA8", "\xC9\xBD", "\xA5 "},
-        {"EUC-KR", "\xEA\xB0\x80", "\xB0\xA1", "\xED\x95\x9C", "\xC7\xD1", "\xB0 "},
-        {"GB18030", "\xE4\xB8\xAD\xC4\x81\xF0\x9F\x99\x82", "\xD6\xD0\xA8\xA1\x95\x30\x85\x32", "\xE2\x82\xAC",
-         "\xA2\xE3", "\xFF"},
-        {"Big5", "\xE4\xB8\xAD\xE5\x8A\x9F", "\xA4\xA4\xA5\x5C", "\xE5\x9C\x8B", "\xB0\xEA", "\xFF"},
-        {"ISO-2022-JP", "\xE3\x83\x86", "\x1B$B%F\x1B(B", "\xE8\xA1\xA8", "\x1B$BI=\x1B(B", "\x80"},
-    };
-    return encodings;
-}
-
-/// Those of large machines, in which markup has bytes of its own.
-const std::vector<Encoding>& LargeMachineEncodings() {
-    static const std::vector<Encoding> encodings{
-        {"IBM037", "\xC3\xA9\xC3\x9F", "\x51\x59", "\xC2\xA3", "\xB1", "", false},
-        {"IBM1047", "\xC3\xA9[", "\x51\xAD", "\xC2\xA3", "\xB1", "", false},
-        {"IBM500", "\xC3\xA9!", "\x51\x4F", "\xC2\xA3", "\xB1", "", false},
-    };
-    return encodings;
-}
 
 struct Converted {
     std::string text;
@@ -125,6 +37,63 @@ Converted Convert(std::string bytes, const std::string& from, const std::string&
     return converted;
 }
 
+struct Encoding {
+    std::string name;        ///< as documents declare it, and the system's converter knows it
+    std::string text;        ///< in UTF-8; needs the encoding
+    std::string other;       ///< another text
+    std::string broken = {}; ///< bytes that stand for no character; empty where everything does
+    bool isAscii = true;     ///< markup is written in it as in ASCII
+    std::string mark = {};   ///< in front of the document
+
+    std::string Bytes(const std::string& utf8) const { return Convert(utf8, "UTF-8", name).text; }
+};
+
+const std::vector<Encoding>& Encodings() {
+    static const std::vector<Encoding> encodings = [] {
+        std::vector<Encoding> all{
+            {"UTF-8", "\xC3\xA4\xF0\x9F\x99\x82", "\xE2\x82\xAC", "\xC3("},
+            {"UTF-8", "\xC3\xA4", "\xE2\x82\xAC", "\xF8", true, "\xEF\xBB\xBF"},
+            {"ISO-8859-1", "\xC3\xA9\xC3\xBF", "\xC2\xA3"},
+            {"ISO-8859-2", "\xC5\x82\xC5\xB1", "\xC5\xA0"},
+            {"ISO-8859-7", "\xCE\xB1\xCF\x89", "\xCE\xA9", "\xAE"},
+            {"ISO-8859-15", "\xE2\x82\xAC\xC5\x93", "\xC5\xB8"},
+            {"windows-1251", "\xD0\x96\xE2\x84\x96", "\xD1\x8F", "\x98"},
+            {"windows-1252", "\xE2\x82\xAC\xE2\x80\x93\xC3\xA9", "\xE2\x84\xA2", "\x81"},
+            {"KOI8-R", "\xD0\x96\xD1\x8F", "\xD0\xAE"},
+            {"IBM850", "\xC3\xA9\xC2\xBF", "\xC3\x9F"},
+            {"TIS-620", "\xE0\xB8\x81\xE0\xB9\x84", "\xE0\xB8\x82", "\xFF"},
+            {"Shift_JIS", "\xE3\x83\x86\xE3\x82\xBD\xEF\xBD\xB1", "\xE8\xA1\xA8", "\x83 "},
+            {"EUC-JP", "\xE3\x83\x86\xEF\xBD\xB1", "\xE8\xA1\xA8", "\xA5 "},
+            {"EUC-KR", "\xEA\xB0\x80", "\xED\x95\x9C", "\xB0 "},
+            {"GB18030", "\xE4\xB8\xAD\xC4\x81\xF0\x9F\x99\x82", "\xE2\x82\xAC", "\xFF"},
+            {"Big5", "\xE4\xB8\xAD\xE5\x8A\x9F", "\xE5\x9C\x8B", "\xFF"},
+            {"ISO-2022-JP", "\xE3\x83\x86", "\xE8\xA1\xA8", "\x80"},
+            // Those of large machines, in which markup has bytes of its own.
+            {"IBM037", "\xC3\xA9\xC3\x9F", "\xC2\xA3", "", false},
+            {"IBM1047", "\xC3\xA9[", "\xC2\xA3", "", false},
+            {"IBM500", "\xC3\xA9!", "\xC2\xA3", "", false},
+        };
+        for (const auto& [name, broken] : {std::pair{"UTF-16LE", "\x42\xDE"s},
+                                           {"UTF-16BE", "\xDE\x42"s},
+                                           {"UTF-32LE", "\0\0\x11\0"s},
+                                           {"UTF-32BE", "\0\x11\0\0"s}}) {
+            for (const std::string& mark : {""s, Convert("\xEF\xBB\xBF", "UTF-8", name).text}) {
+                all.push_back({name, "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x99\x82", "\xE3\x81\x82", broken, false, mark});
+            }
+        }
+        return all;
+    }();
+    return encodings;
+}
+
+bool IsOfLargeMachine(const Encoding& encoding) {
+    return encoding.name.starts_with("IBM") && !encoding.isAscii;
+}
+
+std::string Title(const Encoding& encoding) {
+    return encoding.name + (encoding.mark.empty() ? "" : " with a mark");
+}
+
 /// A document that is written in an encoding and says that it is in one. Its value, which stands on line 3, and the key
 /// beside it need the encoding; the value of the second entry is to be edited.
 std::string Document(const Encoding& in, const std::string& declared, const std::string& value,
@@ -135,7 +104,7 @@ std::string Document(const Encoding& in, const std::string& declared, const std:
                        "<Doc>#</Doc></Translation>\n</TranslationKeyMap></TranslationText></TranslationConfig>\n";
     std::string bytes = in.mark;
     for (const char letter : text) {
-        bytes += letter == '#'   ? in.bytes
+        bytes += letter == '#'   ? in.Bytes(in.text)
                  : letter == '@' ? value
                  : letter == '~' ? second
                  : in.isAscii    ? std::string(1, letter)
@@ -146,13 +115,10 @@ std::string Document(const Encoding& in, const std::string& declared, const std:
 
 class EncodedDocuments : public testing::Test {
 protected:
-    EncodedDocuments() { fs::create_directories(m_folder); }
-    ~EncodedDocuments() override { fs::remove_all(m_folder); }
-
     std::string Write(const std::string& bytes) const {
         const fs::path path = m_folder / "document.xml";
         fs::remove(path); // to write over a file may wait for the disk
-        std::ofstream(path, std::ios::binary) << bytes;
+        Framework::WriteText(path, bytes);
         return path;
     }
     /// What the file holds that the object's wrapper saves.
@@ -160,8 +126,7 @@ protected:
         const std::string path = m_folder / "saved.xml";
         EXPECT_TRUE(object.GetContainedDataPtr()->SaveXMLFile(path.c_str()))
             << object.GetContainedDataPtr()->GetLastError();
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+        return Framework::ReadText(path);
     }
     /// The error of a load behind the name of the file; empty when it loads.
     std::string Refusal(const std::string& bytes, TypedDataContainer& object) const {
@@ -175,10 +140,8 @@ protected:
     }
     static std::unique_ptr<TypedDataContainer> New() { return ContainerCatalog::Create("TranslationConfig", false); }
 
-    void CheckKept(const Encoding& encoding) const;
-
 private:
-    fs::path m_folder = fs::temp_directory_path() / ("encodings." + std::to_string(::getpid()));
+    const Framework::TemporaryFolder m_folder;
 };
 
 /// The entry of the list at a position.
@@ -200,34 +163,25 @@ std::string ValueOf(TypedDataContainer& object) {
     return ResultValue().GetText(Translation(object, 0));
 }
 
-void EncodedDocuments::CheckKept(const Encoding& encoding) const {
-    SCOPED_TRACE(encoding.name + (encoding.mark.empty() ? "" : " with a mark"));
-    const std::string bytes = Document(encoding, encoding.name, encoding.bytes, encoding.bytes);
-    const auto object = New();
-    ASSERT_EQ(Refusal(bytes, *object), "");
-    EXPECT_EQ(ValueOf(*object), encoding.text);
-    EXPECT_EQ(ContainerCatalog::FindField(ContainerCatalog::FindClass("TranslationType"), "LookupData")
-                  ->GetText(Translation(*object, 0)),
-              encoding.text);
-    EXPECT_EQ(Saved(*object), bytes);
-
-    ASSERT_TRUE(ResultValue().SetText(Translation(*object, 1), encoding.other));
-    EXPECT_TRUE(object->UpdateContainedData());
-    EXPECT_EQ(Saved(*object), Document(encoding, encoding.name, encoding.bytes, encoding.otherBytes));
-    const auto again = New();
-    ASSERT_EQ(Refusal(Saved(*object), *again), "");
-    EXPECT_EQ(Samples::Lines(*again), Samples::Lines(*object));
-}
-
 TEST_F(EncodedDocuments, ComeInRightAndAreSavedAsTheyCame) {
     for (const Encoding& encoding : Encodings()) {
-        CheckKept(encoding);
-    }
-}
+        SCOPED_TRACE(Title(encoding));
+        const std::string value = encoding.Bytes(encoding.text);
+        const std::string bytes = Document(encoding, encoding.name, value, value);
+        const auto object = New();
+        ASSERT_EQ(Refusal(bytes, *object), "");
+        EXPECT_EQ(ValueOf(*object), encoding.text);
+        EXPECT_EQ(ContainerCatalog::FindField(ContainerCatalog::FindClass("TranslationType"), "LookupData")
+                      ->GetText(Translation(*object, 0)),
+                  encoding.text);
+        EXPECT_EQ(Saved(*object), bytes);
 
-TEST_F(EncodedDocuments, OfLargeMachinesComeInRightAndAreSavedAsTheyCame) {
-    for (const Encoding& encoding : LargeMachineEncodings()) {
-        CheckKept(encoding);
+        ASSERT_TRUE(ResultValue().SetText(Translation(*object, 1), encoding.other));
+        EXPECT_TRUE(object->UpdateContainedData());
+        EXPECT_EQ(Saved(*object), Document(encoding, encoding.name, value, encoding.Bytes(encoding.other)));
+        const auto again = New();
+        ASSERT_EQ(Refusal(Saved(*object), *again), "");
+        EXPECT_EQ(Samples::Lines(*again), Samples::Lines(*object));
     }
 }
 
@@ -251,6 +205,8 @@ void CheckLie(const std::string& refusal, TypedDataContainer& object, const std:
     const bool isPlain = actual.isAscii && actual.mark.empty();
     if (actual.name == declared.name) {
         EXPECT_EQ(refusal, "");
+    } else if (IsOfLargeMachine(actual)) {
+        EXPECT_TRUE(refusal.starts_with("1:") || IsOfLargeMachine(declared)) << refusal;
     } else if (!isPlain || !declared.isAscii) {
         EXPECT_EQ(refusal.rfind("1:31: the declaration says " + declared.name + ", but ", 0), 0U) << refusal;
     } else if (const Converted text = Convert(bytes, declared.name, "UTF-8"); text.badByte) {
@@ -270,8 +226,8 @@ TEST_F(EncodedDocuments, ThatLieAreRefusedWhereItShowsElseLoadAsDeclared) {
     std::size_t refused = 0;
     for (const Encoding& actual : Encodings()) {
         for (const Encoding& declared : Encodings()) {
-            SCOPED_TRACE(actual.name + (actual.mark.empty() ? "" : " with a mark") + " declared as " + declared.name);
-            const std::string bytes = Document(actual, declared.name, actual.bytes, "");
+            SCOPED_TRACE(Title(actual) + " declared as " + declared.name);
+            const std::string bytes = Document(actual, declared.name, actual.Bytes(actual.text), "");
             const auto object = New();
             const std::string refusal = Refusal(bytes, *object);
             refused += refusal.empty() ? 0 : 1;
@@ -281,31 +237,17 @@ TEST_F(EncodedDocuments, ThatLieAreRefusedWhereItShowsElseLoadAsDeclared) {
     EXPECT_GT(refused, Encodings().size() * Encodings().size() / 2);
 }
 
-TEST_F(EncodedDocuments, OfLargeMachinesThatLieAreRefused) {
-    for (const Encoding& large : LargeMachineEncodings()) {
-        for (const Encoding& other : Encodings()) {
-            SCOPED_TRACE(large.name + " and " + other.name);
-            const auto object = New();
-            EXPECT_EQ(Refusal(Document(large, other.name, large.bytes, ""), *object).rfind("1:", 0), 0U)
-                << object->GetLastError();
-            EXPECT_EQ(Refusal(Document(other, large.name, other.bytes, ""), *object)
-                          .rfind("1:31: the declaration says " + large.name, 0),
-                      0U)
-                << object->GetLastError();
-        }
-    }
-}
-
 TEST_F(EncodedDocuments, ThatAreBrokenAreRefusedWithTheOffset) {
     for (const Encoding& encoding : Encodings()) {
         if (encoding.broken.empty()) {
             continue;
         }
-        SCOPED_TRACE(encoding.name + (encoding.mark.empty() ? "" : " with a mark"));
-        const std::string bytes = Document(encoding, encoding.name, encoding.bytes + encoding.broken, "");
+        SCOPED_TRACE(Title(encoding));
+        const std::string broken = encoding.Bytes(encoding.text) + encoding.broken;
+        const std::string bytes = Document(encoding, encoding.name, broken, "");
         const auto object = New();
         const std::string refusal = Refusal(bytes, *object);
-        const std::size_t expected = bytes.find(encoding.bytes + encoding.broken) + encoding.bytes.size();
+        const std::size_t expected = bytes.find(broken) + broken.size() - encoding.broken.size();
         EXPECT_EQ(refusal.rfind("3:", 0), 0U) << refusal;
         EXPECT_NE(refusal.find("at byte offset " + std::to_string(expected) + " "), refusal.npos) << refusal;
     }

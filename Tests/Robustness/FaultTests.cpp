@@ -38,6 +38,14 @@ struct Content {
     std::vector<std::string> lines = {}; ///< what a load of the document gives
 };
 
+Content MadeUpContent(CatalogClass type, unsigned seed) {
+    Samples::Random random(seed);
+    const auto make = [&](int firstKey) {
+        return Samples::ToXml(Samples::Make(type, std::string(type.ElementName()), random, firstKey), random, false);
+    };
+    return {type, make(1), make(5), make(2)};
+}
+
 /// Values that need memory of their own, every form of field, every control word.
 std::vector<Content> LittleContents() {
     const auto root = [](const char* name) { return ContainerCatalog::FindRoot(name); };
@@ -58,8 +66,9 @@ std::vector<Content> LittleContents() {
          "<DataStorageContainer/></ThreadChildList><ThreadChildList UniqueName='More' PlacementOrder='First'/>"
          "</LoadConfig>"},
         {root("StateProcessingRoot"),
-         "<StateProcessingRoot Version='1'><RevisionHistory fileName='the file of the states.xml'>" + longText +
-             "</RevisionHistory><StateTable Name='T'><State Name='Attract'><Doc>one</Doc><Doc>" + longText +
+         "<?xml version='1.0' encoding='ISO-8859-1'?><!-- caf\xe9 "
+         "--><StateProcessingRoot Version='1'><RevisionHistory fileName='the file of the states.xml'>" +
+             longText + "</RevisionHistory><StateTable Name='T'><State Name='Attract'><Doc>one</Doc><Doc>" + longText +
              "</Doc><PreStateTrigger Index='1'><ActionRef>r</ActionRef><ActionResp><PostActionResp Result='2'/>"
              "</ActionResp></PreStateTrigger></State></StateTable></StateProcessingRoot>",
          "<StateProcessingRoot Version='the other'/>",
@@ -67,28 +76,9 @@ std::vector<Content> LittleContents() {
          "<RevisionHistory fileName='the file of the states.xml' MergeAction='Clear'>later</RevisionHistory>"
          "<StateTable MergeAction='Clear'><State Name='Attract'><Doc>d</Doc><PreStateTrigger><ActionRef>r</ActionRef>"
          "</PreStateTrigger></State><State Name='Attract' MergeAction='Clear'/></StateTable></StateProcessingRoot>"},
-        {root("CaptureConfig"),
-         "<CaptureConfig><WriteBufferSize>2</WriteBufferSize><Rules><Rule><SubRule><IsKindOf>" + longText +
-             "</IsKindOf><CaptureLevel>CAPTURE_LEVEL_NORMAL</CaptureLevel></SubRule></Rule></Rules></CaptureConfig>",
-         "<CaptureConfig/>",
-         "<CaptureConfig MergeAction='Clear'><Files><File><Name>n</Name></File></Files></CaptureConfig>"},
-        {root("ConfigDefRoot"),
-         "<?xml version='1.0' encoding='ISO-8859-1'?><!-- caf\xE9 "
-         "--><ConfigDefRoot><ConfigurationDefinition><ConfigDef Name='the one'><XMLDefaultValue><![CDATA[<a>" +
-             longText +
-             "</a>]]></XMLDefaultValue><Hidden>true</Hidden></ConfigDef></ConfigurationDefinition></ConfigDefRoot>",
-         "<ConfigDefRoot/>",
-         "<ConfigDefRoot MergeAction='Replace'><ConfigurationDefinition><ConfigDef Name='the one'><XMLDefaultValue>x"
-         "</XMLDefaultValue></ConfigDef></ConfigurationDefinition></ConfigDefRoot>"},
+        MadeUpContent(root("CaptureConfig"), 1),
+        MadeUpContent(root("ConfigDefRoot"), 2),
     };
-}
-
-Content MadeUpContent(CatalogClass type, unsigned seed) {
-    Samples::Random random(seed);
-    const auto make = [&](int firstKey) {
-        return Samples::ToXml(Samples::Make(type, std::string(type.ElementName()), random, firstKey), random, false);
-    };
-    return {type, make(1), make(5), make(2)};
 }
 
 /// In memory where the system has files there: thousands of saves are forced to the disk.
@@ -286,7 +276,6 @@ void WriteFile(Scene& scene) {
 }
 void Register(Scene& scene) {
     EXPECT_TRUE(TypedDataContainer::RegisterTemplate(kStore, scene.name.c_str(), scene.content.override));
-    EXPECT_TRUE(TypedDataContainer::RegisterModel(kStore, scene.name.c_str(), scene.content.override));
 }
 void TakeDomNode(Scene& scene) {
     LoadOverride(scene);
@@ -306,10 +295,6 @@ void UpdateSome(Scene& scene) {
 void UpdateSomeOnDom(Scene& scene) {
     ChangeOnDom(scene);
     EXPECT_TRUE(scene.object->UpdateContainedData());
-}
-void StandOnNothing(Scene& scene) {
-    scene.object = scene.content.type.Create(false);
-    EXPECT_TRUE(MergeText(*scene.object, "F", scene.content.xml));
 }
 void DoubleKeys(Scene& scene) {
     auto& list = As<ThreadChildListType>(scene);
@@ -372,8 +357,6 @@ const Operation operations[] = {
      [](Scene& s) { return s.object->LoadFromFile(nullptr, kIn.c_str(), true); }},
     {"LoadFromTemplate", Promise::EndsSomehow, Leaves::AsItWasOrInvalid, &Register,
      [](Scene& s) { return s.object->LoadFromTemplate(nullptr, kStore, s.name.c_str(), false); }},
-    {"LoadFromModel", Promise::EndsSomehow, Leaves::AsItWasOrInvalid, &Register,
-     [](Scene& s) { return s.object->LoadFromModel(nullptr, kStore, s.name.c_str(), false); }},
     {"LoadFromDOMNode", Promise::EndsSomehow, Leaves::AsItWasOrInvalid, &TakeDomNode,
      [](Scene& s) { return s.object->LoadFromDOMNode(nullptr, s.node, false); }},
     {"SetContainedDataPtr", Promise::EndsSomehow, Leaves::Whole, &LoadOther,
@@ -384,8 +367,6 @@ const Operation operations[] = {
      [](Scene& s) { return s.object->MergeFromFile(nullptr, kIn.c_str()); }},
     {"MergeFromTemplate", Promise::EndsSomehow, Leaves::AsItWasOrMerged, &Register,
      [](Scene& s) { return s.object->MergeFromTemplate(nullptr, kStore, s.name.c_str()); }},
-    {"MergeFromModel", Promise::EndsSomehow, Leaves::AsItWasOrMerged, &Register,
-     [](Scene& s) { return s.object->MergeFromModel(nullptr, kStore, s.name.c_str()); }},
     {"MergeFromDOMNode", Promise::EndsSomehow, Leaves::AsItWasOrMerged, &TakeDomNode,
      [](Scene& s) { return s.object->MergeFromDOMNode(nullptr, std::move(s.feature), s.node); }},
     {"UpdateContainedData", Promise::EndsSomehow, Leaves::AsItWas, &ChangeValues,
@@ -408,15 +389,7 @@ const Operation operations[] = {
      &MadeText},
     {"SaveContents", Promise::EndsWithFalse, Leaves::AsItWas, &WriteFile,
      [](Scene& s) { return s.object->SaveContents(kOut.c_str()); }, &OutBytes},
-    {"DumpMergeResults", Promise::EndsWithFalse, Leaves::AsItWas, &WriteFile,
-     [](Scene& s) { return s.object->DumpMergeResults(kOut.c_str()); }, &OutBytes},
     {"Clone", Promise::MayThrow, Leaves::AsItWas, &Nothing,
-     [](Scene& s) {
-         s.made.reset(s.object->Clone());
-         return s.made != nullptr;
-     },
-     nullptr, &CheckClone},
-    {"Clone of what stands on no document", Promise::MayThrow, Leaves::AsItWas, &StandOnNothing,
      [](Scene& s) {
          s.made.reset(s.object->Clone());
          return s.made != nullptr;
@@ -424,12 +397,6 @@ const Operation operations[] = {
      nullptr, &CheckClone},
     {"LoadXMLText", Promise::EndsWithFalse, Leaves::AsItWas, &LoadOther,
      [](Scene& s) { return s.source.LoadXMLText(s.content.override, false); }, &SourceText},
-    {"LoadXMLFile", Promise::EndsWithFalse, Leaves::AsItWas,
-     [](Scene& s) {
-         WriteFile(s);
-         LoadOther(s);
-     },
-     [](Scene& s) { return s.source.LoadXMLFile(kIn.c_str(), false); }, &SourceText},
     {"GetXMLText", Promise::EndsWithFalse, Leaves::AsItWas, &UpdateSome,
      [](Scene& s) {
          s.text = s.document.GetXMLText();
@@ -473,11 +440,6 @@ const Operation operations[] = {
          TakeApart(*s.object);
          return true;
      }},
-    {"SetText", Promise::MayThrow, Leaves::Whole, &Nothing,
-     [](Scene& s) {
-         ChangeValues(s);
-         return true;
-     }},
     {"WriteBack", Promise::MayThrow, Leaves::AsItWas, &ChangeValues,
      [](Scene& s) {
          for (const Value& value : ValuesOf(*s.object)) {
@@ -486,19 +448,6 @@ const Operation operations[] = {
          return true;
      },
      nullptr, &CheckUpdated},
-    {"telling attributes, properties and queries", Promise::MayThrow, Leaves::AsItWas, &Nothing,
-     [](Scene& s) {
-         ParameterList properties;
-         s.object->GetProperties(properties);
-         const std::unique_ptr<ParameterList> attributes(s.object->GetPLAttributeList());
-         s.object->GetPLMergeAttributes(attributes.get());
-         s.object->BuildUpdateQuery("a name that is long enough", s.object.get());
-         return attributes != nullptr;
-     }},
-    {"RegisterTemplate", Promise::MayThrow, Leaves::AsItWas, &Nothing,
-     [](Scene& s) {
-         return TypedDataContainer::RegisterTemplate("a store of its own", s.name.c_str(), s.content.xml);
-     }},
     {"ResetDataMembers", Promise::EndsSomehow, Leaves::Whole, &Nothing,
      [](Scene& s) {
          s.object->ResetDataMembers();
@@ -541,46 +490,16 @@ const Operation operations[] = {
          return hasGrown;
      },
      nullptr, nullptr, "ThreadChildListType"},
-    {"the setters and lists of texts", Promise::MayThrow, Leaves::Whole, &Nothing,
-     [](Scene& s) {
-         auto& list = As<StateActionListType>(s);
-         list.SetTrigger(kNewValue);
-         list.SetActionListCached(true);
-         list.AddDoc(kNewValue, kNewKey);
-         auto item = std::make_unique<ActionItemType>(false);
-         item->SetIndex("the index of the item");
-         item->SetActionResp(new ActionRespType(false));
-         item->SetActionResp(new ActionRespType(false));
-         list.AddNewActionItem(item.release(), "the index of the item");
-         list.ClearDoc();
-         return true;
-     },
-     nullptr, nullptr, "StateActionListType"},
-    {"the lists of words", Promise::MayThrow, Leaves::Whole, &Nothing,
-     [](Scene& s) {
-         auto& rule = As<CaptureConfigSubRuleType>(s);
-         rule.AddCaptureLevel("CAPTURE_LEVEL_NORMAL");
-         rule.AddNewCaptureLevel(new CaptureLevelType);
-         rule.GetCaptureLevel(9);
-         rule.ClearCaptureLevel();
-         return true;
-     },
-     nullptr, nullptr, "CaptureConfigSubRuleType"},
 };
 
+/// For what is called by the names of the class.
 std::vector<Content> TypedContents() {
-    const auto type = [](const char* name) { return ContainerCatalog::FindClass(name); };
     return {
-        {type("ThreadChildListType"),
+        {ContainerCatalog::FindClass("ThreadChildListType"),
          "<ThreadChildList UniqueName='u'><ChildThread UniqueName='the thread with the long name'/></ThreadChildList>",
          "<ThreadChildList><ChildThread UniqueName='the key of the other thread'/><DataStorageContainer><LoadPath>"
          "a path that is long enough</LoadPath></DataStorageContainer></ThreadChildList>",
          "<ThreadChildList/>"},
-        {type("StateActionListType"), "<StateActionList Trigger='t'><Doc>d</Doc></StateActionList>",
-         "<StateActionList/>", "<StateActionList/>"},
-        {type("CaptureConfigSubRuleType"),
-         "<CaptureConfigSubRule><CaptureLevel>CAPTURE_LEVEL_ERROR</CaptureLevel></CaptureConfigSubRule>",
-         "<CaptureConfigSubRule/>", "<CaptureConfigSubRule/>"},
     };
 }
 

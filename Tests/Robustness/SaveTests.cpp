@@ -223,7 +223,6 @@ TEST(SaveFaults, TheSweepFindsEveryCarelessWayToSave) {
         {"in-place", {"damaged", "failed but new"}},
         {"forcing-ignored", {"not forced"}},
         {"unforced", {"not forced"}},
-        {"stdio", {"damaged"}},
     };
     for (const Control& control : controls) {
         const std::vector<Save> saves =

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <thread>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -114,6 +115,14 @@ TEST_F(AtomicFile, AFolderThatCannotBeWrittenLeavesTheOldFile) {
     const AsNobody nobody;
     ExpectRefused(Path("old"), "temporary file");
     ExpectRefused(Path("new"), "temporary file");
+}
+
+TEST_F(AtomicFile, ReadsWhatAnotherThreadPipes) {
+    const std::string large(500'000, 'x');
+    ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0600), 0);
+    std::thread writer([&] { std::ofstream(Path("pipe")) << large; });
+    EXPECT_EQ(ReadFile(Path("pipe"), large.size()), large);
+    writer.join();
 }
 
 TEST_F(AtomicFile, TakesANameOfAnyLengthAndOneWithoutFolder) {

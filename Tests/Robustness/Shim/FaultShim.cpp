@@ -17,7 +17,6 @@
 #include <type_traits>
 #include <utility>
 
-#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -128,10 +127,6 @@ auto Call(const char* name, const std::string& path, Real real, std::size_t size
     return result;
 }
 
-template <class Function> Function Next(const char* name) {
-    return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
-}
-
 int OpenAt(int folder, const char* path, int flags, mode_t mode) {
     return Call("open", PathAt(folder, path),
                 [&](std::size_t) { return static_cast<int>(::syscall(SYS_openat, folder, path, flags, mode)); });
@@ -230,29 +225,5 @@ int unlink(const char* path) noexcept {
 
 int unlinkat(int folder, const char* path, int flags) noexcept {
     return UnlinkAt(folder, path, flags);
-}
-
-// Stdio writes behind the back of write().
-
-size_t fwrite(const void* data, size_t size, size_t count, FILE* file) {
-    static const auto next = Next<size_t (*)(const void*, size_t, size_t, FILE*)>("fwrite");
-    return Call(
-        "write", PathOf(::fileno(file)), [&](std::size_t part) { return next(data, size, part, file); }, count);
-}
-
-int fflush(FILE* file) {
-    static const auto next = Next<int (*)(FILE*)>("fflush");
-    return file == nullptr ? next(file)
-                           : Call("fflush", PathOf(::fileno(file)), [&](std::size_t) { return next(file); });
-}
-
-int fclose(FILE* file) {
-    static const auto next = Next<int (*)(FILE*)>("fclose");
-    const auto real = [&](std::size_t = 0) { return next(file); };
-    return Call("fclose", PathOf(::fileno(file)), real, 0, [&] {
-        // What is in its buffer is lost.
-        ::syscall(SYS_close, ::fileno(file));
-        real();
-    });
 }
 }

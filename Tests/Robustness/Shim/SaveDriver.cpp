@@ -6,7 +6,6 @@
 //                                                 faults, end; parted by tabs. Needs the fault shim preloaded.
 //   SaveDriver kill STYLE FOLDER SIZE ROUNDS      saves two texts in turn until it is killed at a random moment; a
 //                                                 line with folder and end for each round
-//   SaveDriver read FILE CAP                      reads a file; a line with the result, and the kB that memory grew by
 #include <algorithm>
 #include <chrono>
 #include <csignal>
@@ -25,7 +24,6 @@
 #include <unistd.h>
 
 #include "Framework/XMLDataWrapper.h"
-#include "Framework/XMLSupport/AtomicFile.h"
 #include "SavedState.h"
 
 namespace {
@@ -39,7 +37,6 @@ struct Careless {
     bool inPlace = false; ///< writes over the old file
     bool forced = true;
     bool looksAtForcing = true;
-    bool stdio = false; ///< and closes without looking
 };
 
 bool WriteByDescriptor(const std::string& path, const std::string& text, const Careless& how) {
@@ -59,25 +56,13 @@ bool WriteByDescriptor(const std::string& path, const std::string& text, const C
     return (::close(file) == 0) && good;
 }
 
-bool WriteByStdio(const std::string& path, const std::string& text) {
-    std::FILE* const file = std::fopen(path.c_str(), "w");
-    if (file == nullptr) {
-        return false;
-    }
-    const bool good = std::fwrite(text.data(), 1, text.size(), file) == text.size();
-    std::fclose(file); // the mistake
-    const int again = ::open(path.c_str(), O_RDONLY);
-    const bool forced = again >= 0 && ::fsync(again) == 0;
-    return ::close(again) == 0 && forced && good;
-}
-
 /// Empty, or what went wrong.
 std::string SaveCarelessly(const std::string& path, const std::string& text, const Careless& how) {
     if (how.inPlace) {
         return WriteByDescriptor(path, text, how) ? "" : "cannot save";
     }
     const std::string temporary = path + ".tmp";
-    const bool good = how.stdio ? WriteByStdio(temporary, text) : WriteByDescriptor(temporary, text, how);
+    const bool good = WriteByDescriptor(temporary, text, how);
     if (!good || ::rename(temporary.c_str(), path.c_str()) != 0) {
         ::unlink(temporary.c_str());
         return "cannot save";
@@ -123,8 +108,7 @@ public:
             error = SaveCarelessly(m_path, LaneText(m_changed, m_size),
                                    {.inPlace = m_style.starts_with("in-place"),
                                     .forced = !m_style.ends_with("unforced"),
-                                    .looksAtForcing = m_style != "forcing-ignored",
-                                    .stdio = m_style == "stdio"});
+                                    .looksAtForcing = m_style != "forcing-ignored"});
         }
         return error.empty() ? "saved" : "failed: " + error;
     }
@@ -235,41 +219,18 @@ void Kill(const std::string& style, const fs::path& base, std::size_t size, int 
     }
 }
 
-long PeakMemory() {
-    std::ifstream status("/proc/self/status");
-    std::string word;
-    while (status >> word && word != "VmHWM:") {
-    }
-    long kilobytes = 0;
-    status >> kilobytes;
-    return kilobytes;
-}
-
-void Read(const std::string& path, std::size_t cap) {
-    const long before = PeakMemory();
-    std::string result;
-    try {
-        result = std::to_string(Framework::ReadFile(path, cap).size()) + " bytes";
-    } catch (const Framework::FileError& error) {
-        result = error.what();
-    }
-    std::printf("%s\t%ld\n", result.c_str(), PeakMemory() - before);
-}
-
 } // namespace
 
 int main(int count, char** texts) {
     std::vector<std::string> arguments(texts + 1, texts + count);
     ::umask(0027);
-    if (arguments.size() > 2 && arguments[0] != "read") {
+    if (arguments.size() > 2) {
         arguments[2] = fs::weakly_canonical(arguments[2]).string();
     }
     if (arguments.size() > 4 && arguments[0] == "sweep") {
         Sweep(arguments[1], arguments[2], std::stoul(arguments[3]), {arguments.begin() + 4, arguments.end()});
     } else if (arguments.size() == 5 && arguments[0] == "kill") {
         Kill(arguments[1], arguments[2], std::stoul(arguments[3]), std::stoi(arguments[4]));
-    } else if (arguments.size() == 3 && arguments[0] == "read") {
-        Read(arguments[1], std::stoul(arguments[2]));
     } else {
         return 2;
     }
