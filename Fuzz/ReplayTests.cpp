@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <iostream>
 
+#include "Framework/XMLDataWrapper.h"
 #include "Robustness/Sizes.h"
 #include "Seeds.h"
 #include "XmlMutator.h"
@@ -62,6 +64,33 @@ TEST_P(Replay, MutatedSeedsHold) {
         }
     }
     EXPECT_EQ(number > 20, GetParam().documents != &NoDocuments) << number;
+}
+
+/// One document with everything in it that documents have: every beginning, and with any bit turned over.
+TEST(BrokenDocuments, AreWholeOrRefused) {
+    const std::vector<Seed> seeds = SeedsOf(Targets().front());
+    const auto seed =
+        std::find_if(seeds.begin(), seeds.end(), [](const Seed& each) { return each.name == "constructs.xml"; });
+    ASSERT_NE(seed, seeds.end());
+    const std::string& whole = seed->bytes;
+    std::vector<std::string> variants;
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        variants.push_back(whole.substr(0, length));
+        XMLDataWrapper wrapper;
+        EXPECT_FALSE(wrapper.LoadXMLText(variants.back(), true) && length < whole.find("</ConfigDef>") + 12);
+    }
+    for (std::size_t bit = 0; bit < whole.size() * 8; ++bit) {
+        variants.push_back(whole);
+        variants.back()[bit / 8] = static_cast<char>(whole[bit / 8] ^ (1 << (bit % 8)));
+    }
+    for (const std::string& variant : variants) {
+        try {
+            Load(variant);
+            Merge("<ConfigDef Name='base'><Hidden>true</Hidden></ConfigDef>\n====\n" + variant);
+        } catch (const Violation& violation) {
+            ADD_FAILURE() << violation.what << "\n" << variant;
+        }
+    }
 }
 
 /// The test of the test: a target that finds nothing wrong with anything would pass as well.

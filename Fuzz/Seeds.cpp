@@ -83,15 +83,6 @@ std::vector<Seed> Documents() {
     return documents;
 }
 
-std::vector<Seed> SavedDocuments() {
-    std::vector<Seed> seeds = Documents();
-    for (std::size_t i = 0; i < seeds.size(); ++i) {
-        const char choice = static_cast<char>('0' + i % 64); // one value here, another there
-        seeds[i].bytes.insert(0, choice + std::string("new <&> text\n"));
-    }
-    return seeds;
-}
-
 std::vector<Seed> Merges() {
     std::vector<Seed> seeds;
     const std::vector<Seed> examples = Examples();
@@ -122,10 +113,7 @@ std::vector<Seed> LinesOf(const Seed& file) {
 }
 
 std::vector<Seed> MadeSeeds(std::string_view target) {
-    return target == "Load"    ? Documents()
-           : target == "Merge" ? Merges()
-           : target == "Save"  ? SavedDocuments()
-                               : std::vector<Seed>();
+    return target == "Load" ? Documents() : target == "Merge" ? Merges() : std::vector<Seed>();
 }
 
 } // namespace

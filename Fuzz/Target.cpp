@@ -15,7 +15,6 @@ const std::vector<Target>& Targets() {
         {"Load", &Load, &DocumentsOfWhole},
         {"Merge", &Merge, &DocumentsOfMerge},
         {"Paths", &Paths, &NoDocuments},
-        {"Save", &Save, &DocumentsOfSave},
     };
     return targets;
 }

@@ -28,14 +28,10 @@ void Load(std::string_view input);
 void Merge(std::string_view input);
 /// Find and make nodes of small fixed documents by query. The input is queries, one on each line.
 void Paths(std::string_view input);
-/// Save what was not changed, what was, and what was changed back. The input is a byte that picks two values, the rest
-/// of its line is the text to set, and below stands the document.
-void Save(std::string_view input);
 
 /// The documents in an input of the target, as views of it: what a mutation may treat as XML.
 std::vector<std::string_view> DocumentsOfWhole(std::string_view input);
 std::vector<std::string_view> DocumentsOfMerge(std::string_view input);
-std::vector<std::string_view> DocumentsOfSave(std::string_view input);
 std::vector<std::string_view> NoDocuments(std::string_view input);
 
 struct Target {
