@@ -12,92 +12,9 @@
 
 namespace {
 
-const std::string line = "Description ReturnFlag DepositFlag VoidFlag RequestID ";
-const std::string entryNames = "SourceType=1 Source=1 PreProcess=1 RootData=true ReadOnly=true ExtraData=1";
-
-const struct Chain {
-    const char* type;
-    const char* element;
-    std::string attributes; ///< with the values that a document with 1 for each gives
-    std::string order;      ///< of the elements in a dump
-    std::string properties;
-} chains[] = {
-    {"AbstractMethodDefType", "AbstractMethod", "", "ClassName Method", "ClassName Method"},
-    {"StateActionHandlerType", "StateActionHandler", "ActionID=1 PreProcessor=true", "ClassName Method Doc Parameters",
-     "ActionID PreProcessor"},
-    {"DataProcessorMethodType", "DataProcessorMethod", "Name=1", "ClassName Method Unused", "Unused Name"},
-    {"LineItemInfoType", "LineItemInfo", "", line, line},
-    {"ItemInfoType", "ItemInfo", "",
-     line + "ItemIdentifier RegularUnitPrice Quantity ExtendedPrice Weight DealPrice DealQuantity LinkedItemID "
-            "MixAndMatchPricingGroup TimeRestrictedFlag RestrictedAge FoodStampEligibleFlag WICEligibleFlag "
-            "ItemRepeatAllowedFlag TaxableFlag",
-     "RegularUnitPrice Quantity ExtendedPrice Weight DealPrice DealQuantity LinkedItemID MixAndMatchPricingGroup "
-     "TimeRestrictedFlag RestrictedAge FoodStampEligibleFlag WICEligibleFlag ItemRepeatAllowedFlag TaxableFlag"},
-    {"CouponInfoType", "CouponInfo", "",
-     line + "ItemID TransactionLineItemInstanceNumber CouponType RegularUnitPrice Quantity Value Weight DealPrice "
-            "DealQuantity LinkedItemID RestrictedAge ReducesFoodstampBalanceDueFlag ReducesTaxDueFlag "
-            "ItemRepeatAllowedFlag PricingMethod ManufacturerNumber",
-     "TransactionLineItemInstanceNumber RegularUnitPrice Quantity Value Weight DealPrice DealQuantity LinkedItemID "
-     "RestrictedAge ReducesFoodstampBalanceDueFlag ReducesTaxDueFlag ItemRepeatAllowedFlag PricingMethod "
-     "ManufacturerNumber"},
-    {"PointsInfoType", "PointsInfo", "", line + "PointsTotals Type IsRedeemed Points", "Type IsRedeemed Points"},
-    {"SimpleDataEntryType", "SimpleDataEntry", entryNames, "Doc Value",
-     "Value SourceType Source PreProcess RootData ReadOnly ExtraData"},
-    {"ExtendableDataEntryType", "ExtendableDataEntry", entryNames, "Doc Value VarInput", ""},
-    {"StateActionDataEntryType", "StateActionDataEntry", entryNames + " Name=1", "Doc Value VarInput DataList", "Name"},
-    {"DataListDataEntryType", "DataListItem", entryNames + " Name=1 DataType=1", "Doc Value VarInput Unused",
-     "Unused Name DataType"},
-    {"PreProcessDataEntryType", "PreProcessDataEntry", entryNames + " Name=1", "Doc Value Unused", "Unused Name"},
-};
-
 std::vector<std::string> Words(const std::string& text) {
     std::istringstream stream(text);
     return {std::istream_iterator<std::string>(stream), {}};
-}
-
-TEST(Chain, ParentsComeFirstInDumpsAndPredicatesAndAreNoProperties) {
-    for (const Chain& row : chains) {
-        SCOPED_TRACE(row.type);
-        // The document has everything in the opposite order, and what only relatives of the class know.
-        std::string attributes;
-        std::string content = "<VarInput/><DataList/><Unused/>";
-        std::string predicate;
-        for (const std::string& word : Words(row.attributes)) {
-            const std::string name = word.substr(0, word.find('='));
-            attributes.insert(0, " " + name + "='1'");
-            predicate += (predicate.empty() ? "@" : " and @") + name + "='" + word.substr(name.size() + 1) + "' ";
-        }
-        for (const std::string& name : Words(row.order)) {
-            content.insert(0, "<" + name + ">1</" + name + ">");
-        }
-        const std::string name = row.element;
-        Loaded loaded(ContainerCatalog::FindClass(row.type),
-                      "<" + name + attributes + ">" + content + "</" + name + ">");
-        TypedDataContainer& object = *loaded.object;
-        EXPECT_EQ(object.GetBaseType(), row.type);
-        EXPECT_EQ(object.GetAttributeList(), predicate);
-        const std::unique_ptr<ParameterList> list(object.GetPLAttributeList());
-        std::string pairs;
-        for (std::size_t i = 0; i < list->size(); ++i) {
-            pairs += (i == 0 ? "" : " ") + list->ItemData(i)->ElementName + "=" + list->ItemData(i)->strValue;
-        }
-        EXPECT_EQ(pairs, row.attributes);
-        ParameterList properties;
-        object.GetProperties(properties);
-        std::vector<std::string> names;
-        for (std::size_t i = 0; i < properties.size(); ++i) {
-            names.push_back(properties.ItemData(i)->ElementName);
-        }
-        EXPECT_EQ(names, Words(row.properties));
-        EXPECT_EQ(ElementNames(DumpedByNode(object)), Words(row.order));
-        // By query, children without attributes are only filled where they stand.
-        std::vector<std::string> made = Words(row.order);
-        std::erase_if(made, [&object](const std::string& each) {
-            const auto field = ContainerCatalog::FindField(ContainerCatalog::ClassOf(object), each);
-            return field && field->GetForm() == CatalogField::Child;
-        });
-        EXPECT_EQ(ElementNames(DumpedByQuery(object, "<" + name + attributes + "/>")), made);
-    }
 }
 
 /// Lists whose key is only a part of what tells their entries apart.
@@ -226,20 +143,11 @@ TEST(Naming, CallersObjectsKeepTheirClassesNameUntilADocumentNamesThem) {
     const Naming rows[] = {
         {Hand(new AudioPathSearchOrderType(false), &AudioGlobalParamsType::SetPathSearchOrder), "PathSearchOrder",
          "AudioPathSearchOrder"},
-        {Hand(new AudioPathSearchOrderType(false), &AudioLookupType::SetPathSearchOrder), "PathSearchOrder",
-         "AudioPathSearchOrder"},
         {Hand(new AudioExpandPhraseConditionType(false), &AudioExpandPhraseType::AddNewCondition), "Condition",
          "AudioExpandPhraseCondition"},
-        {Hand(new FilterPropertyTestType(false), &TestFilterType::SetTestValue), "TestValue", "FilterPropertyTest"},
-        {Hand(new BarCodeType(false), &ItemPurchaseTrackingType::SetItemIdentifier), "ItemIdentifier", "BarCode"},
-        {Hand(new ItemIdentifierType(false), &CouponInfoType::SetItemID), "ItemID", "ItemIdentifier"},
         {Hand(new ActionItemType(false), &StateDefinitionType::SetPreStateTrigger), "PreStateTrigger", "ActionItem"},
-        {Hand(new ConfigLevelViewType(false), &ConfigLevelViewMapType::AddNewConfigLevelView), "ConfigLevelView",
-         "ConfigLevelViewType"},
         {Hand(new CaptureDocEntryType(false), &CaptureDocType::AddNewCapture), "Capture", "CaptureDoc"},
         {Hand(new BasicClassFactoryType(false), &StateClassFactoryType::AddNewClass), "Class", "Class"},
-        {Hand(new BasicClassFactoryType(false), &DataProcessorClassFactoryListType::AddNewDataProcessorClassFactory),
-         "DataProcessorClassFactory", "Class"},
     };
     for (const auto& [handed, field, ownName] : rows) {
         const auto& [owner, part] = handed;
@@ -255,9 +163,6 @@ TEST(Naming, CallersObjectsKeepTheirClassesNameUntilADocumentNamesThem) {
         EXPECT_EQ(row.Length(*owner), isPlain ? 2U : row.IsList() ? 1U : 0U);
     }
     EXPECT_EQ(CaptureDocType(false).GetCapture(1)->GetContainerName(), "Capture");
-    EXPECT_EQ(StateClassFactoryType(false).GetClass(1)->GetContainerName(), "Class");
-    EXPECT_EQ(DataProcessorClassFactoryListType(false).GetDataProcessorClassFactory(1)->GetContainerName(),
-              "DataProcessorClassFactory");
 }
 
 /// Names that stand for an attribute in one class and an element in another, or for both in other letters.

@@ -274,45 +274,4 @@ TEST(DumpByQuery, WhatFailsIsNamedAndTheRestIsWritten) {
     }
 }
 
-int callsLeft = 0;
-
-void FailInTime(const char*) {
-    if (callsLeft-- == 0) {
-        throw std::bad_alloc();
-    }
-}
-
-/// Both dumps with a fault at each call in turn, until one comes through. What is dumped in spite of it is not looked
-/// at: the document keeps it.
-TEST(Dumps, AFaultAtAnyCallLeavesTheFixedTextAndAWholeObject) {
-    for (const char* const type : {"ThreadChildListType", "PreProcessDataType"}) {
-        const auto object = MakeLoaded(ContainerCatalog::FindClass(type), 1);
-        const std::vector<std::string> lines = Samples::Lines(*object);
-        const std::string skeleton = Skeleton(*object, false);
-        for (const bool byQuery : {false, true}) {
-            bool isThrough = false;
-            int calls = 0;
-            for (; !isThrough && calls < 1000; ++calls) {
-                FullFunctionXMLDataWrapper output;
-                Prepare(output, skeleton);
-                object->SetLastError(0, "%s", "");
-                DOMNode* passed = nullptr;
-                callsLeft = calls;
-                Framework::faultFunction = &FailInTime;
-                const bool success = byQuery ? object->DumpMergeContents("", &output, -1, true)
-                                             : object->DumpMergeContentsII(nullptr, &output, passed, true);
-                Framework::faultFunction = nullptr;
-                isThrough = callsLeft >= 0;
-                ASSERT_EQ(success, isThrough) << calls;
-                ASSERT_EQ(object->GetLastError(), isThrough ? "" : "Unknown Exception occured in UpdateContainedData")
-                    << calls;
-                ASSERT_EQ(object->GetLastErrorNum(), isThrough ? 0 : -1);
-            }
-            EXPECT_GT(calls, 20);
-            EXPECT_TRUE(isThrough);
-            EXPECT_EQ(Samples::Lines(*object), lines);
-        }
-    }
-}
-
 } // namespace

@@ -137,15 +137,6 @@ TEST(Child, SetterTakesOverAndStoringTheSameChangesNothing) {
     EXPECT_EQ(root.GetStateTable(), nullptr);
 }
 
-TEST(DerivedClass, EachClassOfAChainHasItsOwnMark) {
-    ActionItemType item(false);
-    EXPECT_TRUE(item.AutoFillTypeInfo());
-    item.SetAutoFillTypeInfo(true);
-    static_cast<StateActionBasicType&>(item).SetAutoFillTypeInfo(false);
-    const std::unique_ptr<TypedDataContainer> clone(item.Clone());
-    EXPECT_TRUE(static_cast<ActionItemType&>(*clone).GetAutoFillTypeInfo());
-}
-
 TEST(Ownership, AWrapperMayDieOrBeReloadedUnderEverythingThatStandsOnIt) {
     auto wrapper = std::make_unique<XMLDataWrapper>();
     ASSERT_TRUE(wrapper->LoadXMLText(

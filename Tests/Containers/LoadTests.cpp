@@ -1,10 +1,7 @@
 // Loading: every class from orderly and from disorderly documents, and what a load does to an object that is in use.
 
+#include "Commands.h"
 #include "Containers/EveryClass.h"
-
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
 
 namespace {
 
@@ -94,8 +91,8 @@ TEST(Load, FailedLoadLeavesTheObjectAsItWas) {
 }
 
 TEST(Load, EverySourceGivesTheSameObject) {
-    const std::filesystem::path file =
-        std::filesystem::temp_directory_path() / ("load-" + std::to_string(getpid()) + ".xml");
+    const Framework::TemporaryFolder folder;
+    const std::string file = folder / "load.xml";
     ForEveryClass([&file](CatalogClass type) {
         Samples::Random random(8);
         const Samples::Sample sample = Samples::Make(type, "Somewhere", random);
@@ -103,7 +100,7 @@ TEST(Load, EverySourceGivesTheSameObject) {
         const std::string body = element.substr(element.find('\n') + 1);
         // Below another root, which bears the feature: the object is found by its name.
         const std::string xml = "<Outer FeatureID='Night'><Before/>" + body + "</Outer>";
-        std::ofstream(file) << xml;
+        Framework::WriteText(file, xml);
         ASSERT_TRUE(TypedDataContainer::RegisterTemplate("store", "Somewhere", xml));
         ASSERT_TRUE(TypedDataContainer::RegisterModel("model", "Somewhere", xml));
         XMLDataWrapper wrapper;
@@ -130,7 +127,6 @@ TEST(Load, EverySourceGivesTheSameObject) {
         expectLoaded("packet over a DOM",
                      [&](TypedDataContainer& o) { return o.LoadFromDataPacket(nullptr, &wrapper, false); });
     });
-    std::filesystem::remove(file);
 }
 
 TEST(Load, FeatureAndReadOnlyReachEverythingBelow) {
@@ -190,20 +186,6 @@ TEST(Load, DuplicateKeysAreReportedAndTheFirstStays) {
             }
         }
     });
-}
-
-TEST(Load, BrokenFileIsRefusedWithItsPlace) {
-    const auto object = ContainerCatalog::FindRoot("StateProcessingRoot").Create(false);
-    ASSERT_TRUE(object->LoadFromFile(nullptr, FRAMEWORK_EXAMPLES "/StateProcessingRoot.xml", false));
-    const std::vector<std::string> before = Samples::Lines(*object);
-    EXPECT_FALSE(object->LoadFromFile(nullptr, FRAMEWORK_EXAMPLES "/StateProcessingRoot.broken.xml", false));
-    EXPECT_NE(object->GetLastError().find("StateProcessingRoot.broken.xml:24:"), std::string::npos)
-        << object->GetLastError();
-    EXPECT_EQ(Samples::Lines(*object), before);
-    EXPECT_FALSE(object->LoadFromFile(nullptr, FRAMEWORK_EXAMPLES "/LoadConfig.xml", false));
-    EXPECT_NE(object->GetLastError().find("no element StateProcessingRoot"), std::string::npos)
-        << object->GetLastError();
-    EXPECT_EQ(Samples::Lines(*object), before);
 }
 
 } // namespace

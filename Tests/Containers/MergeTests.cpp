@@ -1,32 +1,12 @@
 // Merging with the default action, for every class: what the source names is taken over, the rest stays. The other
 // actions stand in MergeControlTests.cpp.
 
+#include "Commands.h"
 #include "Containers/EveryClass.h"
-
-#include <filesystem>
-#include <fstream>
 
 #include "FrameworkDataContainers/FrameworkDataContainers.h"
 
 namespace {
-
-TEST(Merge, ReplacesValuesGrowsListsAndMergesByKey) {
-    ForEveryClass([](CatalogClass type) {
-        for (unsigned seed = 1; seed <= 4; ++seed) {
-            Samples::Random random(seed);
-            const std::string name(type.ElementName());
-            Samples::Sample expected = Samples::Make(type, name, random, 1);
-            const Samples::Sample over = Samples::Make(type, name, random, 2); // shares some keys, brings others
-            const IssueRecorder recorder;
-            const auto object = type.Create(false);
-            ASSERT_TRUE(LoadText(*object, Samples::ToXml(expected, random, true)));
-            ASSERT_TRUE(MergeText(*object, "Night", Samples::ToXml(over, random, false))) << object->GetLastError();
-            Samples::Merge(expected, over);
-            EXPECT_EQ(Samples::Lines(*object), Samples::Lines(expected));
-            EXPECT_TRUE(recorder.issues.empty()) << recorder.issues.at(0).ErrorText;
-        }
-    });
-}
 
 TEST(Merge, EmptySourceChangesNothingAndUnloadedObjectBecomesValid) {
     ForEveryClass([](CatalogClass type) {
@@ -191,9 +171,9 @@ TEST(Merge, SourceIsLeftInOrder) {
 TEST(Merge, EverySourceMergesAlike) {
     const std::string xml = "<Outer><LoadConfig><ThreadChildList UniqueName='N'><ChildThread "
                             "UniqueName='C'/></ThreadChildList></LoadConfig></Outer>";
-    const std::filesystem::path file =
-        std::filesystem::temp_directory_path() / ("Night-" + std::to_string(getpid()) + ".xml");
-    std::ofstream(file) << xml;
+    const Framework::TemporaryFolder folder;
+    const std::string file = folder / "Late.xml";
+    Framework::WriteText(file, xml);
     ASSERT_TRUE(TypedDataContainer::RegisterTemplate("Nights", "LoadConfig", xml));
     ASSERT_TRUE(TypedDataContainer::RegisterModel("NightModel", "LoadConfig", xml));
     EXPECT_FALSE(TypedDataContainer::RegisterModel("NightModel", "LoadConfig", "<open>"));
@@ -212,7 +192,7 @@ TEST(Merge, EverySourceMergesAlike) {
         ASSERT_EQ(nested.GetChildThreadLength(), 2) << feature;
         EXPECT_EQ(nested.GetChildThread("C")->GetFeatureID(), feature);
     };
-    merged(file.stem().c_str(), [&](TypedDataContainer& o) { return o.MergeFromFile(nullptr, file.c_str()); });
+    merged("Late", [&](TypedDataContainer& o) { return o.MergeFromFile(nullptr, file.c_str()); });
     merged("Nights", [&](TypedDataContainer& o) { return o.MergeFromTemplate(nullptr, "Nights", "LoadConfig"); });
     merged("Nights", [&](TypedDataContainer& o) {
         return o.MergeFromTemplate(nullptr, "Nights", "LoadConfig", "LoadConfigType");
@@ -221,7 +201,6 @@ TEST(Merge, EverySourceMergesAlike) {
     merged("F", [&](TypedDataContainer& o) {
         return o.MergeFromDOMNode(nullptr, "F", wrapper.GetDOMNode("//LoadConfig", true));
     });
-    std::filesystem::remove(file);
 }
 
 TEST(Merge, WhatEveryClassTookFromTheSourceLivesOnWithoutIt) {
@@ -239,38 +218,6 @@ TEST(Merge, WhatEveryClassTookFromTheSourceLivesOnWithoutIt) {
             }
         }
     });
-}
-
-TEST(Merge, WhatWasAttachedToTheSourceLivesOnWithoutIt) {
-    StateProcessingRootType object(false);
-    ASSERT_TRUE(LoadText(object, "<StateProcessingRoot/>"));
-    auto source = std::make_unique<XMLDataWrapper>();
-    ASSERT_TRUE(source->LoadXMLText(
-        "<StateProcessingRoot><StateTable Name='N'><State Name='S'/></StateTable></StateProcessingRoot>", false));
-    ASSERT_TRUE(object.MergeFromDataPacket(nullptr, "F", source.get(), false));
-    StateTableType& table = *object.GetStateTable();
-    EXPECT_NE(table.GetContainedDataPtr(), source.get());
-    source->SetCurrentNode(nullptr);
-    ASSERT_TRUE(source->LoadXMLText("<Else/>", false)); // the caller goes on with its wrapper, then drops it
-    source.reset();
-    const std::unique_ptr<TypedDataContainer> clone(table.GetState(0)->Clone());
-    ASSERT_NE(clone, nullptr);
-    EXPECT_EQ(static_cast<StateDefinitionType&>(*clone).GetName(), "S");
-}
-
-TEST(Merge, ExampleOverrideOfTheStateTable) {
-    StateProcessingRootType root(false);
-    IssueRecorder recorder;
-    ASSERT_TRUE(root.InitializeConfig(FRAMEWORK_EXAMPLES "/StateProcessingRoot.xml", nullptr)) << root.GetLastError();
-    const int states = root.GetStateTable()->GetStateLength();
-    EXPECT_GE(states, 25);
-    ASSERT_TRUE(root.MergeFromFile(nullptr, FRAMEWORK_EXAMPLES "/StateProcessingRoot.coupons.xml"))
-        << root.GetLastError();
-    EXPECT_TRUE(recorder.issues.empty());
-    EXPECT_EQ(root.GetVersion(), "4.2.1-C3");
-    EXPECT_EQ(root.GetStateTable()->GetStateLength(), states + 2);
-    EXPECT_EQ(root.GetStateTable()->GetState("CouponEntry")->GetFeatureID(), "Coupons");
-    EXPECT_EQ(root.GetStateTable()->GetState("Coupon")->GetBaseState(), "CouponEntry");
 }
 
 } // namespace
