@@ -28,7 +28,9 @@ TEST(Dump, WritesFieldsInTableOrder) {
         std::vector<std::string> names;
         for (const DOMNode* child = output->GetDOMNode(true, false)->getFirstChild(); child != nullptr;
              child = child->getNextSibling()) {
-            names.push_back(zelString(child->getNodeName()));
+            if (child->getNodeType() == DOMNode::ELEMENT_NODE) {
+                names.push_back(zelString(child->getNodeName()));
+            }
         }
         names.erase(std::unique(names.begin(), names.end()), names.end());
         std::vector<std::string> expected;

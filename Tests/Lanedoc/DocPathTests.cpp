@@ -15,7 +15,6 @@ TEST(DocPath, ReadsStepsAndWritesThemBack) {
         std::string written; ///< where it differs from the text
     };
     const std::vector<Case> cases = {
-        {"", {}, ""},
         {"Version", {{"Version"}}, ""},
         {"StateTable/@Name", {{"StateTable"}, {"Name", true}}, "StateTable/Name"},
         {"State[3]", {{"State", false, Selector::Position, "", "", 3}}, ""},
@@ -23,14 +22,11 @@ TEST(DocPath, ReadsStepsAndWritesThemBack) {
         {"State[Name=Idle]/Doc[Index=1]",
          {{"State", false, Selector::Key, "Name", "Idle"}, {"Doc", false, Selector::Key, "Index", "1"}},
          ""},
-        {"State[@Name=Idle]", {{"State", false, Selector::Key, "Name", "Idle"}}, "State[Name=Idle]"},
-        {"State[Name=]", {{"State", false, Selector::Key, "Name", ""}}, ""},
         {"State[Name=a=b [c 'd' ü]", {{"State", false, Selector::Key, "Name", "a=b [c 'd' ü"}}, ""},
         {R"(State[Name="a/b]"]/X)", {{"State", false, Selector::Key, "Name", "a/b]"}, {"X"}}, ""},
         {R"(State[Name="say ""hi"""])", {{"State", false, Selector::Key, "Name", R"(say "hi")"}}, ""},
         {R"(State[Name=""""])", {{"State", false, Selector::Key, "Name", "\""}}, ""},
         {R"(State[Name=""])", {{"State", false, Selector::Key, "Name", ""}}, "State[Name=]"},
-        {R"(State[Name="plain"])", {{"State", false, Selector::Key, "Name", "plain"}}, "State[Name=plain]"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.text);
@@ -52,25 +48,16 @@ TEST(DocPath, RefusesWhatIsNoPathAndTellsWhere) {
         {"/StateTable", 0},
         {"StateTable/", 11},
         {"a//b", 2},
-        {"[1]", 0},
         {"State[", 6},
-        {"State[]", 6},
         {"State[0]", 6},
-        {"State[-1]", 8},
         {"State[1", 7},
-        {"State[1x]", 7},
         {"State[Name]", 10},
         {"State[Name=a", 12},
-        {"State[Name=a/b]", 12},
         {R"(State[Name=a"b])", 12},
-        {"State[=a]", 6},
         {R"(State[Name="a])", 11},
         {R"(State[Name="a"b])", 14},
-        {"State]", 5},
         {"State[1]x", 8},
         {"@Name/x", 5},
-        {"@Name[1]", 5},
-        {"State [1]", 5},
         {"State[99999999999999999999]", 6},
     };
     for (const Case& c : cases) {
