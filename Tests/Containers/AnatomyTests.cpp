@@ -15,15 +15,6 @@ Pairs Contents(ParameterList& list) {
     return pairs;
 }
 
-/// A loaded object in which every field holds something.
-std::unique_ptr<TypedDataContainer> MakeFull(CatalogClass type, unsigned seed = 1) {
-    Samples::Random random(seed);
-    const Samples::Sample sample = Samples::Make(type, std::string(type.ElementName()), random, 1, true);
-    std::unique_ptr<TypedDataContainer> object = type.Create(false);
-    EXPECT_TRUE(LoadText(*object, Samples::ToXml(sample, random, false))) << object->GetLastError();
-    return object;
-}
-
 TEST(Anatomy, NewObjectHoldsNamesAndDefaults) {
     ForEveryClass([](CatalogClass type) {
         const auto object = type.Create(false);
@@ -42,7 +33,7 @@ TEST(Anatomy, NewObjectHoldsNamesAndDefaults) {
 
 TEST(Anatomy, PredicateHoldsEveryAttributeToTheBlank) {
     ForEveryClass([](CatalogClass type) {
-        const auto object = MakeFull(type);
+        const auto object = MakeLoaded(type, 1, true);
         std::string expected;
         Pairs expectedPairs;
         for (const CatalogField& field : type.Fields()) {
@@ -61,7 +52,7 @@ TEST(Anatomy, PredicateHoldsEveryAttributeToTheBlank) {
 
 TEST(Anatomy, PropertiesAreTheClassesOwnScalars) {
     ForEveryClass([](CatalogClass type) {
-        const auto object = MakeFull(type);
+        const auto object = MakeLoaded(type, 1, true);
         Pairs expected{{"kept", "before"}};
         for (const CatalogField& field : type.OwnFields()) {
             if (field.IsScalar() && field.GetValue() != CatalogField::Enumeration) {
@@ -92,7 +83,7 @@ void ExpectReset(TypedDataContainer& object) {
 
 TEST(Anatomy, ResetEqualsNewAndKeepsChildrenNameFeatureAndData) {
     ForEveryClass([](CatalogClass type) {
-        const auto object = MakeFull(type);
+        const auto object = MakeLoaded(type, 1, true);
         object->SetContainerName("Renamed");
         object->SetFeatureID("F");
         object->ResetDataMembers();
@@ -149,7 +140,7 @@ void ExpectEveryEntryClones(TypedDataContainer& object) {
 TEST(Anatomy, EntriesAndChildrenCloneFromTheirOwnNode) {
     for (const std::string_view root : ContainerCatalog::Roots()) {
         SCOPED_TRACE(std::string(root));
-        ExpectEveryEntryClones(*MakeFull(ContainerCatalog::FindRoot(root)));
+        ExpectEveryEntryClones(*MakeLoaded(ContainerCatalog::FindRoot(root), 1, true));
     }
 }
 

@@ -21,6 +21,13 @@ inline void ForEveryClass(const std::function<void(CatalogClass)>& check) {
     }
 }
 
+/// A made-up document of the class.
+inline std::string SampleText(CatalogClass type, unsigned seed, bool everything = false, bool noise = false) {
+    Samples::Random random(seed);
+    const Samples::Sample sample = Samples::Make(type, std::string(type.ElementName()), random, 1, everything);
+    return Samples::ToXml(sample, random, noise);
+}
+
 /// Collects what goes to the override log while it lives.
 class IssueRecorder {
 public:
@@ -42,6 +49,14 @@ inline bool LoadText(TypedDataContainer& object, const std::string& xml, bool re
     XMLDataWrapper wrapper;
     EXPECT_TRUE(wrapper.LoadXMLText(xml, readOnly)) << wrapper.GetLastError();
     return object.LoadFromDataPacket(nullptr, &wrapper, readOnly);
+}
+
+/// An object with a wrapper of its own, loaded from a made-up document.
+inline std::unique_ptr<TypedDataContainer> MakeLoaded(CatalogClass type, unsigned seed, bool everything = false,
+                                                      bool noise = false) {
+    std::unique_ptr<TypedDataContainer> object = type.Create(false);
+    EXPECT_TRUE(LoadText(*object, SampleText(type, seed, everything, noise))) << object->GetLastError();
+    return object;
 }
 
 /// Merges from text through a wrapper that is gone when this returns.

@@ -59,10 +59,8 @@ TEST(Load, LaterElementWinsAndChildIsFilledTwice) {
 TEST(Load, SecondLoadStartsFromNothing) {
     ForEveryClass([](CatalogClass type) {
         Samples::Random random(5);
-        const std::string name(type.ElementName());
-        const auto object = type.Create(false);
-        ASSERT_TRUE(LoadText(*object, Samples::ToXml(Samples::Make(type, name, random, 1, true), random, false)));
-        const Samples::Sample second = Samples::Make(type, name, random);
+        const auto object = MakeLoaded(type, 5, true);
+        const Samples::Sample second = Samples::Make(type, std::string(type.ElementName()), random);
         ASSERT_TRUE(LoadText(*object, Samples::ToXml(second, random, false)));
         EXPECT_EQ(Samples::Lines(*object), Samples::Lines(second));
     });
@@ -70,10 +68,7 @@ TEST(Load, SecondLoadStartsFromNothing) {
 
 TEST(Load, FailedLoadLeavesTheObjectAsItWas) {
     ForEveryClass([](CatalogClass type) {
-        Samples::Random random(6);
-        const auto object = type.Create(false);
-        ASSERT_TRUE(LoadText(
-            *object, Samples::ToXml(Samples::Make(type, std::string(type.ElementName()), random), random, false)));
+        const auto object = MakeLoaded(type, 6);
         const std::vector<std::string> before = Samples::Lines(*object);
         XMLDataWrapper empty;
         XMLDataWrapper other;
@@ -145,12 +140,10 @@ TEST(Load, FeatureAndReadOnlyReachEverythingBelow) {
         }
     };
     for (const std::string_view root : ContainerCatalog::Roots()) {
-        Samples::Random random(9);
         const CatalogClass type = ContainerCatalog::FindRoot(root);
         const auto object = type.Create(false);
         object->SetFeatureID("F");
-        ASSERT_TRUE(LoadText(
-            *object, Samples::ToXml(Samples::Make(type, std::string(root), random, 1, true), random, true), true));
+        ASSERT_TRUE(LoadText(*object, SampleText(type, 9, true, true), true));
         check(check, *object);
     }
 }

@@ -10,13 +10,11 @@ namespace {
 
 TEST(Merge, EmptySourceChangesNothingAndUnloadedObjectBecomesValid) {
     ForEveryClass([](CatalogClass type) {
-        Samples::Random random(3);
         const std::string name(type.ElementName());
-        const Samples::Sample sample = Samples::Make(type, name, random);
-        const auto object = type.Create(false);
-        ASSERT_TRUE(LoadText(*object, Samples::ToXml(sample, random, false)));
+        const auto object = MakeLoaded(type, 3);
+        const std::vector<std::string> before = Samples::Lines(*object);
         ASSERT_TRUE(MergeText(*object, "F", "<" + name + "><Unknown/></" + name + ">"));
-        EXPECT_EQ(Samples::Lines(*object), Samples::Lines(sample));
+        EXPECT_EQ(Samples::Lines(*object), before);
         const auto fresh = type.Create(false);
         ASSERT_TRUE(MergeText(*fresh, "F", "<" + name + "/>"));
         EXPECT_TRUE(fresh->Valid());
@@ -26,11 +24,9 @@ TEST(Merge, EmptySourceChangesNothingAndUnloadedObjectBecomesValid) {
 
 TEST(Merge, SourceThatCannotBeReadChangesNothing) {
     ForEveryClass([](CatalogClass type) {
-        Samples::Random random(4);
         const auto object = type.Create(false);
         object->SetFeatureID("Base");
-        ASSERT_TRUE(LoadText(
-            *object, Samples::ToXml(Samples::Make(type, std::string(type.ElementName()), random), random, false)));
+        ASSERT_TRUE(LoadText(*object, SampleText(type, 4)));
         const std::vector<std::string> before = Samples::Lines(*object);
         IssueRecorder recorder;
         XMLDataWrapper empty;
@@ -205,10 +201,8 @@ TEST(Merge, EverySourceMergesAlike) {
 
 TEST(Merge, WhatEveryClassTookFromTheSourceLivesOnWithoutIt) {
     ForEveryClass([](CatalogClass type) {
-        Samples::Random random(7);
         const auto object = type.Create(false);
-        const Samples::Sample sample = Samples::Make(type, std::string(type.ElementName()), random, 1, true);
-        ASSERT_TRUE(MergeText(*object, "F", Samples::ToXml(sample, random, false)));
+        ASSERT_TRUE(MergeText(*object, "F", SampleText(type, 7, true)));
         for (const CatalogField& field : type.Fields()) {
             TypedDataContainer* const part = field.IsList() ? field.Entry(*object, 0) : field.GetChild(*object);
             if (part != nullptr) {

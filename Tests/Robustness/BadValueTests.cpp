@@ -45,14 +45,9 @@ void SetPastTheCatalogue(const Value& value, const std::string& text) {
     ASSERT_EQ(value.Get(), text);
 }
 
-std::string SampleText(CatalogClass type) {
-    Samples::Random random(7);
-    return Samples::ToXml(Samples::Make(type, std::string(type.ElementName()), random), random, false);
-}
-
 TEST(EveryValue, ComesBackFromAnUpdateAndADump) {
     ForEveryClass([](CatalogClass type) {
-        Loaded loaded(type, SampleText(type));
+        Loaded loaded(type, SampleText(type, 7));
         for (std::size_t shift = 0; shift < std::size(goodTexts); ++shift) {
             std::size_t number = shift;
             for (const Value& value : ValuesOf(*loaded.object)) {
@@ -76,7 +71,7 @@ TEST(EveryValue, ComesBackFromAnUpdateAndADump) {
 TEST(EveryValue, ThatXmlCannotHoldIsRefusedByName) {
     std::set<std::pair<std::string, std::string_view>> seen; // by class and field
     ForEveryClass([&](CatalogClass type) {
-        const std::string text = SampleText(type);
+        const std::string text = SampleText(type, 7);
         Loaded loaded(type, text);
         std::size_t number = 0;
         for (const Value& value : ValuesOf(*loaded.object)) {

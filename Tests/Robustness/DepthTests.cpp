@@ -5,6 +5,7 @@
 #include <pthread.h>
 
 #include "Framework/LoadLimits.h"
+#include "Repeat.h"
 #include "Robustness/Sizes.h"
 
 namespace {
@@ -24,19 +25,10 @@ void OnLittleStack(const std::function<void()>& work) {
     pthread_attr_destroy(&attributes);
 }
 
-std::string Times(std::size_t count, const std::string& text) {
-    std::string all;
-    all.reserve(count * text.size());
-    for (std::size_t i = 0; i < count; ++i) {
-        all += text;
-    }
-    return all;
-}
-
 struct DeepDocument {
     DeepDocument() {
         const std::size_t depth = Robustness::FullSizes() ? 1'000'000 : 30'000;
-        text = "<CommConfig><CommEntry name='a'>" + Times(depth, "<d>") + "<Name>old</Name>" + Times(depth, "</d>") +
+        text = "<CommConfig><CommEntry name='a'>" + Repeat("<d>", depth) + "<Name>old</Name>" + Repeat("</d>", depth) +
                "</CommEntry></CommConfig>";
     }
     std::string text;

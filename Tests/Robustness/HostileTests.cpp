@@ -308,12 +308,6 @@ private:
 
 // --- the judge of a whole table
 
-/// A document of the class with every field.
-std::string GoodDocument(const std::string& root) {
-    Samples::Random random(7);
-    return Samples::ToXml(Samples::Make(ContainerCatalog::FindRoot(root), root, random, 1, true), random, false);
-}
-
 /// What the system itself reads to turn another encoding into UTF-8.
 bool IsConversion(const std::string& call) {
     return call.find("/gconv/") != call.npos || call == "openat /etc/ld.so.cache";
@@ -349,7 +343,7 @@ Figures JudgeTogether(const std::vector<Case>& cases) {
         std::ofstream(each.path, std::ios::binary) << each.document->text(each.size);
         mayBeOpened.insert("openat " + each.path);
         if (good.find(each.document->root) == good.end()) {
-            good[each.document->root] = GoodDocument(each.document->root);
+            good[each.document->root] = SampleText(ContainerCatalog::FindRoot(each.document->root), 7, true);
         }
     }
     const Watched watched = RunWatched(kSanitized ? 300 : 60, [&](Watch& watch) {

@@ -72,15 +72,6 @@ std::vector<std::string> Choices(std::size_t count, const std::string& start, co
 
 } // namespace
 
-std::string Repeat(std::string_view piece, std::size_t times) {
-    std::string text;
-    text.reserve(piece.size() * times);
-    while (times-- > 0) {
-        text += piece;
-    }
-    return text;
-}
-
 std::string Join(std::size_t count, const std::function<std::string(std::size_t)>& piece) {
     std::string text;
     for (std::size_t number = 0; number < count; ++number) {

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-namespace Robustness {
+#include "Repeat.h"
 
-std::string Repeat(std::string_view piece, std::size_t times);
+namespace Robustness {
 
 /// What `piece` makes of 0, 1, 2 ..., joined.
 std::string Join(std::size_t count, const std::function<std::string(std::size_t)>& piece);

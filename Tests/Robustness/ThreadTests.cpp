@@ -38,11 +38,6 @@ void InThreads(unsigned count, const std::function<void(unsigned)>& work) {
     }
 }
 
-std::string SampleText(CatalogClass type, unsigned seed) {
-    Samples::Random random(seed);
-    return Samples::ToXml(Samples::Make(type, std::string(type.ElementName()), random), random, false);
-}
-
 /// Counts what goes to the override log, and keeps standard error quiet.
 class IssueCounter {
 public:

@@ -3,6 +3,8 @@
 #include "Framework/XMLSupport/ParseError.h"
 #include "Framework/XMLSupport/TextEncoding.h"
 
+#include "Repeat.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -32,22 +34,6 @@ std::string Encoded(std::string_view text, const std::string& encoding, bool mar
     return EncodeDocument(text, encoding, mark).value();
 }
 
-struct RefusalCase {
-    std::string source;
-    std::string_view start; // of what()
-};
-
-std::string Nested(std::size_t depth) {
-    std::string text;
-    for (std::size_t level = 0; level < depth; ++level) {
-        text += "<e>";
-    }
-    for (std::size_t level = 0; level < depth; ++level) {
-        text += "</e>";
-    }
-    return text;
-}
-
 std::string Attributes(std::size_t count) {
     std::string text = "<a";
     for (std::size_t number = 0; number < count; ++number) {
@@ -66,25 +52,21 @@ TEST(DocumentRefusal, RefusesWhatPassesALimitAndTellsHowToRaiseIt) {
     EXPECT_EQ(Refusal("<a k='1'>x<b/>\n<b/></a>", small),
               "f:2:1: the document has too many nodes, the limit is 5; raise "
               "LoadLimits::nodes with LoadLimits::Scope or SetDefault");
-    EXPECT_EQ(Refusal(Nested(256)), "accepted");
-    EXPECT_EQ(Refusal(Nested(257)),
+    EXPECT_EQ(Refusal(Repeat("<e>", 256) + Repeat("</e>", 256)), "accepted");
+    EXPECT_EQ(Refusal(Repeat("<e>", 257) + Repeat("</e>", 257)),
               "f:1:769: elements are nested too deeply, the limit is 256; raise LoadLimits::depth "
               "with LoadLimits::Scope or SetDefault");
     EXPECT_EQ(Refusal(Attributes(1000)), "accepted");
     EXPECT_TRUE(
         Refusal(Attributes(1001)).starts_with("f:1:7894: too many attributes in one tag, the limit is 1000; raise"));
-    std::string items = "<a>";
-    for (int number = 0; number < 3000; ++number) {
-        items += "<i/>";
-    }
-    items += "</a>";
+    const std::string items = "<a>" + Repeat("<i/>", 3000) + "</a>";
     LoadLimits hasty;
     hasty.cpuSeconds = 0;
     const std::string what = Refusal(items, hasty);
     EXPECT_NE(what.find("the limit is 0 s; raise LoadLimits::cpuSeconds"), what.npos) << what;
     hasty.cpuSeconds = 1000;
     EXPECT_EQ(Refusal(items, hasty), "accepted");
-    EXPECT_EQ(Refusal(Nested(5000), LoadLimits::None()), "accepted");
+    EXPECT_EQ(Refusal(Repeat("<e>", 5000) + Repeat("</e>", 5000), LoadLimits::None()), "accepted");
     EXPECT_EQ(Refusal(Attributes(5000), LoadLimits::None()), "accepted");
 }
 

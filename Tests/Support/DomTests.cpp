@@ -3,6 +3,7 @@
 #include "Framework/XMLSupport/Utf.h"
 #include "Framework/XMLSupport/XPathFallback.h"
 #include "Framework/XMLSupport/XmlRuntime.h"
+#include "Repeat.h"
 #include "TreeText.h"
 
 #include <set>
@@ -223,14 +224,6 @@ TEST(XPath, SelectsTheFirstNodeInDocumentOrder) {
             }
         }
     }
-}
-
-std::string Repeat(const std::string& text, int times) {
-    std::string all;
-    for (int i = 0; i < times; ++i) {
-        all += text;
-    }
-    return all;
 }
 
 TEST(XPath, RefusesWhatIsNoneOrTooMuch) {

@@ -1,12 +1,11 @@
 #include "Framework/XMLDataWrapper.h"
 
-#include <filesystem>
-#include <fstream>
+#include "Commands.h"
+
 #include <memory>
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 #include <xercesc/dom/DOM.hpp>
 
 namespace Framework {
@@ -42,14 +41,10 @@ std::string ListText(XMLDataWrapper& wrapper, const char* query) {
 /// A folder of the test's own, gone with it.
 class WrapperFiles : public testing::Test {
 protected:
-    WrapperFiles() : m_folder(std::filesystem::temp_directory_path() / ("wrapper-" + std::to_string(getpid()))) {
-        std::filesystem::create_directory(m_folder);
-    }
-    ~WrapperFiles() override { std::filesystem::remove_all(m_folder); }
     std::string Path(const char* name) const { return (m_folder / name).string(); }
 
 private:
-    std::filesystem::path m_folder;
+    const TemporaryFolder m_folder;
 };
 
 TEST(Wrapper, NamesAreRelativeToTheRootOrTheCurrentNode) {
