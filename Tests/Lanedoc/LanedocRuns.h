@@ -1,13 +1,6 @@
 #pragma once
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <string>
-
-#include <gtest/gtest.h>
-#include <sys/wait.h>
+#include "Commands.h"
 
 /// Runs the tool in a folder of its own, by shell, so that cases can redirect as people do.
 class LanedocRuns : public testing::Test {
@@ -19,17 +12,11 @@ protected:
     };
 
     void SetUp() override {
-        std::string name = testing::TempDir() + "lanedoc-XXXXXX";
-        ASSERT_NE(::mkdtemp(name.data()), nullptr);
-        m_folder = name;
-        std::filesystem::current_path(m_folder);
+        std::filesystem::current_path(m_folder.Path());
         std::filesystem::create_symlink(FRAMEWORK_EXAMPLES, "examples");
     }
 
-    void TearDown() override {
-        std::filesystem::current_path(m_folder.parent_path());
-        std::filesystem::remove_all(m_folder);
-    }
+    void TearDown() override { std::filesystem::current_path(m_folder.Path().parent_path()); }
 
     /// `arguments` in the shell's words; redirections of their own win.
     static Result Run(const std::string& arguments) {
@@ -38,15 +25,15 @@ protected:
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Get("out.txt"), Get("errors.txt")};
     }
 
-    static void Put(const std::string& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
+    static void Put(const std::string& path, const std::string& text) { Framework::WriteText(path, text); }
 
+    /// Empty when there is none.
     static std::string Get(const std::string& path) {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        return std::filesystem::exists(path) ? Framework::ReadText(path) : std::string();
     }
 
     static bool Holds(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
 private:
-    std::filesystem::path m_folder;
+    const Framework::TemporaryFolder m_folder;
 };

@@ -200,19 +200,4 @@ change.xml:1:97: warning: the attribute Transiet of State is no field and is pas
     EXPECT_FALSE(Holds(errors, "x20")) << errors;
 }
 
-TEST_F(LanedocMerge, MergesTheExampleFeaturesInAnyNumber) {
-    const std::string examples = "examples/StateProcessingRoot";
-    std::string merge = "merge " + examples + ".xml";
-    for (const char* const feature : {".loyalty.xml", ".ageverification.xml", ".nightmode.xml", ".coupons.xml"}) {
-        const Result alone = Run("merge " + examples + ".xml " + examples + feature + " --quiet");
-        EXPECT_EQ(alone.code, 0) << feature << alone.errors;
-        merge += " " + examples + feature;
-    }
-    const Result together = Run(merge + " --quiet");
-    EXPECT_EQ(together.code, 0) << together.errors;
-    const Result mistakes = Run("merge " + examples + ".xml " + examples + ".mistakes.xml");
-    EXPECT_EQ(mistakes.code, 4);
-    EXPECT_TRUE(Holds(mistakes.errors, " 7 problems; ")) << mistakes.errors;
-}
-
 } // namespace

@@ -2,6 +2,7 @@
 // into an object that holds something, each in a process of its own that may use little memory, little time, no file
 // but the document and no socket.
 
+#include "Commands.h"
 #include "Containers/EveryClass.h"
 #include "Containers/Values.h"
 #include "Framework/LoadLimits.h"
@@ -44,8 +45,7 @@ protected:
     }
 
     HostileDocumentTests() {
-        m_trap.folder = fs::temp_directory_path() / ("hostile." + std::to_string(::getpid()));
-        fs::create_directories(m_trap.folder);
+        m_trap.folder = m_folder.Path();
         const std::string word(kCanary);
         std::ofstream(m_trap.folder + "/canary.txt") << word;
         std::ofstream(m_trap.folder + "/canary.xml") << "<c>" << word << "</c>";
@@ -68,7 +68,6 @@ protected:
     ~HostileDocumentTests() override {
         ::close(m_listener);
         fs::current_path(m_folderBefore);
-        fs::remove_all(m_trap.folder);
     }
     void SetUp() override { ASSERT_NE(m_trap.port, 0); }
 
@@ -82,6 +81,7 @@ protected:
     void Judge(const HostileDocuments& documents);
 
 private:
+    const Framework::TemporaryFolder m_folder;
     Trap m_trap;
     fs::path m_folderBefore;
     int m_listener = -1;

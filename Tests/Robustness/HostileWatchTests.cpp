@@ -1,6 +1,7 @@
 // What the tests of hostile documents rest on: that the watch sees what it should, that the documents are live, and
 // that texts which are to collide do.
 
+#include "Commands.h"
 #include "Robustness/HostileDocuments.h"
 #include "Robustness/HostileTexts.h"
 #include "Robustness/HostileWatch.h"
@@ -53,14 +54,13 @@ TEST(HostileWatch, SeesWhoeverReachesOut) {
 
 /// A parser with its settings as they come does what these documents ask for: they would hurt whoever follows them.
 TEST(HostileWatch, DocumentsThatReachOutWouldDoSo) {
-    const fs::path folder = fs::temp_directory_path() / ("live." + std::to_string(::getpid()));
-    fs::create_directories(folder);
+    const Framework::TemporaryFolder folder;
     for (const char* const name : {"canary.txt", "canary.xml"}) {
         std::ofstream(folder / name) << "<c>" << kCanary << "</c>";
     }
     std::ofstream(folder / "canary.dtd") << "<!ENTITY c '" << kCanary << "'>";
     std::size_t live = 0;
-    for (const HostileDocument& document : DocumentsOf("Reaching", {folder, 9})) {
+    for (const HostileDocument& document : DocumentsOf("Reaching", {folder.Path(), 9})) {
         const std::string text = document.text(0);
         const bool readsFile = text.find("canary.") != text.npos && text.find("http:") == text.npos;
         if (document.refusal.empty() || !readsFile) {
@@ -79,7 +79,6 @@ TEST(HostileWatch, DocumentsThatReachOutWouldDoSo) {
         };
         live += std::any_of(watched.reached.begin(), watched.reached.end(), opened) ? 1 : 0;
     }
-    fs::remove_all(folder);
     EXPECT_GE(live, 6U);
 }
 

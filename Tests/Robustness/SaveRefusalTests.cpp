@@ -204,7 +204,7 @@ TEST(ReadingFiles, TakesNoMoreMemoryThanTheCap) {
                     error = refused.what();
                 }
             });
-            if (error != path + ": the file is too large" || (!kSanitized && cost.megabytes > megabytes + 2)) {
+            if (error != path + ": the file is too large" || (!kSanitized && cost.megabytes > megabytes + 3)) {
                 watch.Fail(path + ": " + error + ", " + std::to_string(cost.megabytes) + " MB");
             }
         }

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <thread>
 
+#include "Commands.h"
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -41,16 +42,10 @@ private:
 class AtomicFile : public testing::Test {
 protected:
     void SetUp() override {
-        std::string name = testing::TempDir() + "/atomic-XXXXXX";
-        ASSERT_NE(::mkdtemp(name.data()), nullptr);
-        m_folder = name;
         fs::permissions(m_folder, fs::perms{0755});
         std::ofstream(Path("old")) << "old";
     }
-    void TearDown() override {
-        fs::permissions(m_folder, fs::perms{0755});
-        fs::remove_all(m_folder);
-    }
+    void TearDown() override { fs::permissions(m_folder, fs::perms{0755}); }
 
     std::string Path(const std::string& name) const { return (m_folder / name).string(); }
 
@@ -83,7 +78,8 @@ protected:
         return names;
     }
 
-    fs::path m_folder;
+    const TemporaryFolder m_own;
+    const fs::path m_folder = m_own.Path();
 };
 
 TEST_F(AtomicFile, FollowsLinksAndRefusesDanglingOnes) {
