@@ -287,6 +287,14 @@ TEST(Update, FindsAddedTextsByTheirKey) {
     EXPECT_EQ(update("<Doc Index='7'>a</Doc>", false, {{"x", "7"}}), "<Doc Index='7'>a</Doc>"); // that is the first's
 }
 
+TEST(Update, LeavesATextThatOnlyTheDocumentHasChanged) {
+    Loaded loaded(ContainerCatalog::FindClass("StateDefinitionType"),
+                  "<StateDefinition><Doc>a</Doc></StateDefinition>");
+    ASSERT_TRUE(loaded.wrapper.SetQueryValue("Doc", "theirs", true));
+    EXPECT_TRUE(loaded.object->UpdateContainedData());
+    EXPECT_EQ(loaded.Text(), "<StateDefinition><Doc>theirs</Doc></StateDefinition>");
+}
+
 TEST(Update, ForgetsWhatItWasPopulatedFromBeforeAReset) {
     XMLDataWrapper wrapper;
     const std::string xml = "<L><ChildThread><LibraryPath>p</LibraryPath></ChildThread><ChildThread/></L>";
