@@ -64,7 +64,11 @@ void SetAttribute(DOMNode& node, DOMDocument& document, std::string_view name, s
     xercesc::DOMAttr* attribute = element.getAttributeNode(Units(unitsOfName));
     try {
         if (attribute != nullptr) {
-            SetAttributeText(*attribute, document, units);
+            // A dump sets all attributes again for each class an object derives from; to replace a text costs most of
+            // the dump.
+            if (units != attribute->getValue()) {
+                SetAttributeText(*attribute, document, units);
+            }
             return;
         }
         attribute = document.createAttribute(Units(unitsOfName));
