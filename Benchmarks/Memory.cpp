@@ -72,12 +72,11 @@ void Bench::MeasureMemory(const Works& works, const std::vector<Document>& docum
         }
         const std::string file = "/dev/shm/FrameworkBenchmark." + std::to_string(getpid()) + ".xml";
         std::ofstream(file) << document.text;
-        for (std::size_t i = 0; i < works.offers.size(); ++i) {
-            const Offer& offer = works.offers[i];
+        for (const Offer& offer : works.offers) {
             if ((offer.work == loadWork || offer.work == readOnlyWork) && IsWanted(offer, document, filter)) {
                 const char* const kind = document.kind == Kind::Translations ? " translations " : " states ";
-                const std::string output =
-                    OutputOf(Quoted(program) + ' ' + memoryFlag + ' ' + std::to_string(i) + kind + Quoted(file));
+                const std::string output = OutputOf(Quoted(program) + ' ' + memoryFlag + ' ' + Quoted(offer.work) +
+                                                    ' ' + Quoted(offer.contender) + kind + Quoted(file));
                 results.bytesPerByte[{offer.work, offer.contender, document.name}] =
                     std::stod(output) / static_cast<double>(document.text.size());
             }
@@ -87,10 +86,12 @@ void Bench::MeasureMemory(const Works& works, const std::vector<Document>& docum
 }
 
 int Bench::MeasureMemoryHere(const Works& works, const std::vector<std::string>& words) {
-    const Offer& offer = works.offers.at(std::stoul(words.at(0)));
-    const Kind kind = words.at(1) == "states" ? Kind::States : Kind::Translations;
-    std::ifstream file(words.at(2));
+    const auto offer = std::ranges::find_if(
+        works.offers, [&](const Offer& each) { return each.work == words.at(0) && each.contender == words.at(1); });
+    Require(offer != works.offers.end(), words.at(1) + " does not offer: " + words.at(0));
+    const Kind kind = words.at(2) == "states" ? Kind::States : Kind::Translations;
+    std::ifstream file(words.at(3));
     const Document document{"", kind, std::string(std::istreambuf_iterator<char>(file), {}), "", {}};
-    std::cout << PeakBytesOfLoad(offer, document) << '\n';
+    std::cout << PeakBytesOfLoad(*offer, document) << '\n';
     return 0;
 }

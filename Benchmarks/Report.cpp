@@ -74,7 +74,7 @@ void Print(std::ostream& to, const Section& section, Format format) {
             continue;
         }
         for (std::size_t k = 0; k < row.size(); ++k) {
-            to << Padded(row[k], k == 0 ? 42 : 9, k != 0);
+            to << Padded(row[k], k == 0 ? 42 : 12, k != 0);
         }
         to << '\n';
     }
