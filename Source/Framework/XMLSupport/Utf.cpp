@@ -177,9 +177,19 @@ std::u16string ToUtf16(std::string_view text) {
 void AppendUtf8(std::string& text, const XMLCh* pUnits, std::size_t length) {
     const auto isHigh = [](XMLCh unit) { return (unit & 0xFC00) == 0xD800; };
     const auto isLow = [](XMLCh unit) { return (unit & 0xFC00) == 0xDC00; };
+    const XMLCh* const end = pUnits + length;
     for (std::size_t i = 0; i < length; ++i) {
         const XMLCh unit = pUnits[i];
         char32_t character = unit;
+        if (unit < 0x80) { // nearly always, and then a whole run of it
+            const XMLCh* const start = pUnits + i;
+            const XMLCh* const behind = std::find_if(start, end, [](XMLCh next) { return next >= 0x80; });
+            const std::size_t before = text.size();
+            text.resize(before + static_cast<std::size_t>(behind - start));
+            std::transform(start, behind, text.data() + before, [](XMLCh next) { return static_cast<char>(next); });
+            i = static_cast<std::size_t>(behind - pUnits) - 1;
+            continue;
+        }
         if (isHigh(unit) && i + 1 < length && isLow(pUnits[i + 1])) {
             ++i;
             character = 0x10000 + ((char32_t{unit} & 0x3FF) << 10) + (char32_t{pUnits[i]} & 0x3FF);
