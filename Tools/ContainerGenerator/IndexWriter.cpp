@@ -40,6 +40,8 @@ std::string WriteIndexHeader() {
     code.Indent();
     code.Line("static std::span<const FieldTable* const> Tables();");
     code.Line("static std::span<const VocabularyTable> Vocabularies();");
+    code.Line();
+    code.Line("template <typename Container> static constexpr const FieldTable* Of() { return &Container::s_Table; }");
     code.Outdent();
     code.Line("};");
     code.Line();

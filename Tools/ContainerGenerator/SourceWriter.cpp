@@ -115,6 +115,7 @@ void WriteTable(CodeText& code, const Container& container) {
     code.Line(std::string(".isRoot = ") + (container.isRoot ? "true," : "false,"));
     code.Line(std::string(".rows = ") + (container.fields.empty() ? "{}," : "s_Rows,"));
     code.Line(".create = &Framework::CreateContainer<" + name + ">,");
+    code.Line(".type = &typeid(" + name + "),");
     code.Line(".autoFill = Framework::ToBase(&" + name + "::m_bAutoFillTypeInfo),");
     code.Outdent();
     code.Line("};");

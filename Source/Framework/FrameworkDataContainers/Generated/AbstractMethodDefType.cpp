@@ -18,6 +18,7 @@ constinit const Framework::FieldTable AbstractMethodDefType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<AbstractMethodDefType>,
+    .type = &typeid(AbstractMethodDefType),
     .autoFill = Framework::ToBase(&AbstractMethodDefType::m_bAutoFillTypeInfo),
 };
 // clang-format on

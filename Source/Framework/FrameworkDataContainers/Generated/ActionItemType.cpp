@@ -19,6 +19,7 @@ constinit const Framework::FieldTable ActionItemType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ActionItemType>,
+    .type = &typeid(ActionItemType),
     .autoFill = Framework::ToBase(&ActionItemType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable ActionRespType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ActionRespType>,
+    .type = &typeid(ActionRespType),
     .autoFill = Framework::ToBase(&ActionRespType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable AddItemRequestType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<AddItemRequestType>,
+    .type = &typeid(AddItemRequestType),
     .autoFill = Framework::ToBase(&AddItemRequestType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -23,6 +23,7 @@ constinit const Framework::FieldTable AddItemResponseType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<AddItemResponseType>,
+    .type = &typeid(AddItemResponseType),
     .autoFill = Framework::ToBase(&AddItemResponseType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -21,6 +21,7 @@ constinit const Framework::FieldTable AudioExpandPhraseConditionType::s_Table = 
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<AudioExpandPhraseConditionType>,
+    .type = &typeid(AudioExpandPhraseConditionType),
     .autoFill = Framework::ToBase(&AudioExpandPhraseConditionType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -21,6 +21,7 @@ constinit const Framework::FieldTable AudioExpandPhraseType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<AudioExpandPhraseType>,
+    .type = &typeid(AudioExpandPhraseType),
     .autoFill = Framework::ToBase(&AudioExpandPhraseType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable AudioExtensionSearchOrderType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<AudioExtensionSearchOrderType>,
+    .type = &typeid(AudioExtensionSearchOrderType),
     .autoFill = Framework::ToBase(&AudioExtensionSearchOrderType::m_bAutoFillTypeInfo),
 };
 // clang-format on

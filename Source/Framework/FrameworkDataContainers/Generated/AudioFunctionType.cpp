@@ -20,6 +20,7 @@ constinit const Framework::FieldTable AudioFunctionType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<AudioFunctionType>,
+    .type = &typeid(AudioFunctionType),
     .autoFill = Framework::ToBase(&AudioFunctionType::m_bAutoFillTypeInfo),
 };
 // clang-format on

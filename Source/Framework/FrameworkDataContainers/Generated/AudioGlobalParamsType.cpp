@@ -20,6 +20,7 @@ constinit const Framework::FieldTable AudioGlobalParamsType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<AudioGlobalParamsType>,
+    .type = &typeid(AudioGlobalParamsType),
     .autoFill = Framework::ToBase(&AudioGlobalParamsType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable AudioKeyMapType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<AudioKeyMapType>,
+    .type = &typeid(AudioKeyMapType),
     .autoFill = Framework::ToBase(&AudioKeyMapType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -24,6 +24,7 @@ constinit const Framework::FieldTable AudioLookupConfigType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<AudioLookupConfigType>,
+    .type = &typeid(AudioLookupConfigType),
     .autoFill = Framework::ToBase(&AudioLookupConfigType::m_bAutoFillTypeInfo),
 };
 // clang-format on

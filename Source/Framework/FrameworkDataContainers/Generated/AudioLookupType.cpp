@@ -27,6 +27,7 @@ constinit const Framework::FieldTable AudioLookupType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<AudioLookupType>,
+    .type = &typeid(AudioLookupType),
     .autoFill = Framework::ToBase(&AudioLookupType::m_bAutoFillTypeInfo),
 };
 // clang-format on

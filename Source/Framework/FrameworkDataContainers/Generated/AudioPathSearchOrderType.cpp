@@ -17,6 +17,7 @@ constinit const Framework::FieldTable AudioPathSearchOrderType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<AudioPathSearchOrderType>,
+    .type = &typeid(AudioPathSearchOrderType),
     .autoFill = Framework::ToBase(&AudioPathSearchOrderType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable AvailabilityType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<AvailabilityType>,
+    .type = &typeid(AvailabilityType),
     .autoFill = Framework::ToBase(&AvailabilityType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable BarCodeType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<BarCodeType>,
+    .type = &typeid(BarCodeType),
     .autoFill = Framework::ToBase(&BarCodeType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -20,6 +20,7 @@ constinit const Framework::FieldTable BasicClassFactoryType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<BasicClassFactoryType>,
+    .type = &typeid(BasicClassFactoryType),
     .autoFill = Framework::ToBase(&BasicClassFactoryType::m_bAutoFillTypeInfo),
 };
 // clang-format on

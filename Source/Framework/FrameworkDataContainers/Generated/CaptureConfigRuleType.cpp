@@ -18,6 +18,7 @@ constinit const Framework::FieldTable CaptureConfigRuleType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CaptureConfigRuleType>,
+    .type = &typeid(CaptureConfigRuleType),
     .autoFill = Framework::ToBase(&CaptureConfigRuleType::m_bAutoFillTypeInfo),
 };
 // clang-format on

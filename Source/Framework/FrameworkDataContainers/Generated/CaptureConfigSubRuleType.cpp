@@ -24,6 +24,7 @@ constinit const Framework::FieldTable CaptureConfigSubRuleType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CaptureConfigSubRuleType>,
+    .type = &typeid(CaptureConfigSubRuleType),
     .autoFill = Framework::ToBase(&CaptureConfigSubRuleType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -28,6 +28,7 @@ constinit const Framework::FieldTable CaptureConfigType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CaptureConfigType>,
+    .type = &typeid(CaptureConfigType),
     .autoFill = Framework::ToBase(&CaptureConfigType::m_bAutoFillTypeInfo),
 };
 // clang-format on

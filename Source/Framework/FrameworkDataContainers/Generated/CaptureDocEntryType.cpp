@@ -24,6 +24,7 @@ constinit const Framework::FieldTable CaptureDocEntryType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CaptureDocEntryType>,
+    .type = &typeid(CaptureDocEntryType),
     .autoFill = Framework::ToBase(&CaptureDocEntryType::m_bAutoFillTypeInfo),
 };
 // clang-format on

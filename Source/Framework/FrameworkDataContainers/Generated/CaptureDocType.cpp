@@ -18,6 +18,7 @@ constinit const Framework::FieldTable CaptureDocType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CaptureDocType>,
+    .type = &typeid(CaptureDocType),
     .autoFill = Framework::ToBase(&CaptureDocType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -23,6 +23,7 @@ constinit const Framework::FieldTable CaptureFileConfigType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CaptureFileConfigType>,
+    .type = &typeid(CaptureFileConfigType),
     .autoFill = Framework::ToBase(&CaptureFileConfigType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable CaptureHandlerType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CaptureHandlerType>,
+    .type = &typeid(CaptureHandlerType),
     .autoFill = Framework::ToBase(&CaptureHandlerType::m_bAutoFillTypeInfo),
 };
 // clang-format on

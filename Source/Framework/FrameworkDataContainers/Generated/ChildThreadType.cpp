@@ -25,6 +25,7 @@ constinit const Framework::FieldTable ChildThreadType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ChildThreadType>,
+    .type = &typeid(ChildThreadType),
     .autoFill = Framework::ToBase(&ChildThreadType::m_bAutoFillTypeInfo),
 };
 // clang-format on

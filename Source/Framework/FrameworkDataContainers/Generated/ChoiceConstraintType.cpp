@@ -18,6 +18,7 @@ constinit const Framework::FieldTable ChoiceConstraintType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ChoiceConstraintType>,
+    .type = &typeid(ChoiceConstraintType),
     .autoFill = Framework::ToBase(&ChoiceConstraintType::m_bAutoFillTypeInfo),
 };
 // clang-format on

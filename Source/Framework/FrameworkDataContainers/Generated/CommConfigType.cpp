@@ -18,6 +18,7 @@ constinit const Framework::FieldTable CommConfigType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CommConfigType>,
+    .type = &typeid(CommConfigType),
     .autoFill = Framework::ToBase(&CommConfigType::m_bAutoFillTypeInfo),
 };
 // clang-format on

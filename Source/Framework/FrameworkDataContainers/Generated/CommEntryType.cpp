@@ -25,6 +25,7 @@ constinit const Framework::FieldTable CommEntryType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CommEntryType>,
+    .type = &typeid(CommEntryType),
     .autoFill = Framework::ToBase(&CommEntryType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable CommEventTransformerListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CommEventTransformerListType>,
+    .type = &typeid(CommEventTransformerListType),
     .autoFill = Framework::ToBase(&CommEventTransformerListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -27,6 +27,7 @@ constinit const Framework::FieldTable CommParametersType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CommParametersType>,
+    .type = &typeid(CommParametersType),
     .autoFill = Framework::ToBase(&CommParametersType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable CommTransformerType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CommTransformerType>,
+    .type = &typeid(CommTransformerType),
     .autoFill = Framework::ToBase(&CommTransformerType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable ConfigDefDescriptionType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ConfigDefDescriptionType>,
+    .type = &typeid(ConfigDefDescriptionType),
     .autoFill = Framework::ToBase(&ConfigDefDescriptionType::m_bAutoFillTypeInfo),
 };
 // clang-format on

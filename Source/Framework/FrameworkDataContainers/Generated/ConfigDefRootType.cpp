@@ -22,6 +22,7 @@ constinit const Framework::FieldTable ConfigDefRootType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ConfigDefRootType>,
+    .type = &typeid(ConfigDefRootType),
     .autoFill = Framework::ToBase(&ConfigDefRootType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -22,6 +22,7 @@ constinit const Framework::FieldTable ConfigDefType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ConfigDefType>,
+    .type = &typeid(ConfigDefType),
     .autoFill = Framework::ToBase(&ConfigDefType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable ConfigLevelViewMapType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ConfigLevelViewMapType>,
+    .type = &typeid(ConfigLevelViewMapType),
     .autoFill = Framework::ToBase(&ConfigLevelViewMapType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -20,6 +20,7 @@ constinit const Framework::FieldTable ConfigLevelViewType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ConfigLevelViewType>,
+    .type = &typeid(ConfigLevelViewType),
     .autoFill = Framework::ToBase(&ConfigLevelViewType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable ConfigOptionType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ConfigOptionType>,
+    .type = &typeid(ConfigOptionType),
     .autoFill = Framework::ToBase(&ConfigOptionType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable ConfigSchemaDefType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ConfigSchemaDefType>,
+    .type = &typeid(ConfigSchemaDefType),
     .autoFill = Framework::ToBase(&ConfigSchemaDefType::m_bAutoFillTypeInfo),
 };
 // clang-format on

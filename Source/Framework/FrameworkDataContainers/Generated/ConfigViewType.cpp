@@ -20,6 +20,7 @@ constinit const Framework::FieldTable ConfigViewType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ConfigViewType>,
+    .type = &typeid(ConfigViewType),
     .autoFill = Framework::ToBase(&ConfigViewType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable ConfigurationDefinitionType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ConfigurationDefinitionType>,
+    .type = &typeid(ConfigurationDefinitionType),
     .autoFill = Framework::ToBase(&ConfigurationDefinitionType::m_bAutoFillTypeInfo),
 };
 // clang-format on

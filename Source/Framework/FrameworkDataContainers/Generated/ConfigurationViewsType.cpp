@@ -18,6 +18,7 @@ constinit const Framework::FieldTable ConfigurationViewsType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ConfigurationViewsType>,
+    .type = &typeid(ConfigurationViewsType),
     .autoFill = Framework::ToBase(&ConfigurationViewsType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -30,6 +30,7 @@ constinit const Framework::FieldTable ConstraintType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ConstraintType>,
+    .type = &typeid(ConstraintType),
     .autoFill = Framework::ToBase(&ConstraintType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -33,6 +33,7 @@ constinit const Framework::FieldTable CouponInfoType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CouponInfoType>,
+    .type = &typeid(CouponInfoType),
     .autoFill = Framework::ToBase(&CouponInfoType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable CurrencyAudioKeysType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CurrencyAudioKeysType>,
+    .type = &typeid(CurrencyAudioKeysType),
     .autoFill = Framework::ToBase(&CurrencyAudioKeysType::m_bAutoFillTypeInfo),
 };
 // clang-format on

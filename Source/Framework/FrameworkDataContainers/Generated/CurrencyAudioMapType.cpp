@@ -19,6 +19,7 @@ constinit const Framework::FieldTable CurrencyAudioMapType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<CurrencyAudioMapType>,
+    .type = &typeid(CurrencyAudioMapType),
     .autoFill = Framework::ToBase(&CurrencyAudioMapType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -21,6 +21,7 @@ constinit const Framework::FieldTable DBConfigParametersType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<DBConfigParametersType>,
+    .type = &typeid(DBConfigParametersType),
     .autoFill = Framework::ToBase(&DBConfigParametersType::m_bAutoFillTypeInfo),
 };
 // clang-format on

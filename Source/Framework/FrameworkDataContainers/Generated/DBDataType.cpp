@@ -23,6 +23,7 @@ constinit const Framework::FieldTable DBDataType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<DBDataType>,
+    .type = &typeid(DBDataType),
     .autoFill = Framework::ToBase(&DBDataType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable DBInterfaceListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<DBInterfaceListType>,
+    .type = &typeid(DBInterfaceListType),
     .autoFill = Framework::ToBase(&DBInterfaceListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable DBInterfaceType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<DBInterfaceType>,
+    .type = &typeid(DBInterfaceType),
     .autoFill = Framework::ToBase(&DBInterfaceType::m_bAutoFillTypeInfo),
 };
 // clang-format on

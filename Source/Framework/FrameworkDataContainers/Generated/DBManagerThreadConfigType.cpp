@@ -22,6 +22,7 @@ constinit const Framework::FieldTable DBManagerThreadConfigType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<DBManagerThreadConfigType>,
+    .type = &typeid(DBManagerThreadConfigType),
     .autoFill = Framework::ToBase(&DBManagerThreadConfigType::m_bAutoFillTypeInfo),
 };
 // clang-format on

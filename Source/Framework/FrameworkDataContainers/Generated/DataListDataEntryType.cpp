@@ -19,6 +19,7 @@ constinit const Framework::FieldTable DataListDataEntryType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<DataListDataEntryType>,
+    .type = &typeid(DataListDataEntryType),
     .autoFill = Framework::ToBase(&DataListDataEntryType::m_bAutoFillTypeInfo),
 };
 // clang-format on

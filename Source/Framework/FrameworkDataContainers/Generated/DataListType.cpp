@@ -18,6 +18,7 @@ constinit const Framework::FieldTable DataListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<DataListType>,
+    .type = &typeid(DataListType),
     .autoFill = Framework::ToBase(&DataListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

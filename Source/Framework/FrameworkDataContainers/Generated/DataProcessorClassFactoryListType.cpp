@@ -18,6 +18,7 @@ constinit const Framework::FieldTable DataProcessorClassFactoryListType::s_Table
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<DataProcessorClassFactoryListType>,
+    .type = &typeid(DataProcessorClassFactoryListType),
     .autoFill = Framework::ToBase(&DataProcessorClassFactoryListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

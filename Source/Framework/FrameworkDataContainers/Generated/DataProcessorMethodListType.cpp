@@ -18,6 +18,7 @@ constinit const Framework::FieldTable DataProcessorMethodListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<DataProcessorMethodListType>,
+    .type = &typeid(DataProcessorMethodListType),
     .autoFill = Framework::ToBase(&DataProcessorMethodListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

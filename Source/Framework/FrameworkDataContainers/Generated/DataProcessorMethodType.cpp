@@ -18,6 +18,7 @@ constinit const Framework::FieldTable DataProcessorMethodType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<DataProcessorMethodType>,
+    .type = &typeid(DataProcessorMethodType),
     .autoFill = Framework::ToBase(&DataProcessorMethodType::m_bAutoFillTypeInfo),
 };
 // clang-format on

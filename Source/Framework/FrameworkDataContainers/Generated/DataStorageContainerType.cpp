@@ -26,6 +26,7 @@ constinit const Framework::FieldTable DataStorageContainerType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<DataStorageContainerType>,
+    .type = &typeid(DataStorageContainerType),
     .autoFill = Framework::ToBase(&DataStorageContainerType::m_bAutoFillTypeInfo),
 };
 // clang-format on

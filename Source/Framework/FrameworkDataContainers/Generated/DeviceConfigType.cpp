@@ -18,6 +18,7 @@ constinit const Framework::FieldTable DeviceConfigType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<DeviceConfigType>,
+    .type = &typeid(DeviceConfigType),
     .autoFill = Framework::ToBase(&DeviceConfigType::m_bAutoFillTypeInfo),
 };
 // clang-format on

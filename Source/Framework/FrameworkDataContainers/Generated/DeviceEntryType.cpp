@@ -20,6 +20,7 @@ constinit const Framework::FieldTable DeviceEntryType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<DeviceEntryType>,
+    .type = &typeid(DeviceEntryType),
     .autoFill = Framework::ToBase(&DeviceEntryType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable EnumIterationType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<EnumIterationType>,
+    .type = &typeid(EnumIterationType),
     .autoFill = Framework::ToBase(&EnumIterationType::m_bAutoFillTypeInfo),
 };
 // clang-format on

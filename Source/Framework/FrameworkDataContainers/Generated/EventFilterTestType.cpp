@@ -22,6 +22,7 @@ constinit const Framework::FieldTable EventFilterTestType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<EventFilterTestType>,
+    .type = &typeid(EventFilterTestType),
     .autoFill = Framework::ToBase(&EventFilterTestType::m_bAutoFillTypeInfo),
 };
 // clang-format on

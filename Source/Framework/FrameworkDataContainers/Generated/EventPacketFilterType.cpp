@@ -20,6 +20,7 @@ constinit const Framework::FieldTable EventPacketFilterType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<EventPacketFilterType>,
+    .type = &typeid(EventPacketFilterType),
     .autoFill = Framework::ToBase(&EventPacketFilterType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable ExtendableDataEntryType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ExtendableDataEntryType>,
+    .type = &typeid(ExtendableDataEntryType),
     .autoFill = Framework::ToBase(&ExtendableDataEntryType::m_bAutoFillTypeInfo),
 };
 // clang-format on

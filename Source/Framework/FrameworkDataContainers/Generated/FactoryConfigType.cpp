@@ -18,6 +18,7 @@ constinit const Framework::FieldTable FactoryConfigType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<FactoryConfigType>,
+    .type = &typeid(FactoryConfigType),
     .autoFill = Framework::ToBase(&FactoryConfigType::m_bAutoFillTypeInfo),
 };
 // clang-format on

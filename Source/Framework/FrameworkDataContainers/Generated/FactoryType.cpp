@@ -20,6 +20,7 @@ constinit const Framework::FieldTable FactoryType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<FactoryType>,
+    .type = &typeid(FactoryType),
     .autoFill = Framework::ToBase(&FactoryType::m_bAutoFillTypeInfo),
 };
 // clang-format on

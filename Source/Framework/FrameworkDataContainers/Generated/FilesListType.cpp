@@ -18,6 +18,7 @@ constinit const Framework::FieldTable FilesListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<FilesListType>,
+    .type = &typeid(FilesListType),
     .autoFill = Framework::ToBase(&FilesListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

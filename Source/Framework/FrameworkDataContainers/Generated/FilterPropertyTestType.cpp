@@ -25,6 +25,7 @@ constinit const Framework::FieldTable FilterPropertyTestType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<FilterPropertyTestType>,
+    .type = &typeid(FilterPropertyTestType),
     .autoFill = Framework::ToBase(&FilterPropertyTestType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable FunctionHandlerMapType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<FunctionHandlerMapType>,
+    .type = &typeid(FunctionHandlerMapType),
     .autoFill = Framework::ToBase(&FunctionHandlerMapType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -20,6 +20,7 @@ constinit const Framework::FieldTable FunctionHandlerType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<FunctionHandlerType>,
+    .type = &typeid(FunctionHandlerType),
     .autoFill = Framework::ToBase(&FunctionHandlerType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable GUIConfigListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<GUIConfigListType>,
+    .type = &typeid(GUIConfigListType),
     .autoFill = Framework::ToBase(&GUIConfigListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

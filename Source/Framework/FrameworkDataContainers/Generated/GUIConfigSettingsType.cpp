@@ -19,6 +19,7 @@ constinit const Framework::FieldTable GUIConfigSettingsType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<GUIConfigSettingsType>,
+    .type = &typeid(GUIConfigSettingsType),
     .autoFill = Framework::ToBase(&GUIConfigSettingsType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable GUIConfigType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<GUIConfigType>,
+    .type = &typeid(GUIConfigType),
     .autoFill = Framework::ToBase(&GUIConfigType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -20,6 +20,7 @@ constinit const Framework::FieldTable GUIConfigurationsType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<GUIConfigurationsType>,
+    .type = &typeid(GUIConfigurationsType),
     .autoFill = Framework::ToBase(&GUIConfigurationsType::m_bAutoFillTypeInfo),
 };
 // clang-format on

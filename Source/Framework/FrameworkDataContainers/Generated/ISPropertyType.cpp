@@ -18,6 +18,7 @@ constinit const Framework::FieldTable ISPropertyType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ISPropertyType>,
+    .type = &typeid(ISPropertyType),
     .autoFill = Framework::ToBase(&ISPropertyType::m_bAutoFillTypeInfo),
 };
 // clang-format on

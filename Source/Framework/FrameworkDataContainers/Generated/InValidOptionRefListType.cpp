@@ -18,6 +18,7 @@ constinit const Framework::FieldTable InValidOptionRefListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<InValidOptionRefListType>,
+    .type = &typeid(InValidOptionRefListType),
     .autoFill = Framework::ToBase(&InValidOptionRefListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -21,6 +21,7 @@ constinit const Framework::FieldTable InValidOptionRefType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<InValidOptionRefType>,
+    .type = &typeid(InValidOptionRefType),
     .autoFill = Framework::ToBase(&InValidOptionRefType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable InterfaceSpecificPropertiesType::s_Table =
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<InterfaceSpecificPropertiesType>,
+    .type = &typeid(InterfaceSpecificPropertiesType),
     .autoFill = Framework::ToBase(&InterfaceSpecificPropertiesType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -33,6 +33,7 @@ constinit const Framework::FieldTable ItemHandlerLogDataType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ItemHandlerLogDataType>,
+    .type = &typeid(ItemHandlerLogDataType),
     .autoFill = Framework::ToBase(&ItemHandlerLogDataType::m_bAutoFillTypeInfo),
 };
 // clang-format on

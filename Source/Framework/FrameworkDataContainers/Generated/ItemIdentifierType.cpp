@@ -33,6 +33,7 @@ constinit const Framework::FieldTable ItemIdentifierType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ItemIdentifierType>,
+    .type = &typeid(ItemIdentifierType),
     .autoFill = Framework::ToBase(&ItemIdentifierType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable ItemIdentifyEntryType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ItemIdentifyEntryType>,
+    .type = &typeid(ItemIdentifyEntryType),
     .autoFill = Framework::ToBase(&ItemIdentifyEntryType::m_bAutoFillTypeInfo),
 };
 // clang-format on

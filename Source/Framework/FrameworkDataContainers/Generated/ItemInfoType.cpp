@@ -32,6 +32,7 @@ constinit const Framework::FieldTable ItemInfoType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ItemInfoType>,
+    .type = &typeid(ItemInfoType),
     .autoFill = Framework::ToBase(&ItemInfoType::m_bAutoFillTypeInfo),
 };
 // clang-format on

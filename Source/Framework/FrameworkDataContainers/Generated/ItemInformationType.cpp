@@ -53,6 +53,7 @@ constinit const Framework::FieldTable ItemInformationType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ItemInformationType>,
+    .type = &typeid(ItemInformationType),
     .autoFill = Framework::ToBase(&ItemInformationType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -23,6 +23,7 @@ constinit const Framework::FieldTable ItemPurchaseTrackingType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ItemPurchaseTrackingType>,
+    .type = &typeid(ItemPurchaseTrackingType),
     .autoFill = Framework::ToBase(&ItemPurchaseTrackingType::m_bAutoFillTypeInfo),
 };
 // clang-format on

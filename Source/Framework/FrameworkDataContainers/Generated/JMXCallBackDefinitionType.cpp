@@ -18,6 +18,7 @@ constinit const Framework::FieldTable JMXCallBackDefinitionType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<JMXCallBackDefinitionType>,
+    .type = &typeid(JMXCallBackDefinitionType),
     .autoFill = Framework::ToBase(&JMXCallBackDefinitionType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable JMXCallBackType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<JMXCallBackType>,
+    .type = &typeid(JMXCallBackType),
     .autoFill = Framework::ToBase(&JMXCallBackType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable JMXEventConfigurationType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<JMXEventConfigurationType>,
+    .type = &typeid(JMXEventConfigurationType),
     .autoFill = Framework::ToBase(&JMXEventConfigurationType::m_bAutoFillTypeInfo),
 };
 // clang-format on

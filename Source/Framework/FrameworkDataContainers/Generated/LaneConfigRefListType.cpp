@@ -19,6 +19,7 @@ constinit const Framework::FieldTable LaneConfigRefListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<LaneConfigRefListType>,
+    .type = &typeid(LaneConfigRefListType),
     .autoFill = Framework::ToBase(&LaneConfigRefListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable LaneManagerPacketType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<LaneManagerPacketType>,
+    .type = &typeid(LaneManagerPacketType),
     .autoFill = Framework::ToBase(&LaneManagerPacketType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable LanguageConfigType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<LanguageConfigType>,
+    .type = &typeid(LanguageConfigType),
     .autoFill = Framework::ToBase(&LanguageConfigType::m_bAutoFillTypeInfo),
 };
 // clang-format on

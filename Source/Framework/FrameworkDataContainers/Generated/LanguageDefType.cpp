@@ -20,6 +20,7 @@ constinit const Framework::FieldTable LanguageDefType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<LanguageDefType>,
+    .type = &typeid(LanguageDefType),
     .autoFill = Framework::ToBase(&LanguageDefType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable LanguageListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<LanguageListType>,
+    .type = &typeid(LanguageListType),
     .autoFill = Framework::ToBase(&LanguageListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -21,6 +21,7 @@ constinit const Framework::FieldTable LineItemInfoType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<LineItemInfoType>,
+    .type = &typeid(LineItemInfoType),
     .autoFill = Framework::ToBase(&LineItemInfoType::m_bAutoFillTypeInfo),
 };
 // clang-format on

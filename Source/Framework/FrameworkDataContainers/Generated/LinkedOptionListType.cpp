@@ -18,6 +18,7 @@ constinit const Framework::FieldTable LinkedOptionListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<LinkedOptionListType>,
+    .type = &typeid(LinkedOptionListType),
     .autoFill = Framework::ToBase(&LinkedOptionListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -21,6 +21,7 @@ constinit const Framework::FieldTable LinkedOptionType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<LinkedOptionType>,
+    .type = &typeid(LinkedOptionType),
     .autoFill = Framework::ToBase(&LinkedOptionType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable LoadConfigType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<LoadConfigType>,
+    .type = &typeid(LoadConfigType),
     .autoFill = Framework::ToBase(&LoadConfigType::m_bAutoFillTypeInfo),
 };
 // clang-format on

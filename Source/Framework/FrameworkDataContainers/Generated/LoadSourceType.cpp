@@ -19,6 +19,7 @@ constinit const Framework::FieldTable LoadSourceType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<LoadSourceType>,
+    .type = &typeid(LoadSourceType),
     .autoFill = Framework::ToBase(&LoadSourceType::m_bAutoFillTypeInfo),
 };
 // clang-format on

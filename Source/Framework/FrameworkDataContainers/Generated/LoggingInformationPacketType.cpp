@@ -25,6 +25,7 @@ constinit const Framework::FieldTable LoggingInformationPacketType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<LoggingInformationPacketType>,
+    .type = &typeid(LoggingInformationPacketType),
     .autoFill = Framework::ToBase(&LoggingInformationPacketType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable LoggingRuleType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<LoggingRuleType>,
+    .type = &typeid(LoggingRuleType),
     .autoFill = Framework::ToBase(&LoggingRuleType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable LoggingRulesListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<LoggingRulesListType>,
+    .type = &typeid(LoggingRulesListType),
     .autoFill = Framework::ToBase(&LoggingRulesListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -45,6 +45,7 @@ constinit const Framework::FieldTable OptionsConfigDefType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<OptionsConfigDefType>,
+    .type = &typeid(OptionsConfigDefType),
     .autoFill = Framework::ToBase(&OptionsConfigDefType::m_bAutoFillTypeInfo),
 };
 // clang-format on

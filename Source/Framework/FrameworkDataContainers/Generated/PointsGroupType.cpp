@@ -19,6 +19,7 @@ constinit const Framework::FieldTable PointsGroupType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<PointsGroupType>,
+    .type = &typeid(PointsGroupType),
     .autoFill = Framework::ToBase(&PointsGroupType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -21,6 +21,7 @@ constinit const Framework::FieldTable PointsInfoType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<PointsInfoType>,
+    .type = &typeid(PointsInfoType),
     .autoFill = Framework::ToBase(&PointsInfoType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable PreProcessDataEntryType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<PreProcessDataEntryType>,
+    .type = &typeid(PreProcessDataEntryType),
     .autoFill = Framework::ToBase(&PreProcessDataEntryType::m_bAutoFillTypeInfo),
 };
 // clang-format on

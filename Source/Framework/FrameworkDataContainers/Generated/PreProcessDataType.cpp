@@ -18,6 +18,7 @@ constinit const Framework::FieldTable PreProcessDataType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<PreProcessDataType>,
+    .type = &typeid(PreProcessDataType),
     .autoFill = Framework::ToBase(&PreProcessDataType::m_bAutoFillTypeInfo),
 };
 // clang-format on

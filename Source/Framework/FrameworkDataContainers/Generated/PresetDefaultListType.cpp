@@ -18,6 +18,7 @@ constinit const Framework::FieldTable PresetDefaultListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<PresetDefaultListType>,
+    .type = &typeid(PresetDefaultListType),
     .autoFill = Framework::ToBase(&PresetDefaultListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -20,6 +20,7 @@ constinit const Framework::FieldTable ReferenceListConstraintType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ReferenceListConstraintType>,
+    .type = &typeid(ReferenceListConstraintType),
     .autoFill = Framework::ToBase(&ReferenceListConstraintType::m_bAutoFillTypeInfo),
 };
 // clang-format on

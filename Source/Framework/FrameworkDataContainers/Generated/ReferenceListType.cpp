@@ -18,6 +18,7 @@ constinit const Framework::FieldTable ReferenceListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ReferenceListType>,
+    .type = &typeid(ReferenceListType),
     .autoFill = Framework::ToBase(&ReferenceListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable ReferenceType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ReferenceType>,
+    .type = &typeid(ReferenceType),
     .autoFill = Framework::ToBase(&ReferenceType::m_bAutoFillTypeInfo),
 };
 // clang-format on

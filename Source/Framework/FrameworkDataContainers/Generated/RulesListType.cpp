@@ -18,6 +18,7 @@ constinit const Framework::FieldTable RulesListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<RulesListType>,
+    .type = &typeid(RulesListType),
     .autoFill = Framework::ToBase(&RulesListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -25,6 +25,7 @@ constinit const Framework::FieldTable SerialParametersType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<SerialParametersType>,
+    .type = &typeid(SerialParametersType),
     .autoFill = Framework::ToBase(&SerialParametersType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -24,6 +24,7 @@ constinit const Framework::FieldTable SimpleDataEntryType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<SimpleDataEntryType>,
+    .type = &typeid(SimpleDataEntryType),
     .autoFill = Framework::ToBase(&SimpleDataEntryType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable SourceLocationType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<SourceLocationType>,
+    .type = &typeid(SourceLocationType),
     .autoFill = Framework::ToBase(&SourceLocationType::m_bAutoFillTypeInfo),
 };
 // clang-format on

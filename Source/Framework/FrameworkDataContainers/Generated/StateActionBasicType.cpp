@@ -20,6 +20,7 @@ constinit const Framework::FieldTable StateActionBasicType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateActionBasicType>,
+    .type = &typeid(StateActionBasicType),
     .autoFill = Framework::ToBase(&StateActionBasicType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable StateActionDataEntryType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateActionDataEntryType>,
+    .type = &typeid(StateActionDataEntryType),
     .autoFill = Framework::ToBase(&StateActionDataEntryType::m_bAutoFillTypeInfo),
 };
 // clang-format on

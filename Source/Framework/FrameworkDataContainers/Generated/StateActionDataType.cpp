@@ -18,6 +18,7 @@ constinit const Framework::FieldTable StateActionDataType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateActionDataType>,
+    .type = &typeid(StateActionDataType),
     .autoFill = Framework::ToBase(&StateActionDataType::m_bAutoFillTypeInfo),
 };
 // clang-format on

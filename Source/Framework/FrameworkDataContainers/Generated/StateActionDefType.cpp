@@ -20,6 +20,7 @@ constinit const Framework::FieldTable StateActionDefType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateActionDefType>,
+    .type = &typeid(StateActionDefType),
     .autoFill = Framework::ToBase(&StateActionDefType::m_bAutoFillTypeInfo),
 };
 // clang-format on

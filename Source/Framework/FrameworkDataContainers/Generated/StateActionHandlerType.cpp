@@ -23,6 +23,7 @@ constinit const Framework::FieldTable StateActionHandlerType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateActionHandlerType>,
+    .type = &typeid(StateActionHandlerType),
     .autoFill = Framework::ToBase(&StateActionHandlerType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -22,6 +22,7 @@ constinit const Framework::FieldTable StateActionListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateActionListType>,
+    .type = &typeid(StateActionListType),
     .autoFill = Framework::ToBase(&StateActionListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable StateActionMapType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateActionMapType>,
+    .type = &typeid(StateActionMapType),
     .autoFill = Framework::ToBase(&StateActionMapType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -22,6 +22,7 @@ constinit const Framework::FieldTable StateActionParameterType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateActionParameterType>,
+    .type = &typeid(StateActionParameterType),
     .autoFill = Framework::ToBase(&StateActionParameterType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable StateActionParametersListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateActionParametersListType>,
+    .type = &typeid(StateActionParametersListType),
     .autoFill = Framework::ToBase(&StateActionParametersListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

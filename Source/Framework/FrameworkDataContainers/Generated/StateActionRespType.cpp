@@ -18,6 +18,7 @@ constinit const Framework::FieldTable StateActionRespType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateActionRespType>,
+    .type = &typeid(StateActionRespType),
     .autoFill = Framework::ToBase(&StateActionRespType::m_bAutoFillTypeInfo),
 };
 // clang-format on

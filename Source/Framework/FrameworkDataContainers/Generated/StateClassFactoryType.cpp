@@ -18,6 +18,7 @@ constinit const Framework::FieldTable StateClassFactoryType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateClassFactoryType>,
+    .type = &typeid(StateClassFactoryType),
     .autoFill = Framework::ToBase(&StateClassFactoryType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -26,6 +26,7 @@ constinit const Framework::FieldTable StateDefinitionType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateDefinitionType>,
+    .type = &typeid(StateDefinitionType),
     .autoFill = Framework::ToBase(&StateDefinitionType::m_bAutoFillTypeInfo),
 };
 // clang-format on

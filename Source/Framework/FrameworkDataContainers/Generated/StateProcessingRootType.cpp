@@ -20,6 +20,7 @@ constinit const Framework::FieldTable StateProcessingRootType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateProcessingRootType>,
+    .type = &typeid(StateProcessingRootType),
     .autoFill = Framework::ToBase(&StateProcessingRootType::m_bAutoFillTypeInfo),
 };
 // clang-format on

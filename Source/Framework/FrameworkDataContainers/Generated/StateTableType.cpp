@@ -22,6 +22,7 @@ constinit const Framework::FieldTable StateTableType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateTableType>,
+    .type = &typeid(StateTableType),
     .autoFill = Framework::ToBase(&StateTableType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable StateTriggerFilterDefType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateTriggerFilterDefType>,
+    .type = &typeid(StateTriggerFilterDefType),
     .autoFill = Framework::ToBase(&StateTriggerFilterDefType::m_bAutoFillTypeInfo),
 };
 // clang-format on

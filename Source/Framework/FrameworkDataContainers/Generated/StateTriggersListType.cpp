@@ -18,6 +18,7 @@ constinit const Framework::FieldTable StateTriggersListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StateTriggersListType>,
+    .type = &typeid(StateTriggersListType),
     .autoFill = Framework::ToBase(&StateTriggersListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -21,6 +21,7 @@ constinit const Framework::FieldTable StructConditionListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StructConditionListType>,
+    .type = &typeid(StructConditionListType),
     .autoFill = Framework::ToBase(&StructConditionListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

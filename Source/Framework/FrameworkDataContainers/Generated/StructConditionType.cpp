@@ -19,6 +19,7 @@ constinit const Framework::FieldTable StructConditionType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StructConditionType>,
+    .type = &typeid(StructConditionType),
     .autoFill = Framework::ToBase(&StructConditionType::m_bAutoFillTypeInfo),
 };
 // clang-format on

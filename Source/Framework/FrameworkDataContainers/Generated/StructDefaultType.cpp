@@ -20,6 +20,7 @@ constinit const Framework::FieldTable StructDefaultType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StructDefaultType>,
+    .type = &typeid(StructDefaultType),
     .autoFill = Framework::ToBase(&StructDefaultType::m_bAutoFillTypeInfo),
 };
 // clang-format on

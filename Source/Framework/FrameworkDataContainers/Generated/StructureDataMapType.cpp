@@ -19,6 +19,7 @@ constinit const Framework::FieldTable StructureDataMapType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StructureDataMapType>,
+    .type = &typeid(StructureDataMapType),
     .autoFill = Framework::ToBase(&StructureDataMapType::m_bAutoFillTypeInfo),
 };
 // clang-format on

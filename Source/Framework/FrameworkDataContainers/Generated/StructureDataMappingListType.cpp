@@ -18,6 +18,7 @@ constinit const Framework::FieldTable StructureDataMappingListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StructureDataMappingListType>,
+    .type = &typeid(StructureDataMappingListType),
     .autoFill = Framework::ToBase(&StructureDataMappingListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

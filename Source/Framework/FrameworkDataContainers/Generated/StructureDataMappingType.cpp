@@ -19,6 +19,7 @@ constinit const Framework::FieldTable StructureDataMappingType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StructureDataMappingType>,
+    .type = &typeid(StructureDataMappingType),
     .autoFill = Framework::ToBase(&StructureDataMappingType::m_bAutoFillTypeInfo),
 };
 // clang-format on

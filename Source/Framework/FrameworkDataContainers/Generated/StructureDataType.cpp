@@ -25,6 +25,7 @@ constinit const Framework::FieldTable StructureDataType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StructureDataType>,
+    .type = &typeid(StructureDataType),
     .autoFill = Framework::ToBase(&StructureDataType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable StructureEnumListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StructureEnumListType>,
+    .type = &typeid(StructureEnumListType),
     .autoFill = Framework::ToBase(&StructureEnumListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

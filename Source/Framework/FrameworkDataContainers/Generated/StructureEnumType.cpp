@@ -20,6 +20,7 @@ constinit const Framework::FieldTable StructureEnumType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StructureEnumType>,
+    .type = &typeid(StructureEnumType),
     .autoFill = Framework::ToBase(&StructureEnumType::m_bAutoFillTypeInfo),
 };
 // clang-format on

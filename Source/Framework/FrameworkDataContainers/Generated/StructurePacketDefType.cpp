@@ -20,6 +20,7 @@ constinit const Framework::FieldTable StructurePacketDefType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StructurePacketDefType>,
+    .type = &typeid(StructurePacketDefType),
     .autoFill = Framework::ToBase(&StructurePacketDefType::m_bAutoFillTypeInfo),
 };
 // clang-format on

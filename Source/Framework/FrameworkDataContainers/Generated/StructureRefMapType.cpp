@@ -27,6 +27,7 @@ constinit const Framework::FieldTable StructureRefMapType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StructureRefMapType>,
+    .type = &typeid(StructureRefMapType),
     .autoFill = Framework::ToBase(&StructureRefMapType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable StructureReferenceMapType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StructureReferenceMapType>,
+    .type = &typeid(StructureReferenceMapType),
     .autoFill = Framework::ToBase(&StructureReferenceMapType::m_bAutoFillTypeInfo),
 };
 // clang-format on

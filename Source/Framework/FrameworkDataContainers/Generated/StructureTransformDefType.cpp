@@ -24,6 +24,7 @@ constinit const Framework::FieldTable StructureTransformDefType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<StructureTransformDefType>,
+    .type = &typeid(StructureTransformDefType),
     .autoFill = Framework::ToBase(&StructureTransformDefType::m_bAutoFillTypeInfo),
 };
 // clang-format on

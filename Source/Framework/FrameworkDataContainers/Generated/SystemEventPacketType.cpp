@@ -28,6 +28,7 @@ constinit const Framework::FieldTable SystemEventPacketType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<SystemEventPacketType>,
+    .type = &typeid(SystemEventPacketType),
     .autoFill = Framework::ToBase(&SystemEventPacketType::m_bAutoFillTypeInfo),
 };
 // clang-format on

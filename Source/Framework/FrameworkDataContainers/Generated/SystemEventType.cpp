@@ -19,6 +19,7 @@ constinit const Framework::FieldTable SystemEventType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<SystemEventType>,
+    .type = &typeid(SystemEventType),
     .autoFill = Framework::ToBase(&SystemEventType::m_bAutoFillTypeInfo),
 };
 // clang-format on

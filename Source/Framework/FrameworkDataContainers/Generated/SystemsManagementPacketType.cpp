@@ -21,6 +21,7 @@ constinit const Framework::FieldTable SystemsManagementPacketType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<SystemsManagementPacketType>,
+    .type = &typeid(SystemsManagementPacketType),
     .autoFill = Framework::ToBase(&SystemsManagementPacketType::m_bAutoFillTypeInfo),
 };
 // clang-format on

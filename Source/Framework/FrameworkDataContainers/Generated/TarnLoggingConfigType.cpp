@@ -19,6 +19,7 @@ constinit const Framework::FieldTable TarnLoggingConfigType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<TarnLoggingConfigType>,
+    .type = &typeid(TarnLoggingConfigType),
     .autoFill = Framework::ToBase(&TarnLoggingConfigType::m_bAutoFillTypeInfo),
 };
 // clang-format on

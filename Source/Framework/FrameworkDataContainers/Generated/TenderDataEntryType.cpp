@@ -27,6 +27,7 @@ constinit const Framework::FieldTable TenderDataEntryType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<TenderDataEntryType>,
+    .type = &typeid(TenderDataEntryType),
     .autoFill = Framework::ToBase(&TenderDataEntryType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable TenderDataListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<TenderDataListType>,
+    .type = &typeid(TenderDataListType),
     .autoFill = Framework::ToBase(&TenderDataListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

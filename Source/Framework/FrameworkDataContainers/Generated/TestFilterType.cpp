@@ -22,6 +22,7 @@ constinit const Framework::FieldTable TestFilterType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<TestFilterType>,
+    .type = &typeid(TestFilterType),
     .autoFill = Framework::ToBase(&TestFilterType::m_bAutoFillTypeInfo),
 };
 // clang-format on

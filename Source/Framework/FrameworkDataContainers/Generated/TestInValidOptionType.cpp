@@ -18,6 +18,7 @@ constinit const Framework::FieldTable TestInValidOptionType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<TestInValidOptionType>,
+    .type = &typeid(TestInValidOptionType),
     .autoFill = Framework::ToBase(&TestInValidOptionType::m_bAutoFillTypeInfo),
 };
 // clang-format on

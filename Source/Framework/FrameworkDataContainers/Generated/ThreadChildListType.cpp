@@ -21,6 +21,7 @@ constinit const Framework::FieldTable ThreadChildListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ThreadChildListType>,
+    .type = &typeid(ThreadChildListType),
     .autoFill = Framework::ToBase(&ThreadChildListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

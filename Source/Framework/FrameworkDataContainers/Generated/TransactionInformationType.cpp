@@ -31,6 +31,7 @@ constinit const Framework::FieldTable TransactionInformationType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<TransactionInformationType>,
+    .type = &typeid(TransactionInformationType),
     .autoFill = Framework::ToBase(&TransactionInformationType::m_bAutoFillTypeInfo),
 };
 // clang-format on

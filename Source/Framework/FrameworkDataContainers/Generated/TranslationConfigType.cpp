@@ -18,6 +18,7 @@ constinit const Framework::FieldTable TranslationConfigType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<TranslationConfigType>,
+    .type = &typeid(TranslationConfigType),
     .autoFill = Framework::ToBase(&TranslationConfigType::m_bAutoFillTypeInfo),
 };
 // clang-format on

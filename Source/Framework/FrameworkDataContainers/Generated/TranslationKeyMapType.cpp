@@ -19,6 +19,7 @@ constinit const Framework::FieldTable TranslationKeyMapType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<TranslationKeyMapType>,
+    .type = &typeid(TranslationKeyMapType),
     .autoFill = Framework::ToBase(&TranslationKeyMapType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable TranslationTextType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<TranslationTextType>,
+    .type = &typeid(TranslationTextType),
     .autoFill = Framework::ToBase(&TranslationTextType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -21,6 +21,7 @@ constinit const Framework::FieldTable TranslationType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<TranslationType>,
+    .type = &typeid(TranslationType),
     .autoFill = Framework::ToBase(&TranslationType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable TriggerFiltersType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<TriggerFiltersType>,
+    .type = &typeid(TriggerFiltersType),
     .autoFill = Framework::ToBase(&TriggerFiltersType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable ValidationDefType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ValidationDefType>,
+    .type = &typeid(ValidationDefType),
     .autoFill = Framework::ToBase(&ValidationDefType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -20,6 +20,7 @@ constinit const Framework::FieldTable VarInputSourceType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<VarInputSourceType>,
+    .type = &typeid(VarInputSourceType),
     .autoFill = Framework::ToBase(&VarInputSourceType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable VarInputType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<VarInputType>,
+    .type = &typeid(VarInputType),
     .autoFill = Framework::ToBase(&VarInputType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable VendraConfigType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<VendraConfigType>,
+    .type = &typeid(VendraConfigType),
     .autoFill = Framework::ToBase(&VendraConfigType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable VendraDBConfigType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<VendraDBConfigType>,
+    .type = &typeid(VendraDBConfigType),
     .autoFill = Framework::ToBase(&VendraDBConfigType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -18,6 +18,7 @@ constinit const Framework::FieldTable ViewListType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ViewListType>,
+    .type = &typeid(ViewListType),
     .autoFill = Framework::ToBase(&ViewListType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -19,6 +19,7 @@ constinit const Framework::FieldTable ViewMapType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ViewMapType>,
+    .type = &typeid(ViewMapType),
     .autoFill = Framework::ToBase(&ViewMapType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -20,6 +20,7 @@ constinit const Framework::FieldTable VoiceCurrencyType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<VoiceCurrencyType>,
+    .type = &typeid(VoiceCurrencyType),
     .autoFill = Framework::ToBase(&VoiceCurrencyType::m_bAutoFillTypeInfo),
 };
 // clang-format on

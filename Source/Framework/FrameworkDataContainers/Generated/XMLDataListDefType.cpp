@@ -20,6 +20,7 @@ constinit const Framework::FieldTable XMLDataListDefType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<XMLDataListDefType>,
+    .type = &typeid(XMLDataListDefType),
     .autoFill = Framework::ToBase(&XMLDataListDefType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -3,10 +3,12 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <typeinfo>
 #include <vector>
 
 #include "Framework/TypedDataContainer.h"
 #include "Framework/TypedDataEnumeration.h"
+#include "FrameworkDataContainers/FieldTableIndex.h"
 
 /// The field table: what the generator says of a class, as constant data, and all that the walks know of it.
 ///
@@ -88,6 +90,7 @@ struct EnumThunks {
 /// An owned child, whatever its class.
 struct ChildThunks {
     TypedDataContainer* (*get)(TypedDataContainer& object);
+    const FieldTable* table;         ///< of the class that create gives
     TypedDataContainer* (*create)(); ///< a new child, bBuildFromScratch false; not yet stored
     void (*store)(TypedDataContainer& object, TypedDataContainer* child); ///< assigns the pointer, deletes nothing
 };
@@ -95,6 +98,7 @@ struct ChildThunks {
 /// The operations of a list that differ in type. Those on the object are virtual calls: a class derived by a host sees
 /// them.
 struct ListThunks {
+    const FieldTable* table = nullptr; ///< of the class that newEntry gives
     TypedDataContainer* (*newEntry)(bool bBuildFromScratch) = nullptr;
     void (*addEntry)(TypedDataContainer& object, XMLDataWrapper* pData, XalanNode* spNode,
                      const zelString& sName) = nullptr;
@@ -136,8 +140,15 @@ struct FieldTable {
     bool isRoot;                   ///< its element is the root of a document or packet
     std::span<const FieldRow> rows;
     TypedDataContainer* (*create)(bool bBuildFromScratch);
+    const std::type_info* type;
     bool TypedDataContainer::*autoFill; ///< the class's own m_bAutoFillTypeInfo
 };
+
+/// Whether the object is of the class of the table itself and of none that a host derived from it: then nothing that it
+/// does is overridden, and a walk may do at once what a virtual call would come to.
+inline bool IsExactly(const TypedDataContainer& object, const FieldTable& table) {
+    return typeid(object) == *table.type;
+}
 
 // --- rows
 // -------------------------------------------------------------------------------------------------------------------
@@ -231,6 +242,7 @@ template <auto Member> struct ChildOf;
 template <typename Class, typename Type, Type* Class::*Member> struct ChildOf<Member> {
     static constexpr ChildThunks thunks = {
         [](TypedDataContainer& object) -> TypedDataContainer* { return static_cast<Class&>(object).*Member; },
+        FieldTableIndex::Of<Type>(),
         []() -> TypedDataContainer* { return new Type(false); },
         [](TypedDataContainer& object, TypedDataContainer* child) {
             static_cast<Class&>(object).*Member = static_cast<Type*>(child);
@@ -267,6 +279,7 @@ template <typename Entry, auto KeyAccessor, typename Class,
           void (Class::*Add)(XMLDataWrapper*, XalanNode*, const zelString&), void (Class::*Clear)()>
 struct KeyedListOf<Entry, KeyAccessor, Add, Clear> {
     static constexpr ListThunks thunks = {
+        .table = FieldTableIndex::Of<Entry>(),
         .newEntry = [](bool bBuildFromScratch) -> TypedDataContainer* { return new Entry(bBuildFromScratch); },
         .addEntry = [](TypedDataContainer& object, XMLDataWrapper* pData, XalanNode* spNode,
                        const zelString& sName) { (static_cast<Class&>(object).*Add)(pData, spNode, sName); },
@@ -299,6 +312,7 @@ template <auto Add, auto Clear> struct KeyedTextsOf;
 template <typename Class, void (Class::*Add)(const zelString&, const zelString&), void (Class::*Clear)()>
 struct KeyedTextsOf<Add, Clear> {
     static constexpr ListThunks thunks = {
+        .table = nullptr,
         .newEntry = nullptr,
         .addEntry = nullptr,
         .addText = [](TypedDataContainer& object, const zelString& text,
@@ -331,6 +345,7 @@ template <typename Entry, auto Add, auto Clear> struct PlainListOf;
 template <typename Entry, typename Class, void (Class::*Add)(XMLDataWrapper*, XalanNode*), void (Class::*Clear)()>
 struct PlainListOf<Entry, Add, Clear> {
     static constexpr ListThunks thunks = {
+        .table = FieldTableIndex::Of<Entry>(),
         .newEntry = [](bool bBuildFromScratch) -> TypedDataContainer* { return new Entry(bBuildFromScratch); },
         .addEntry = [](TypedDataContainer& object, XMLDataWrapper* pData, XalanNode* spNode,
                        const zelString&) { (static_cast<Class&>(object).*Add)(pData, spNode); },
@@ -371,6 +386,7 @@ struct PlainTextsOf<Enum, Add, Clear> {
         }
     }
     static constexpr ListThunks thunks = {
+        .table = nullptr,
         .newEntry = nullptr,
         .addEntry = nullptr,
         .addText = [](TypedDataContainer& object, const zelString& text,

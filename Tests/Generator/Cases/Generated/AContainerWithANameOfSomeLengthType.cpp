@@ -19,6 +19,7 @@ constinit const Framework::FieldTable AContainerWithANameOfSomeLengthType::s_Tab
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<AContainerWithANameOfSomeLengthType>,
+    .type = &typeid(AContainerWithANameOfSomeLengthType),
     .autoFill = Framework::ToBase(&AContainerWithANameOfSomeLengthType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -20,6 +20,7 @@ constinit const Framework::FieldTable BasicType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<BasicType>,
+    .type = &typeid(BasicType),
     .autoFill = Framework::ToBase(&BasicType::m_bAutoFillTypeInfo),
 };
 // clang-format on

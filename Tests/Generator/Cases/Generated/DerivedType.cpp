@@ -18,6 +18,7 @@ constinit const Framework::FieldTable DerivedType::s_Table = {
     .isRoot = false,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<DerivedType>,
+    .type = &typeid(DerivedType),
     .autoFill = Framework::ToBase(&DerivedType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -13,6 +13,7 @@ constinit const Framework::FieldTable EmptyDerivedType::s_Table = {
     .isRoot = false,
     .rows = {},
     .create = &Framework::CreateContainer<EmptyDerivedType>,
+    .type = &typeid(EmptyDerivedType),
     .autoFill = Framework::ToBase(&EmptyDerivedType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -13,6 +13,7 @@ constinit const Framework::FieldTable EmptyType::s_Table = {
     .isRoot = false,
     .rows = {},
     .create = &Framework::CreateContainer<EmptyType>,
+    .type = &typeid(EmptyType),
     .autoFill = Framework::ToBase(&EmptyType::m_bAutoFillTypeInfo),
 };
 // clang-format on

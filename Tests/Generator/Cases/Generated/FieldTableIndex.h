@@ -12,6 +12,8 @@ struct VocabularyTable;
 struct FieldTableIndex {
     static std::span<const FieldTable* const> Tables();
     static std::span<const VocabularyTable> Vocabularies();
+
+    template <typename Container> static constexpr const FieldTable* Of() { return &Container::s_Table; }
 };
 
 } // namespace Framework

@@ -29,6 +29,7 @@ constinit const Framework::FieldTable ListsType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ListsType>,
+    .type = &typeid(ListsType),
     .autoFill = Framework::ToBase(&ListsType::m_bAutoFillTypeInfo),
 };
 // clang-format on

@@ -33,6 +33,7 @@ constinit const Framework::FieldTable ScalarsType::s_Table = {
     .isRoot = true,
     .rows = s_Rows,
     .create = &Framework::CreateContainer<ScalarsType>,
+    .type = &typeid(ScalarsType),
     .autoFill = Framework::ToBase(&ScalarsType::m_bAutoFillTypeInfo),
 };
 // clang-format on
