@@ -5,7 +5,7 @@
 #include <libxml/parser.h>
 #include <libxml/tree.h>
 
-#include "TreePeer.h"
+#include "HandBound.h"
 
 using namespace Bench;
 
@@ -88,5 +88,5 @@ struct Libxml2 {
 } // namespace
 
 void Bench::OfferLibxml2(Works& works) {
-    TreePeer<Libxml2>::Offer(works, "libxml2, bound by hand");
+    Peer<HandBound<Libxml2>>::Offer(works, "libxml2, bound by hand");
 }

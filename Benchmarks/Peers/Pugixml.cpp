@@ -4,7 +4,7 @@
 
 #include <pugixml.hpp>
 
-#include "TreePeer.h"
+#include "HandBound.h"
 
 using namespace Bench;
 
@@ -71,6 +71,6 @@ struct Pugixml {
 } // namespace
 
 void Bench::OfferPugixml(Works& works) {
-    TreePeer<Pugixml>::Offer(works, "pugixml, bound by hand");
-    works.offers.push_back({lookUpWork, "structs with hash maps", documentKinds, TreePeer<Pugixml>::LookUp});
+    Peer<HandBound<Pugixml>>::Offer(works, "pugixml, bound by hand");
+    Peer<HandBound<Pugixml>>::OfferLookUp(works, "structs with hash maps");
 }

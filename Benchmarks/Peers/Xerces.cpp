@@ -10,7 +10,7 @@
 #include <xercesc/sax/HandlerBase.hpp>
 #include <xercesc/util/XMLString.hpp>
 
-#include "TreePeer.h"
+#include "HandBound.h"
 
 using namespace Bench;
 using namespace xercesc;
@@ -154,6 +154,6 @@ Work OfferParse(const Document& document) {
 
 void Bench::OfferXerces(Works& works) {
     works.offers.push_back({loadWork, baseContender, allKinds, OfferParse});
-    TreePeer<Xerces<true>>::Offer(works, "Xerces DOM, bound by hand");
-    works.offers.push_back({packetWork, packetBase, {Kind::Packets}, TreePeer<Xerces<false>>::Packets});
+    Peer<HandBound<Xerces<true>>>::Offer(works, "Xerces DOM, bound by hand");
+    works.offers.push_back({packetWork, packetBase, {Kind::Packets}, Peer<HandBound<Xerces<false>>>::Packets});
 }
