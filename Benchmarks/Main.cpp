@@ -65,6 +65,8 @@ Works AllWorks(bool onlyOurs) {
     OfferParsersAlone(works);
     OfferLibxml2(works);
     OfferPugixml(works);
+    OfferXsdTree(works);
+    OfferGsoap(works);
     return works;
 }
 

@@ -71,6 +71,8 @@ void OfferXerces(Works& works);
 void OfferParsersAlone(Works& works);
 void OfferLibxml2(Works& works);
 void OfferPugixml(Works& works);
+void OfferXsdTree(Works& works);
+void OfferGsoap(Works& works);
 
 /// Keeps a result from being optimised away, and tells of one that cannot be.
 inline void Require(bool holds, const std::string& what) {
