@@ -1,5 +1,5 @@
 // Classes that XSD C++/Tree makes of our schema, read from and written to a Xerces DOM; with that DOM kept beside the
-// objects, or freed. No validation, as everywhere.
+// objects, or freed. The parser does what the other peers on Xerces ask of it: no validation, namespaces or schema.
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -54,7 +54,7 @@ Parser MakeParser() {
     options.setParameter(XMLUni::fgDOMErrorHandler, &throwing);
     options.setParameter(XMLUni::fgDOMComments, false);
     options.setParameter(XMLUni::fgDOMEntities, false);
-    options.setParameter(XMLUni::fgDOMNamespaces, true); // the classes know elements by their local names
+    options.setParameter(XMLUni::fgDOMNamespaces, false);
     options.setParameter(XMLUni::fgDOMValidate, false);
     options.setParameter(XMLUni::fgXercesSchema, false);
     options.setParameter(XMLUni::fgXercesUserAdoptsDOMDocument, true);
