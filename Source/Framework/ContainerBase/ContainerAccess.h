@@ -141,4 +141,14 @@ void MakeEmpty(TypedDataContainer& object);
 /// Resets an object but for its attributes: children stay, with reset members of their own.
 void ResetButAttributes(TypedDataContainer& object);
 
+enum class DumpedText {
+    Whole,
+    NeedsDom, ///< an object is of a class that a host derived, whose dump may be its own, or a part cannot be written
+    Failed,   ///< by an exception, which the object's error tells of
+};
+
+/// Appends the document that DumpMergeContentsII gives, byte for byte, and makes no DOM for it. What needs one leaves
+/// the object as it was, and `xml` with a beginning that is worth nothing.
+DumpedText DumpAsText(TypedDataContainer& object, bool withMergeAttributes, std::string& xml);
+
 } // namespace Framework

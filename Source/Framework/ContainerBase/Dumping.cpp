@@ -1,4 +1,7 @@
 #include "Framework/ContainerBase/Guarded.h"
+#include "Framework/XMLSupport/AtomicFile.h"
+#include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/LoadsAgain.h"
 #include "Framework/XMLSupport/TreeReading.h"
 
 using namespace Framework;
@@ -16,15 +19,44 @@ bool DumpAsDocument(TypedDataContainer& object, FullFunctionXMLDataWrapper& outp
     return object.DumpMergeContentsII(nullptr, &output, passed, withMergeAttributes);
 }
 
-bool SaveDump(TypedDataContainer& object, const char* path, bool withMergeAttributes) {
+zelString TextByDom(TypedDataContainer& object, bool withMergeAttributes) {
     FullFunctionXMLDataWrapper output;
     if (!DumpAsDocument(object, output, withMergeAttributes)) {
-        return false;
+        return {};
     }
-    if (!output.SaveXMLFile(path)) {
+    zelString text = output.GetXMLText();
+    if (text.empty()) {
         object.SetLastError(-1, "%s", output.GetLastError().c_str());
+    }
+    return text;
+}
+
+/// The text of the dump as a document of its own. Empty, with the object's error set, when a part of it cannot be
+/// written. A tree of the library's own classes needs no DOM for it; what only the DOM's road can say or do starts over
+/// on that.
+zelString DumpedDocument(TypedDataContainer& object, bool withMergeAttributes) {
+    zelString text;
+    switch (DumpAsText(object, withMergeAttributes, text)) {
+    case DumpedText::Whole:
+        FaultPoint("GetXMLText");
+        CheckTagsLoadAgain(text, "the document");
+        CheckSizeLoadsAgain(text.size(), "the document");
+        return text;
+    case DumpedText::NeedsDom:
+        return TextByDom(object, withMergeAttributes);
+    case DumpedText::Failed:
+        break;
+    }
+    return {};
+}
+
+bool SaveDump(TypedDataContainer& object, const char* path, bool withMergeAttributes) {
+    const zelString text = DumpedDocument(object, withMergeAttributes);
+    if (text.empty()) {
         return false;
     }
+    FaultPoint("SaveXMLFile");
+    SaveAtomically(path == nullptr ? "" : path, text);
     return true;
 }
 
@@ -40,14 +72,13 @@ bool TypedDataContainer::DumpMergeResults(const char* sPath) {
 
 XMLDataWrapper* TypedDataContainer::BuildAndReturnDataContent() {
     return Guarded(*this, [&]() -> XMLDataWrapper* {
-        FullFunctionXMLDataWrapper output;
-        if (!DumpAsDocument(*this, output, false)) {
+        const zelString text = DumpedDocument(*this, false);
+        if (text.empty()) {
             return nullptr;
         }
         auto content = std::make_unique<XMLDataWrapper>();
-        const zelString text = output.GetXMLText();
-        if (text.empty() || !content->LoadXMLText(text, false)) {
-            SetLastError(-1, "%s", (text.empty() ? output : *content).GetLastError().c_str());
+        if (!content->LoadXMLText(text, false)) {
+            SetLastError(-1, "%s", content->GetLastError().c_str());
             return nullptr;
         }
         return content.release();

@@ -13,7 +13,7 @@
 
 namespace Framework {
 
-thread_local FaultFunction faultFunction = nullptr;
+thread_local constinit FaultFunction faultFunction = nullptr;
 
 namespace {
 

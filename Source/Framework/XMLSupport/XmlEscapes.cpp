@@ -3,7 +3,10 @@
 #include "Framework/XMLSupport/Utf.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <memory>
 #include <new>
 
@@ -16,10 +19,17 @@ namespace {
 /// Copies what needs no escape in one piece each.
 template <class Escape>
 void AppendEscaped(std::string& xml, std::string_view text, std::string_view special, Escape escape) {
+    std::array<bool, 256> isSpecial = {};
+    for (const char c : special) {
+        isSpecial[static_cast<unsigned char>(c)] = true;
+    }
     std::size_t begin = 0;
-    for (std::size_t at; (at = text.find_first_of(special, begin)) != std::string_view::npos; begin = at + 1) {
-        xml.append(text, begin, at - begin);
-        xml.append(escape(text[at]));
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (isSpecial[static_cast<unsigned char>(text[at])]) {
+            xml.append(text, begin, at - begin);
+            xml.append(escape(text[at]));
+            begin = at + 1;
+        }
     }
     xml.append(text, begin);
 }
@@ -101,6 +111,32 @@ bool IsXmlName(std::string_view name) {
     const auto isBeyondAscii = [](char c) { return static_cast<unsigned char>(c) > 0x7F; };
     const bool mayBe = std::all_of(name.begin(), name.end(), [&](char c) { return isPlain(c) || isBeyondAscii(c); });
     return mayBe && ParserTakesName(name);
+}
+
+bool NeedsNoEscape(std::string_view text) {
+    constexpr std::uint64_t kOnes = 0x0101010101010101U;
+    constexpr std::uint64_t kHighBits = 0x80 * kOnes;
+    // The high bit of a byte that is 0, and perhaps of one above it.
+    const auto zeros = [](std::uint64_t word) { return (word - kOnes) & ~word; };
+    const auto isPlain = [&](std::uint64_t word) {
+        const std::uint64_t belowBlank = word - 0x20 * kOnes;
+        const std::uint64_t special = zeros(word ^ '&' * kOnes) | zeros(word ^ '<' * kOnes) |
+                                      zeros(word ^ '>' * kOnes) | zeros(word ^ '"' * kOnes);
+        return ((word | belowBlank | special) & kHighBits) == 0;
+    };
+    const char* at = text.data();
+    std::uint64_t word = 0;
+    for (std::size_t left = text.size(); left != 0;) {
+        const std::size_t count = std::min(left, sizeof word);
+        word = 0x20 * kOnes; // blanks where the text ends
+        std::memcpy(&word, at, count);
+        if (!isPlain(word)) {
+            return false;
+        }
+        at += count;
+        left -= count;
+    }
+    return true;
 }
 
 void AppendEscapedText(std::string& xml, std::string_view text) {

@@ -12,6 +12,10 @@ std::string DescribeForbidden(std::string_view text);
 /// True for a name that the parser takes, colons included. Cheap for names in ASCII.
 bool IsXmlName(std::string_view name);
 
+/// True only for text that stands as it is between tags and in double quotes: printable ASCII without "&", "<", ">" and
+/// the quote. Quicker than to look for them.
+bool NeedsNoEscape(std::string_view text);
+
 // These append text that reads back exactly as given. What DescribeForbidden finds must not be in it.
 
 /// Text between tags. Line ends stay as they are, a CR becomes a reference.

@@ -78,6 +78,14 @@ zelString ScalarText(TypedDataContainer& object, const FieldRow& row) {
     return {};
 }
 
+std::string_view ScalarText(TypedDataContainer& object, const FieldRow& row, zelString& room) {
+    if (row.value == FieldValue::String) {
+        return object.*row.member.text;
+    }
+    room = ScalarText(object, row);
+    return room;
+}
+
 zelString DefaultText(const FieldRow& row) {
     switch (row.value) {
     case FieldValue::String:

@@ -14,6 +14,9 @@ bool IsLegalText(const FieldRow& row, const zelString& text);
 /// The text that a dump writes for a scalar.
 zelString ScalarText(TypedDataContainer& object, const FieldRow& row);
 
+/// The same, of a text where it stands, of anything else in `room`.
+std::string_view ScalarText(TypedDataContainer& object, const FieldRow& row, zelString& room);
+
 /// The text of what the constructor gives a scalar.
 zelString DefaultText(const FieldRow& row);
 
