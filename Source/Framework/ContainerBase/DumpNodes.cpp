@@ -1,4 +1,4 @@
-#include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/ContainerBase/DumpNodes.h"
 #include "Framework/XMLSupport/DomNodes.h"
 #include "Framework/XMLSupport/FaultPoint.h"
 #include "Framework/XMLSupport/XmlMemory.h"
@@ -33,18 +33,34 @@ bool TypedDataContainer::AppendCDataValue(FullFunctionXMLDataWrapper* pOutput, D
     return CreateCDataNode(pParent, pOutput->GetOutputDocument(), sName, std::move(sValue));
 }
 
+bool Framework::AddTextNode(TypedDataContainer& object, DOMNode& parent, DOMDocument& document, std::string_view name,
+                            std::string_view text) {
+    return Append(object, "CreateTextNode", [&] { AppendTextElement(parent, document, name, text); });
+}
+
+bool Framework::AddCDataNode(TypedDataContainer& object, DOMNode& parent, DOMDocument& document, std::string_view name,
+                             std::string_view text) {
+    return Append(object, "CreateCDataNode", [&] { AppendCDataElement(parent, document, name, text); });
+}
+
+bool Framework::AddTextNodeWithAttribute(TypedDataContainer& object, DOMNode& parent, DOMDocument& document,
+                                         std::string_view name, std::string_view text, std::string_view attribute,
+                                         std::string_view value) {
+    return Append(object, "CreateTextNodeWithAttr", [&] {
+        DOMNode* const element = AppendTextElement(parent, document, name, text);
+        SetNewAttribute(*element, document, attribute, value);
+    });
+}
+
 bool TypedDataContainer::CreateTextNode(DOMNode* pParent, DOMDocument* pDoc, zelString sName, zelString sValue) {
-    return Append(*this, "CreateTextNode", [&] { AppendTextElement(*pParent, *pDoc, sName, sValue); });
+    return AddTextNode(*this, *pParent, *pDoc, sName, sValue);
 }
 
 bool TypedDataContainer::CreateCDataNode(DOMNode* pParent, DOMDocument* pDoc, zelString sName, zelString sValue) {
-    return Append(*this, "CreateCDataNode", [&] { AppendCDataElement(*pParent, *pDoc, sName, sValue); });
+    return AddCDataNode(*this, *pParent, *pDoc, sName, sValue);
 }
 
 bool TypedDataContainer::CreateTextNodeWithAttr(DOMNode* pParent, DOMDocument* pDoc, zelString sName, zelString sValue,
                                                 zelString sAttrName, zelString sAttrValue) {
-    return Append(*this, "CreateTextNodeWithAttr", [&] {
-        DOMNode* const element = AppendTextElement(*pParent, *pDoc, sName, sValue);
-        SetAttribute(*element, *pDoc, sAttrName, sAttrValue);
-    });
+    return AddTextNodeWithAttribute(*this, *pParent, *pDoc, sName, sValue, sAttrName, sAttrValue);
 }

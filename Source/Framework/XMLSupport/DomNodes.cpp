@@ -3,81 +3,115 @@
 #include <stdexcept>
 
 #include <xercesc/dom/DOM.hpp>
+#include <xercesc/util/XMLString.hpp>
 
+#include "Framework/XMLSupport/DomLinks.h"
 #include "Framework/XMLSupport/Utf.h"
 
 namespace Framework {
 
 namespace {
 
-/// The text for the DOM; refused when XML has no place for it.
-std::u16string CheckedText(std::string_view element, std::string_view text) {
-    const std::size_t bad = FindNonXmlText(text);
-    if (bad != std::string_view::npos) {
-        throw std::invalid_argument("the text of " + std::string(element) + " cannot stand in XML: byte " +
-                                    std::to_string(bad + 1) + " is a forbidden character or no UTF-8");
-    }
-    return ToUtf16(text);
-}
-
 const XMLCh* Units(const std::u16string& text) {
     static_assert(sizeof(XMLCh) == sizeof(char16_t));
     return text.c_str();
+}
+
+/// A text for the DOM; refused when XML has no place for it, by the name of its element, or attribute with an '@'. What
+/// is short and of printable ASCII alone, nearly everything, takes no memory.
+class DomText {
+public:
+    DomText(std::string_view name, std::string_view text, const char* sign = "") {
+        if (text.size() < kShort && CopyPrintableAscii(text, m_short)) {
+            m_short[text.size()] = 0;
+            return;
+        }
+        const std::size_t bad = FindNonXmlText(text);
+        if (bad != std::string_view::npos) {
+            throw std::invalid_argument("the text of " + (sign + std::string(name)) + " cannot stand in XML: byte " +
+                                        std::to_string(bad + 1) + " is a forbidden character or no UTF-8");
+        }
+        m_long = ToUtf16(text);
+        m_units = Units(m_long);
+    }
+    DomText(const DomText&) = delete;
+    DomText& operator=(const DomText&) = delete;
+
+    const XMLCh* Get() const { return m_units; }
+
+private:
+    static constexpr std::size_t kShort = 128;
+
+    XMLCh m_short[kShort];
+    std::u16string m_long;
+    const XMLCh* m_units = m_short;
+};
+
+void MakeAttribute(DOMNode& element, DOMDocument& document, std::string_view name, const DomText& unitsOfName,
+                   const DomText& value) {
+    xercesc::DOMAttr* attribute = nullptr;
+    try {
+        attribute = document.createAttribute(unitsOfName.Get());
+        AddAttribute(static_cast<xercesc::DOMElement&>(element), *attribute, value.Get());
+    } catch (const xercesc::DOMException&) {
+        throw std::invalid_argument(std::string(name) + (attribute == nullptr ? " is no name of an XML attribute"
+                                                                              : " cannot be set on this element"));
+    }
 }
 
 } // namespace
 
 DOMNode* NewElement(DOMDocument& document, std::string_view name) {
     try {
-        return document.createElement(Units(CheckedText(name, name)));
+        return document.createElement(DomText(name, name).Get());
     } catch (const xercesc::DOMException&) {
         throw std::invalid_argument(std::string(name) + " is no name of an XML element");
     }
 }
 
 DOMNode* AppendElement(DOMNode& parent, DOMDocument& document, std::string_view name) {
-    return parent.appendChild(NewElement(document, name));
+    return AppendNode(parent, *NewElement(document, name));
 }
 
 DOMNode* AppendTextElement(DOMNode& parent, DOMDocument& document, std::string_view name, std::string_view text) {
-    const std::u16string units = CheckedText(name, text);
+    const DomText units(name, text);
     DOMNode* const element = NewElement(document, name);
-    if (!units.empty()) {
-        element->appendChild(document.createTextNode(Units(units)));
+    if (!text.empty()) {
+        AppendNode(*element, *document.createTextNode(units.Get()));
     }
-    return parent.appendChild(element); // with its text, or not at all
+    return AppendNode(parent, *element); // with its text, or not at all
 }
 
 DOMNode* AppendCDataElement(DOMNode& parent, DOMDocument& document, std::string_view name, std::string_view text) {
-    const std::u16string units = CheckedText(name, text);
+    const DomText units(name, text);
     DOMNode* const element = NewElement(document, name);
-    if (!units.empty()) {
-        element->appendChild(document.createCDATASection(Units(units)));
+    if (!text.empty()) {
+        AppendNode(*element, *document.createCDATASection(units.Get()));
     }
-    return parent.appendChild(element);
+    return AppendNode(parent, *element);
 }
 
 void SetAttribute(DOMNode& node, DOMDocument& document, std::string_view name, std::string_view value) {
-    const std::u16string units = CheckedText("@" + std::string(name), value);
-    const std::u16string unitsOfName = CheckedText(name, name);
-    auto& element = static_cast<xercesc::DOMElement&>(node);
-    xercesc::DOMAttr* attribute = element.getAttributeNode(Units(unitsOfName));
-    try {
-        if (attribute != nullptr) {
-            // A dump sets all attributes again for each class an object derives from; to replace a text costs most of
-            // the dump.
-            if (units != attribute->getValue()) {
-                SetAttributeText(*attribute, document, units);
-            }
-            return;
-        }
-        attribute = document.createAttribute(Units(unitsOfName));
-        attribute->setValue(Units(units));
-        element.setAttributeNode(attribute);
-    } catch (const xercesc::DOMException&) {
-        throw std::invalid_argument(std::string(name) + (attribute == nullptr ? " is no name of an XML attribute"
-                                                                              : " cannot be set on this element"));
+    const DomText units(name, value, "@");
+    const DomText unitsOfName(name, name);
+    xercesc::DOMAttr* const attribute = static_cast<xercesc::DOMElement&>(node).getAttributeNode(unitsOfName.Get());
+    if (attribute == nullptr) {
+        MakeAttribute(node, document, name, unitsOfName, units);
+        return;
     }
+    // A dump may set all attributes again for each class an object derives from; to replace a text costs most of it.
+    if (!xercesc::XMLString::equals(units.Get(), ValueOf(*attribute))) {
+        try {
+            SetAttributeText(*attribute, document, units.Get());
+        } catch (const xercesc::DOMException&) {
+            throw std::invalid_argument(std::string(name) + " cannot be set on this element");
+        }
+    }
+}
+
+void SetNewAttribute(DOMNode& element, DOMDocument& document, std::string_view name, std::string_view value) {
+    const DomText units(name, value, "@");
+    MakeAttribute(element, document, name, DomText(name, name), units);
 }
 
 void SetTextValue(DOMNode& text, const std::u16string& value) {

@@ -14,6 +14,8 @@ DOMNode* AppendTextElement(DOMNode& parent, DOMDocument& document, std::string_v
 DOMNode* AppendCDataElement(DOMNode& parent, DOMDocument& document, std::string_view name, std::string_view text);
 /// Sets the attribute, in place of a value that is there. When it throws the element is as it was.
 void SetAttribute(DOMNode& element, DOMDocument& document, std::string_view name, std::string_view value);
+/// The same for an element that has no attribute of that name.
+void SetNewAttribute(DOMNode& element, DOMDocument& document, std::string_view name, std::string_view value);
 
 /// Sets the value of a text or CDATA section, or of an attribute. When one throws the value is as it was: the DOM takes
 /// the old away before it asks for room for the new.

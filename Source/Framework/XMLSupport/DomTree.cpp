@@ -1,5 +1,6 @@
 #include "Framework/XMLSupport/DomTree.h"
 
+#include "Framework/XMLSupport/DomLinks.h"
 #include "Framework/XMLSupport/NodeViews.h"
 #include "Framework/XMLSupport/Utf.h"
 
@@ -24,7 +25,7 @@ DOMNode* Beside(const DOMNode* node, Step along) {
         if (DOMNode* const beside = (node->*along)(); beside != nullptr) {
             return beside;
         }
-        node = node->getParentNode();
+        node = ParentOf(*node);
         if (node == nullptr || !IsReference(node)) {
             return nullptr;
         }
@@ -141,9 +142,9 @@ NodeRef DomTree::Parent(NodeRef node) const {
     if (IsAttribute(dom)) {
         return Ref(static_cast<const xercesc::DOMAttr*>(dom)->getOwnerElement());
     }
-    const DOMNode* parent = dom->getParentNode();
+    const DOMNode* parent = ParentOf(*dom);
     while (parent != nullptr && IsReference(parent)) {
-        parent = parent->getParentNode();
+        parent = ParentOf(*parent);
     }
     return Ref(parent);
 }
@@ -209,7 +210,10 @@ std::string_view DomTree::Value(NodeRef node, std::string& room) const {
     if (node == NodeRef::None) {
         return room;
     }
-    if (const XMLCh* const value = Node(node)->getNodeValue(); value != nullptr) {
+    const DOMNode* const dom = Node(node);
+    const XMLCh* const value =
+        IsAttribute(dom) ? ValueOf(static_cast<const xercesc::DOMAttr&>(*dom)) : dom->getNodeValue();
+    if (value != nullptr) {
         AppendUtf8(room, value, xercesc::XMLString::stringLen(value));
     }
     return room;

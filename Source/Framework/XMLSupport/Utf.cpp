@@ -30,6 +30,17 @@ const char* SkipAscii(const char* p, const char* end) noexcept {
     return p;
 }
 
+/// The same for UTF-16.
+const XMLCh* SkipAscii(const XMLCh* p, const XMLCh* end) noexcept {
+    constexpr std::ptrdiff_t unitsInWord = WordSize / sizeof(XMLCh);
+    constexpr std::uint64_t beyondAscii = 0xFF80FF80FF80FF80U;
+    std::uint64_t word = 0;
+    while (end - p >= unitsInWord && (std::memcpy(&word, p, WordSize), (word & beyondAscii) == 0)) {
+        p += unitsInWord;
+    }
+    return p;
+}
+
 /// The same for printable ASCII. Subtracting sets a byte's high bit when the byte, or a borrow from one below it, is
 /// less than a blank: it may stop early, never late.
 const char* SkipPrintableAscii(const char* p, const char* end) noexcept {
@@ -168,6 +179,26 @@ void CopyUtf16(std::string_view text, XMLCh* out) noexcept {
     }
 }
 
+bool CopyPrintableAscii(std::string_view text, XMLCh* out) noexcept {
+    const char* p = text.data();
+    const char* const end = p + text.size();
+    const auto unit = [](char c) { return static_cast<XMLCh>(static_cast<unsigned char>(c)); };
+    for (; static_cast<std::size_t>(end - p) >= WordSize; p += WordSize, out += WordSize) {
+        if (((WordAt(p) | (WordAt(p) - Blanks)) & HighBits) != 0) {
+            return false;
+        }
+        for (std::size_t i = 0; i < WordSize; ++i) {
+            out[i] = unit(p[i]);
+        }
+    }
+    bool isPrintable = true;
+    for (; p != end; ++p) {
+        isPrintable = isPrintable && *p >= 0x20; // what is beyond ASCII is negative
+        *out++ = unit(*p);
+    }
+    return isPrintable;
+}
+
 std::u16string ToUtf16(std::string_view text) {
     std::u16string units(Utf16Length(text), u'\0');
     CopyUtf16(text, units.data());
@@ -183,7 +214,8 @@ void AppendUtf8(std::string& text, const XMLCh* pUnits, std::size_t length) {
         char32_t character = unit;
         if (unit < 0x80) { // nearly always, and then a whole run of it
             const XMLCh* const start = pUnits + i;
-            const XMLCh* const behind = std::find_if(start, end, [](XMLCh next) { return next >= 0x80; });
+            const XMLCh* const behind =
+                std::find_if(SkipAscii(start, end), end, [](XMLCh next) { return next >= 0x80; });
             const std::size_t before = text.size();
             text.resize(before + static_cast<std::size_t>(behind - start));
             std::transform(start, behind, text.data() + before, [](XMLCh next) { return static_cast<char>(next); });

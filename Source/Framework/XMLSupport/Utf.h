@@ -26,6 +26,10 @@ std::size_t Utf16Length(std::string_view text);
 /// Writes the units that Utf16Length counted, without a closing zero. The text must be well formed.
 void CopyUtf16(std::string_view text, XMLCh* out) noexcept;
 
+/// Writes a text that is of printable ASCII alone, without a closing zero. False, and nothing of use written, for any
+/// other.
+bool CopyPrintableAscii(std::string_view text, XMLCh* out) noexcept;
+
 /// Throws std::invalid_argument, naming the offset, when the text is malformed.
 std::u16string ToUtf16(std::string_view text);
 

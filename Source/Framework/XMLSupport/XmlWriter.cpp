@@ -2,10 +2,10 @@
 
 #include "Framework/XMLSupport/DomTree.h"
 #include "Framework/XMLSupport/NodePath.h"
-#include "Framework/XMLSupport/TextHash.h"
 #include "Framework/XMLSupport/XmlEscapes.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <vector>
 
 namespace Framework {
@@ -31,17 +31,27 @@ private:
     /// How the children of an open node are set.
     enum class Layout { AsIs, Lines };
 
+    /// An element that is written up to its first child.
+    struct OpenElement {
+        NodeRef node;
+        std::string_view name;
+        Layout layout;
+    };
+
     bool Open(NodeRef node);
-    void Close(NodeRef node);
-    void OpenElement(NodeRef element);
+    NodeRef Close();
+    void WriteStartTag(NodeRef element, std::string_view name, bool isEmpty);
     void WriteAttributes(NodeRef element);
+    void WriteText(NodeRef text);
     void WriteComment(NodeRef comment);
     void WriteInstruction(NodeRef instruction);
     void BreakLine();
-    Layout LayoutOf(NodeRef node);
+    Layout LayoutOf(NodeRef firstChild);
+    bool IsLaidOut() const { return !m_open.empty() && m_open.back().layout == Layout::Lines; }
     void CheckDocument(NodeRef document) const;
     std::string_view CheckedName(NodeRef node);
     std::string_view CheckedValue(NodeRef node);
+    void CheckValue(NodeRef node, std::string_view value) const;
     [[noreturn]] void Refuse(NodeRef node, const std::string& what) const;
 
     const XmlTree& m_tree;
@@ -49,9 +59,9 @@ private:
     bool m_indent;
     std::string m_xml;
     std::string m_room;
-    std::vector<Layout> m_open;
+    std::vector<OpenElement> m_open;
     std::vector<std::string_view> m_attributeNames;
-    HashedSet<std::string_view> m_goodNames;
+    std::unordered_set<const char*> m_goodNames; ///< where the tree keeps those that were checked, each once
 };
 
 void Writer::Refuse(NodeRef node, const std::string& what) const {
@@ -60,24 +70,28 @@ void Writer::Refuse(NodeRef node, const std::string& what) const {
 
 std::string_view Writer::CheckedName(NodeRef node) {
     const std::string_view name = m_tree.Name(node);
-    if (m_goodNames.count(name) == 0) {
+    if (m_goodNames.count(name.data()) == 0) {
         if (!IsXmlName(name)) {
             Refuse(node, "that is no XML name");
         }
-        m_goodNames.insert(name);
+        m_goodNames.insert(name.data());
     }
     return name;
 }
 
 std::string_view Writer::CheckedValue(NodeRef node) {
     const std::string_view value = m_tree.Value(node, m_room);
+    CheckValue(node, value);
+    return value;
+}
+
+void Writer::CheckValue(NodeRef node, std::string_view value) const {
     if (const std::string forbidden = DescribeForbidden(value); !forbidden.empty()) {
         Refuse(node, forbidden + " is not allowed in XML");
     }
     if (m_dom != nullptr && value.find("\xEF\xBF\xBD") != std::string_view::npos && DomTree::HasLoneSurrogate(node)) {
         Refuse(node, "half a surrogate pair is not allowed in XML");
     }
-    return value;
 }
 
 void Writer::CheckDocument(NodeRef document) const {
@@ -101,19 +115,30 @@ void Writer::CheckDocument(NodeRef document) const {
 }
 
 /// Lines are for elements with elements in them: blanks alone are the value of an element that holds nothing else.
-Writer::Layout Writer::LayoutOf(NodeRef node) {
-    if (!m_indent || (!m_open.empty() && m_open.back() == Layout::AsIs)) {
+Writer::Layout Writer::LayoutOf(NodeRef firstChild) {
+    if (!m_indent || (!m_open.empty() && !IsLaidOut())) {
         return Layout::AsIs;
     }
     bool holdsElements = false;
-    for (NodeRef child = m_tree.FirstChild(node); child != NodeRef::None; child = m_tree.NextSibling(child)) {
+    bool holdsTexts = false;
+    for (NodeRef child = firstChild; child != NodeRef::None; child = m_tree.NextSibling(child)) {
         const NodeKind kind = m_tree.Kind(child);
-        if (kind == NodeKind::CData || (kind == NodeKind::Text && !IsBlank(m_tree.Value(child, m_room)))) {
+        if (kind == NodeKind::CData) {
             return Layout::AsIs;
         }
         holdsElements = holdsElements || kind == NodeKind::Element;
+        holdsTexts = holdsTexts || kind == NodeKind::Text;
     }
-    return holdsElements ? Layout::Lines : Layout::AsIs;
+    if (!holdsElements) { // most have one text, which need not be looked at
+        return Layout::AsIs;
+    }
+    for (NodeRef child = holdsTexts ? firstChild : NodeRef::None; child != NodeRef::None;
+         child = m_tree.NextSibling(child)) {
+        if (m_tree.Kind(child) == NodeKind::Text && !IsBlank(m_tree.Value(child, m_room))) {
+            return Layout::AsIs;
+        }
+    }
+    return Layout::Lines;
 }
 
 void Writer::BreakLine() {
@@ -128,9 +153,18 @@ void Writer::WriteAttributes(NodeRef element) {
          attribute = m_tree.NextSibling(attribute)) {
         const std::string_view name = CheckedName(attribute);
         m_xml.append(1, ' ').append(name).append("=\"");
-        AppendEscapedAttribute(m_xml, CheckedValue(attribute));
+        const std::string_view value = m_tree.Value(attribute, m_room);
+        if (NeedsNoEscape(value)) {
+            m_xml.append(value);
+        } else {
+            CheckValue(attribute, value);
+            AppendEscapedAttribute(m_xml, value);
+        }
         m_xml.push_back('"');
         m_attributeNames.push_back(name);
+    }
+    if (m_attributeNames.size() < 2) {
+        return;
     }
     // A DOM can hold two of one name when they are of two namespaces.
     std::sort(m_attributeNames.begin(), m_attributeNames.end());
@@ -140,10 +174,20 @@ void Writer::WriteAttributes(NodeRef element) {
     }
 }
 
-void Writer::OpenElement(NodeRef element) {
-    m_xml.append(1, '<').append(CheckedName(element));
+void Writer::WriteStartTag(NodeRef element, std::string_view name, bool isEmpty) {
+    m_xml.append(1, '<').append(name);
     WriteAttributes(element);
-    m_xml.append(m_tree.FirstChild(element) == NodeRef::None ? "/>" : ">");
+    m_xml.append(isEmpty ? "/>" : ">");
+}
+
+void Writer::WriteText(NodeRef text) {
+    const std::string_view value = m_tree.Value(text, m_room);
+    if (NeedsNoEscape(value)) {
+        m_xml.append(value);
+    } else {
+        CheckValue(text, value);
+        AppendEscapedText(m_xml, value);
+    }
 }
 
 void Writer::WriteComment(NodeRef comment) {
@@ -173,7 +217,7 @@ void Writer::WriteInstruction(NodeRef instruction) {
 /// Writes a node up to its first child. True when it has children, and is open now.
 bool Writer::Open(NodeRef node) {
     const NodeKind kind = m_tree.Kind(node);
-    if (!m_open.empty() && m_open.back() == Layout::Lines) {
+    if (IsLaidOut()) {
         if (kind == NodeKind::Text) {
             return false; // blanks only, else there were no lines here
         }
@@ -181,11 +225,17 @@ bool Writer::Open(NodeRef node) {
         m_xml.append(2 * m_open.size(), ' ');
     }
     switch (kind) {
-    case NodeKind::Element:
-        OpenElement(node);
-        break;
+    case NodeKind::Element: {
+        const std::string_view name = CheckedName(node);
+        const NodeRef child = m_tree.FirstChild(node);
+        WriteStartTag(node, name, child == NodeRef::None);
+        if (child != NodeRef::None) {
+            m_open.push_back({node, name, LayoutOf(child)});
+        }
+        return child != NodeRef::None;
+    }
     case NodeKind::Text:
-        AppendEscapedText(m_xml, CheckedValue(node));
+        WriteText(node);
         break;
     case NodeKind::CData:
         AppendCData(m_xml, CheckedValue(node));
@@ -199,20 +249,19 @@ bool Writer::Open(NodeRef node) {
     default:
         Refuse(node, "only elements, texts, CDATA sections, comments and processing instructions can be written");
     }
-    if (kind != NodeKind::Element || m_tree.FirstChild(node) == NodeRef::None) {
-        return false;
-    }
-    m_open.push_back(LayoutOf(node));
-    return true;
+    return false;
 }
 
-void Writer::Close(NodeRef node) {
-    if (m_open.back() == Layout::Lines) {
-        m_xml.push_back('\n');
-        m_xml.append(2 * (m_open.size() - 1), ' ');
-    }
+/// Ends the element that was opened last, and gives it back.
+NodeRef Writer::Close() {
+    const OpenElement element = m_open.back();
     m_open.pop_back();
-    m_xml.append("</").append(m_tree.Name(node)).push_back('>');
+    if (element.layout == Layout::Lines) {
+        m_xml.push_back('\n');
+        m_xml.append(2 * m_open.size(), ' ');
+    }
+    m_xml.append("</").append(element.name).push_back('>');
+    return element.node;
 }
 
 void Writer::Write(NodeRef top) {
@@ -232,8 +281,7 @@ void Writer::Write(NodeRef top) {
         }
         NodeRef next = NodeRef::None;
         while (node != top && (next = m_tree.NextSibling(node)) == NodeRef::None) {
-            node = m_tree.Parent(node);
-            Close(node);
+            node = Close();
         }
         if (node == top) {
             return;
