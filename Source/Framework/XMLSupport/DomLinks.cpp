@@ -7,6 +7,7 @@
 #include <xercesc/dom/impl/DOMCasts.hpp>
 #include <xercesc/dom/impl/DOMDocumentImpl.hpp>
 #include <xercesc/dom/impl/DOMElementImpl.hpp>
+#include <xercesc/dom/impl/DOMNodeVector.hpp>
 #include <xercesc/dom/impl/DOMTextImpl.hpp>
 
 namespace Framework {
@@ -79,6 +80,17 @@ void Hang(DOMNode& parent, DOMParentNode& children, DOMNode& child, const Parts&
     children.changed(); // lists of nodes that callers hold look again
 }
 
+/// The sorted attributes of an element, which only Xerces' own classes can reach.
+struct AttributeList : DOMAttrMapImpl {
+    static void Insert(DOMAttrMapImpl& map, DOMAttr& attribute) {
+        constexpr XMLSize_t usual = 8;
+        map.reserve(usual); // only where there is no list yet
+        const int found = map.findNamePoint(attribute.getNodeName());
+        DOMNodeVector& nodes = *(map.*(&AttributeList::fNodes));
+        nodes.insertElementAt(&attribute, static_cast<XMLSize_t>(-1 - found)); // so it tells where a new name belongs
+    }
+};
+
 } // namespace
 
 DOMNode* AppendNode(DOMNode& parent, DOMNode& child) {
@@ -113,9 +125,9 @@ void AddAttribute(DOMElement& element, DOMAttr& attribute, const XMLCh* value) {
     }
     Hang(attribute, added.fParent, *text, parts);
     added.fNode.isSpecified(true);
-    constexpr XMLSize_t usual = 8;
-    owner.fAttributes->reserve(usual); // only where there was none
-    owner.fAttributes->setNamedItemFast(&attribute);
+    AttributeList::Insert(*owner.fAttributes, attribute);
+    added.fNode.fOwnerNode = &element;
+    added.fNode.isOwned(true);
 }
 
 const XMLCh* ValueOf(const DOMAttr& attribute) {

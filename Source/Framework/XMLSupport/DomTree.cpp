@@ -126,12 +126,18 @@ std::string_view DomTree::Name(NodeRef node) const {
         return {};
     }
     const XMLCh* const name = Node(node)->getNodeName();
-    if (const auto known = m_names.find(name); known != m_names.end()) {
-        return known->second;
+    auto& recent = m_recentNames[(reinterpret_cast<std::uintptr_t>(name) >> 4U) % m_recentNames.size()];
+    if (recent.first == name) {
+        return *recent.second;
     }
-    std::string utf8;
-    AppendUtf8(utf8, name, xercesc::XMLString::stringLen(name));
-    return m_names.emplace(name, std::move(utf8)).first->second;
+    auto known = m_names.find(name);
+    if (known == m_names.end()) {
+        std::string utf8;
+        AppendUtf8(utf8, name, xercesc::XMLString::stringLen(name));
+        known = m_names.emplace(name, std::move(utf8)).first;
+    }
+    recent = {name, &known->second};
+    return known->second;
 }
 
 NodeRef DomTree::Parent(NodeRef node) const {

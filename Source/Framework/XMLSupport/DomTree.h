@@ -2,6 +2,7 @@
 
 #include "Framework/XMLSupport/XmlTree.h"
 
+#include <array>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -69,6 +70,8 @@ private:
     xercesc::DOMDocument* m_document;
     /// By the address of the UTF-16 name: the document keeps one of each for as long as it lives.
     mutable std::unordered_map<const XMLCh*, std::string> m_names;
+    /// Some of them, each where its address puts it: the writer asks for one name after the other, few in all.
+    mutable std::array<std::pair<const XMLCh*, const std::string*>, 64> m_recentNames = {};
     /// Where the attribute that was read last stands in the list of its element, which cannot be asked.
     mutable const xercesc::DOMNode* m_lastAttribute = nullptr;
     mutable XMLSize_t m_lastIndex = 0;

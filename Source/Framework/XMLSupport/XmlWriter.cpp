@@ -5,6 +5,8 @@
 #include "Framework/XMLSupport/XmlEscapes.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <unordered_set>
 #include <vector>
 
@@ -61,7 +63,8 @@ private:
     std::string m_room;
     std::vector<OpenElement> m_open;
     std::vector<std::string_view> m_attributeNames;
-    std::unordered_set<const char*> m_goodNames; ///< where the tree keeps those that were checked, each once
+    std::array<const char*, 64> m_seenNames = {}; ///< some of the good ones, each where its address puts it
+    std::unordered_set<const char*> m_goodNames;  ///< where the tree keeps those that were checked, each once
 };
 
 void Writer::Refuse(NodeRef node, const std::string& what) const {
@@ -70,12 +73,17 @@ void Writer::Refuse(NodeRef node, const std::string& what) const {
 
 std::string_view Writer::CheckedName(NodeRef node) {
     const std::string_view name = m_tree.Name(node);
+    const char*& seen = m_seenNames[(reinterpret_cast<std::uintptr_t>(name.data()) >> 4U) % m_seenNames.size()];
+    if (seen == name.data()) {
+        return name;
+    }
     if (m_goodNames.count(name.data()) == 0) {
         if (!IsXmlName(name)) {
             Refuse(node, "that is no XML name");
         }
         m_goodNames.insert(name.data());
     }
+    seen = name.data();
     return name;
 }
 
@@ -149,6 +157,7 @@ void Writer::BreakLine() {
 
 void Writer::WriteAttributes(NodeRef element) {
     m_attributeNames.clear();
+    bool isAscending = true;
     for (NodeRef attribute = m_tree.FirstAttribute(element); attribute != NodeRef::None;
          attribute = m_tree.NextSibling(attribute)) {
         const std::string_view name = CheckedName(attribute);
@@ -161,9 +170,10 @@ void Writer::WriteAttributes(NodeRef element) {
             AppendEscapedAttribute(m_xml, value);
         }
         m_xml.push_back('"');
+        isAscending = isAscending && (m_attributeNames.empty() || m_attributeNames.back() < name);
         m_attributeNames.push_back(name);
     }
-    if (m_attributeNames.size() < 2) {
+    if (isAscending) { // a DOM sorts them
         return;
     }
     // A DOM can hold two of one name when they are of two namespaces.
