@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include <xercesc/dom/DOMNode.hpp>
+#include <xercesc/dom/DOMElement.hpp>
 
 #include "FrameworkDataContainers/FrameworkDataContainers.h"
 
@@ -80,6 +80,23 @@ TEST(Dump, DerivedClassSharesOneElementAndOverwritesAttributes) {
     EXPECT_EQ(output.GetStringValue("ActionRef", false), "r");
     ASSERT_TRUE(output.LoadNodeList("Unused", "q", 0));
     EXPECT_EQ(output.GetNodeListLength("q"), 2); // elements are appended each time
+}
+
+/// Changes its parent's element while that is being filled.
+class MeddlingData : public StateActionDataType {
+public:
+    MeddlingData() : StateActionDataType(false) {}
+    bool DumpMergeContentsII(DOMNode* parent, FullFunctionXMLDataWrapper*, DOMNode*&, bool) override {
+        static_cast<xercesc::DOMElement*>(parent)->setAttribute(u"Result", u"meddled");
+        return true;
+    }
+};
+
+TEST(Dump, SetsTheAttributesAgainAfterTheParentClassDumpedAHostsObject) {
+    ActionRespType object(false);
+    ASSERT_TRUE(LoadText(object, "<ActionResp><PostActionResp Result='3'/></ActionResp>"));
+    object.GetPostActionResp(0)->SetActionData(new MeddlingData);
+    EXPECT_EQ(DumpedByNode(object).find("<ActionResp><PostActionResp Result=\"3\">"), 0U) << DumpedByNode(object);
 }
 
 } // namespace

@@ -13,15 +13,6 @@ namespace Framework {
 
 namespace {
 
-/// The table of exactly the object's class, null when a host derived it.
-const FieldTable* ExactTable(TypedDataContainer& object, const FieldTable* likely) {
-    if (likely != nullptr && IsExactly(object, *likely)) {
-        return likely;
-    }
-    const FieldTable* const own = TableOf(object);
-    return own != nullptr && IsExactly(object, *own) ? own : nullptr;
-}
-
 /// Writes what DumpByNode builds, as XmlWriter lays it out. Every step is false when the dump has to take the DOM.
 class TextWalk {
 public:

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <memory>
 
 #include <xercesc/dom/DOM.hpp>
@@ -6,6 +5,7 @@
 #include "Framework/ContainerBase/ContainerAccess.h"
 #include "Framework/ContainerBase/DumpNodes.h"
 #include "Framework/FrameworkDataContainers/Walks/Scalars.h"
+#include "Framework/FrameworkDataContainers/Walks/TableIndex.h"
 #include "Framework/FrameworkDataContainers/Walks/Walks.h"
 #include "Framework/XMLSupport/DomLinks.h"
 #include "Framework/XMLSupport/DomNodes.h"
@@ -25,12 +25,9 @@ struct Dump {
     bool withMergeAttributes;
 };
 
-/// Whether a class or a parent of it has fields that hold containers, which a host may have made.
-bool HoldsContainers(const FieldTable& table) {
-    const auto isContainer = [](const FieldRow& row) { return row.value == FieldValue::Container; };
-    return std::any_of(table.rows.begin(), table.rows.end(), isContainer) ||
-           (table.parent != nullptr && HoldsContainers(*table.parent));
-}
+/// How many objects of classes that hosts derived this thread has dumped. While it stays as it is, none but this file
+/// has come to the nodes of a dump.
+thread_local constinit unsigned long hostObjects = 0;
 
 /// The walk of one class into one element of the output document. The element is hung below its parent only when all
 /// its fields are in it. A step that fails makes the result false; the steps go on. For an object that overrides
@@ -146,7 +143,7 @@ private:
             break;
         case FieldForm::Child:
             if (TypedDataContainer* const child = row.child->get(m_object)) {
-                DumpContainer(*child);
+                DumpContainer(*child, row.child->table);
             }
             break;
         case FieldForm::KeyedList:
@@ -203,12 +200,15 @@ private:
         for (TypedDataContainer* const entry : m_object.*row.member.entries) {
             if (entry != nullptr) {
                 Zelvon::LinuxThreadTools::LinuxYieldThread();
-                DumpContainer(*entry);
+                DumpContainer(*entry, row.list->table);
             }
         }
     }
 
-    void DumpContainer(TypedDataContainer& object) {
+    void DumpContainer(TypedDataContainer& object, const FieldTable* likely) {
+        if (ExactTable(object, likely) == nullptr) {
+            ++hostObjects;
+        }
         DOMNode* pTestCurrent = nullptr;
         if (!object.DumpMergeContentsII(m_current, m_dump.output, pTestCurrent, m_dump.withMergeAttributes)) {
             m_object.SetLastError(object.GetLastErrorNum(), "%s",
@@ -236,12 +236,13 @@ bool DumpClass(const Dump& dump, const FieldTable& table, DOMNode* pParentNode, 
             dump.object.SetLastError(-1, "there is no output document to dump into");
             return false;
         }
+        const unsigned long hostObjectsBefore = hostObjects;
         bool bSuccess = true;
         DOMNode* pTestCurrent = nullptr;
         if (table.parent != nullptr) {
             bSuccess = DumpClass(dump, *table.parent, pParentNode, pTestCurrent);
         }
-        const bool attributesStand = bSuccess && table.parent != nullptr && !HoldsContainers(*table.parent);
+        const bool attributesStand = bSuccess && hostObjects == hostObjectsBefore;
         return DumpWalk(dump, table).Run(pParentNode, pTestCurrent, attributesStand, pPassedCurrent) && bSuccess;
     } catch (...) {
         ContainerAccess::SetFixedError(dump.object, -1, "Unknown Exception occured in UpdateContainedData");

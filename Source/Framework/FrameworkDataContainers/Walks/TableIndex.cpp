@@ -18,4 +18,12 @@ const FieldTable* TableOf(TypedDataContainer& object) {
     return FindTable(object.GetBaseType());
 }
 
+const FieldTable* ExactTable(TypedDataContainer& object, const FieldTable* likely) {
+    if (likely != nullptr && IsExactly(object, *likely)) {
+        return likely;
+    }
+    const FieldTable* const own = TableOf(object);
+    return own != nullptr && IsExactly(object, *own) ? own : nullptr;
+}
+
 } // namespace Framework

@@ -12,4 +12,8 @@ const FieldTable* FindTable(std::string_view className);
 /// The table of an object's own class, by GetBaseType; null when that is no generated class.
 const FieldTable* TableOf(TypedDataContainer& object);
 
+/// The table of exactly the object's class, null when a host derived it. `likely`, which may be null, is the table of
+/// what the library itself puts where the object stands.
+const FieldTable* ExactTable(TypedDataContainer& object, const FieldTable* likely);
+
 } // namespace Framework
