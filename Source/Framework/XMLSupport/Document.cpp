@@ -21,21 +21,9 @@ std::shared_ptr<Document> Document::Copy() const {
     return std::shared_ptr<Document>(new Document(m_data));
 }
 
-std::string_view Document::Value(NodeRef node, std::string& /*room*/) const {
-    const NodeRecord& record = Record(node);
-    if (record.IsInner() || record.kind == NodeKind::None) {
-        return {};
-    }
-    const NodeRecord::Leaf& leaf = record.leaf;
-    switch (leaf.holder) {
-    case ValueHolder::Source:
-        return std::string_view(m_data.source.text).substr(leaf.valueBegin, leaf.valueLength);
-    case ValueHolder::Pool:
-        return std::string_view(m_data.pool).substr(leaf.valueBegin, leaf.valueLength);
-    case ValueHolder::Written:
-        break;
-    }
-    return m_data.changes.values[leaf.valueBegin].text;
+std::string_view Document::ValueElsewhere(const NodeRecord::Leaf& leaf) const {
+    return leaf.holder == ValueHolder::Pool ? std::string_view(m_data.pool).substr(leaf.valueBegin, leaf.valueLength)
+                                            : std::string_view(m_data.changes.values[leaf.valueBegin].text);
 }
 
 XALAN_CPP_NAMESPACE::XalanNode* Document::View(NodeRef node) const {
@@ -47,13 +35,14 @@ std::string Document::Bytes() const {
 }
 
 ByteRange Document::StartTag(NodeRef element) const {
-    const NodeRecord& record = Record(element);
-    return {record.begin, record.kind == NodeKind::Element ? record.inner.startTagEnd : record.begin};
+    return {Record(element).begin, m_data.StartTagEnd(static_cast<std::uint32_t>(element))};
 }
 
 ByteRange Document::ValueRange(NodeRef attribute) const {
     const NodeRecord& record = Record(attribute);
-    return record.kind == NodeKind::Attribute ? ByteRange{record.leaf.rawBegin, record.end - 1} : ByteRange{};
+    const bool isParsed = record.end > record.begin;
+    return record.kind == NodeKind::Attribute && isParsed ? ByteRange{m_data.RawBegin(record), record.end - 1}
+                                                          : ByteRange{};
 }
 
 Place Document::PlaceAt(std::size_t offset) const {

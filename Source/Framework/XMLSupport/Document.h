@@ -37,11 +37,24 @@ public:
     std::string_view Name(NodeRef node) const override { return m_data.names.Name(Record(node).name); }
     NodeRef Parent(NodeRef node) const override { return Ref(Record(node).parent); }
     NodeRef FirstChild(NodeRef node) const override { return Inner(node, &NodeRecord::Inner::firstChild); }
-    NodeRef LastChild(NodeRef node) const override { return Inner(node, &NodeRecord::Inner::lastChild); }
+    NodeRef LastChild(NodeRef node) const override {
+        return Ref(m_data.LastFrom(static_cast<std::uint32_t>(FirstChild(node))));
+    }
     NodeRef NextSibling(NodeRef node) const override { return Ref(Record(node).next); }
-    NodeRef PreviousSibling(NodeRef node) const override { return Ref(Record(node).previous); }
+    NodeRef PreviousSibling(NodeRef node) const override {
+        return Ref(m_data.Previous(static_cast<std::uint32_t>(node)));
+    }
     NodeRef FirstAttribute(NodeRef node) const override { return Inner(node, &NodeRecord::Inner::firstAttribute); }
-    std::string_view Value(NodeRef node, std::string& room) const override;
+    std::string_view Value(NodeRef node, std::string& /*room*/) const override {
+        const NodeRecord& record = Record(node);
+        if (record.IsInner() || record.kind == NodeKind::None) {
+            return {};
+        }
+        const NodeRecord::Leaf& leaf = record.leaf;
+        return leaf.holder == ValueHolder::Source
+                   ? std::string_view(m_data.source.text).substr(leaf.valueBegin, leaf.valueLength)
+                   : ValueElsewhere(leaf);
+    }
     XALAN_CPP_NAMESPACE::XalanNode* View(NodeRef node) const override;
 
     /// The number that stands for the node's name in this document: equal names, equal numbers; 0 is no name.
@@ -78,6 +91,7 @@ private:
     friend class DocumentEditor;
 
     explicit Document(DocumentData data);
+    std::string_view ValueElsewhere(const NodeRecord::Leaf& leaf) const;
 
     static NodeRef Ref(std::uint32_t number) { return NodeRef{number}; }
     const NodeRecord& Record(NodeRef node) const { return m_data.nodes[static_cast<std::size_t>(node)]; }

@@ -11,7 +11,8 @@ namespace {
 
 constexpr std::uint32_t kSectionOpening = 9; // <![CDATA[
 constexpr std::uint32_t kSectionClosing = 3; // ]]>
-constexpr std::size_t kMostNodesReservedAtFirst = 65536;
+constexpr std::size_t kMostNodesReservedAtFirst = 8192;
+constexpr double kSurplus = 1.1; // over what the beginning tells: growing once more would cost a copy of all
 
 } // namespace
 
@@ -30,16 +31,14 @@ void DocumentBuilder::StartElement(std::string_view name, const char* const* att
         throw ErrorAt(m_data, tag.begin,
                       LimitPassed("elements are nested too deeply", std::to_string(m_limits.depth), "depth"));
     }
-    const std::uint32_t element = Add(NodeKind::Element, tag);
-    NodeRecord& record = m_data.nodes[element];
-    record.name = m_data.names.Intern(name) & NodeRecord::kNameMask;
-    record.inner.startTagEnd = tag.end;
-    AddChild(element);
+    const std::uint32_t element = AddChild(NodeKind::Element, tag);
+    m_data.nodes[element].name = m_data.names.Intern(name) & NodeRecord::kNameMask;
     if (m_depth == 0) {
         m_data.root = element;
     }
     AddAttributes(element, attributes, tag.begin + 1 + static_cast<std::uint32_t>(name.size()));
     m_parent = element;
+    m_lastChild = 0;
     ++m_depth;
 }
 
@@ -47,15 +46,26 @@ void DocumentBuilder::EndElement(std::uint32_t end) {
     FlushRun();
     NodeRecord& record = m_data.nodes[m_parent];
     record.end = end;
+    CloseChildren();
+    m_lastChild = m_parent;
     m_parent = record.parent;
     --m_depth;
+    if (m_depth == 0) {
+        CloseChildren();
+    }
+}
+
+/// Before the first of a list stands its last, which only now is known.
+void DocumentBuilder::CloseChildren() {
+    if (m_lastChild != 0) {
+        m_data.nodes[m_data.nodes[m_parent].inner.firstChild].previous = m_lastChild;
+    }
 }
 
 // The parser tells no ranges of attributes. The tag is well formed by now and its attributes come in the order of the
 // tag, so they can be found by their quotes alone.
 void DocumentBuilder::AddAttributes(std::uint32_t element, const char* const* attributes, std::uint32_t at) {
     const std::string& text = m_data.source.text;
-    std::uint32_t previous = 0;
     for (; *attributes != nullptr; attributes += 2) {
         const std::string_view name = attributes[0];
         const std::uint32_t begin = SkipBlanks(at);
@@ -66,15 +76,9 @@ void DocumentBuilder::AddAttributes(std::uint32_t element, const char* const* at
         const std::uint32_t number = Add(NodeKind::Attribute, {begin, at});
         NodeRecord& record = m_data.nodes[number];
         record.parent = element;
-        record.previous = previous;
         record.name = m_data.names.Intern(name) & NodeRecord::kNameMask;
         SetValue(record, attributes[1], {quote + 1, rawEnd});
-        if (previous == 0) {
-            m_data.nodes[element].inner.firstAttribute = number;
-        } else {
-            m_data.nodes[previous].next = number;
-        }
-        previous = number;
+        m_data.Append(number);
     }
 }
 
@@ -113,41 +117,33 @@ void DocumentBuilder::FlushRun() {
         return;
     }
     const bool isSection = m_run.kind == NodeKind::CData;
-    const std::uint32_t number = Add(m_run.kind, {m_run.begin, m_run.end});
-    NodeRecord& record = m_data.nodes[number];
+    NodeRecord& record = m_data.nodes[AddChild(m_run.kind, {m_run.begin, m_run.end})];
     const std::size_t valueEnd = m_run.inPool ? m_data.pool.size() : m_run.end - (isSection ? kSectionClosing : 0);
     record.leaf.valueBegin = m_run.valueBegin;
-    record.leaf.valueLength = static_cast<std::uint32_t>(valueEnd) - m_run.valueBegin;
-    record.leaf.rawBegin = m_run.begin + (isSection ? kSectionOpening : 0);
+    record.leaf.valueLength = (valueEnd - m_run.valueBegin) & NodeRecord::kLengthMask;
     record.leaf.holder = m_run.inPool ? ValueHolder::Pool : ValueHolder::Source;
-    AddChild(number);
     m_run.kind = NodeKind::None;
 }
 
 void DocumentBuilder::Comment(std::string_view text, ByteRange range) {
     FlushRun();
-    const std::uint32_t number = Add(NodeKind::Comment, range);
-    SetValue(m_data.nodes[number], text, {range.begin + 4, range.end - 3}); // <!-- and -->
-    AddChild(number);
+    SetValue(m_data.nodes[AddChild(NodeKind::Comment, range)], text, {range.begin + 4, range.end - 3}); // <!-- and -->
 }
 
 void DocumentBuilder::Instruction(std::string_view target, std::string_view content, ByteRange range) {
     FlushRun();
-    const std::uint32_t number = Add(NodeKind::Instruction, range);
-    NodeRecord& record = m_data.nodes[number];
+    NodeRecord& record = m_data.nodes[AddChild(NodeKind::Instruction, range)];
     record.name = m_data.names.Intern(target) & NodeRecord::kNameMask;
     SetValue(record, content,
              {SkipBlanks(range.begin + 2 + static_cast<std::uint32_t>(target.size())), range.end - 2}); // <? and ?>
-    AddChild(number);
 }
 
 void DocumentBuilder::SetValue(NodeRecord& record, std::string_view value, ByteRange raw) {
     const std::string_view written = std::string_view(m_data.source.text).substr(raw.begin, raw.Size());
     const bool inPool = value != written;
     record.leaf.holder = inPool ? ValueHolder::Pool : ValueHolder::Source;
-    record.leaf.rawBegin = raw.begin;
     record.leaf.valueBegin = inPool ? static_cast<std::uint32_t>(m_data.pool.size()) : raw.begin;
-    record.leaf.valueLength = static_cast<std::uint32_t>(value.size());
+    record.leaf.valueLength = value.size() & NodeRecord::kLengthMask;
     if (inPool) {
         m_data.pool.append(value);
     }
@@ -162,26 +158,28 @@ std::uint32_t DocumentBuilder::Add(NodeKind kind, ByteRange range) {
     if (number == m_data.nodes.capacity()) {
         MakeRoom(range.begin);
     }
-    NodeRecord& record = m_data.nodes.emplace_back();
+    NodeRecord& record = m_data.nodes.emplace_back(); // all zeros is an empty leaf too
     record.begin = range.begin;
     record.end = range.end;
     record.kind = kind;
-    if (!record.IsInner()) {
-        record.leaf = {};
-    }
     return static_cast<std::uint32_t>(number);
 }
 
-void DocumentBuilder::AddChild(std::uint32_t number) {
-    NodeRecord::Inner& parent = m_data.nodes[m_parent].inner;
-    m_data.nodes[number].parent = m_parent;
-    if (parent.lastChild == 0) {
-        parent.firstChild = number;
+std::uint32_t DocumentBuilder::AddChild(NodeKind kind, ByteRange range) {
+    const std::uint32_t number = Add(kind, range);
+    NodeRecord& record = m_data.nodes[number];
+    record.parent = m_parent;
+    record.previous = m_lastChild;
+    if (m_lastChild == 0) {
+        m_data.nodes[m_parent].inner.firstChild = number;
     } else {
-        m_data.nodes[parent.lastChild].next = number;
-        m_data.nodes[number].previous = parent.lastChild;
+        m_data.nodes[m_lastChild].next = number;
     }
-    parent.lastChild = number;
+    m_lastChild = number;
+    if (m_depth == 0) { // no end tag will come
+        CloseChildren();
+    }
+    return number;
 }
 
 // Documents are alike from end to end: what has been read tells how many nodes the rest will need, so that a large one
@@ -190,7 +188,7 @@ void DocumentBuilder::AddChild(std::uint32_t number) {
 void DocumentBuilder::MakeRoom(std::size_t consumed) {
     const std::size_t count = m_data.nodes.size();
     const double share = static_cast<double>(m_data.source.text.size()) / static_cast<double>(consumed + 1);
-    const auto expected = static_cast<std::size_t>(static_cast<double>(count) * share * 1.02);
+    const auto expected = static_cast<std::size_t>(static_cast<double>(count) * share * kSurplus);
     const std::size_t least = count + count / 2 + 16;
     const std::size_t used = MemoryOf(m_data);
     const std::size_t most = (m_limits.memory - std::min(used, m_limits.memory)) / sizeof(NodeRecord);

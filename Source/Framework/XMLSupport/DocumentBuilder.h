@@ -41,8 +41,9 @@ private:
     };
 
     std::uint32_t Add(NodeKind kind, ByteRange range);
-    void AddChild(std::uint32_t number);
+    std::uint32_t AddChild(NodeKind kind, ByteRange range);
     void AddAttributes(std::uint32_t element, const char* const* attributes, std::uint32_t at);
+    void CloseChildren();
     void SetValue(NodeRecord& record, std::string_view value, ByteRange raw);
     void FlushRun();
     void MakeRoom(std::size_t consumed);
@@ -51,6 +52,7 @@ private:
     DocumentData& m_data;
     const LoadLimits& m_limits;
     std::uint32_t m_parent = DocumentData::kDocumentNode;
+    std::uint32_t m_lastChild = 0; ///< of m_parent
     std::size_t m_depth = 0;
     Run m_run;
 };

@@ -117,7 +117,7 @@ void DocumentEditor::SetText(NodeRef node, std::string_view text, TextForm form)
     RememberTexts(element, region.first);
     if (region.first == 0) {
         const Number next = Record(element).inner.firstChild;
-        LinkBefore(NewText(text, kind, element, PlaceBefore(element, next)), next);
+        m_data.LinkBefore(NewText(text, kind, element, PlaceBefore(element, next)), next);
         return;
     }
     for (const Number other : region.others) {
@@ -127,7 +127,7 @@ void DocumentEditor::SetText(NodeRef node, std::string_view text, TextForm form)
     Record(region.first).kind = kind;
     TakeOverBlanks(element);
     for (const Number other : region.others) {
-        Unlink(other);
+        m_data.Unlink(other);
         if (other < m_changes.parsedNodes) {
             Record(other).kind = NodeKind::None;
         } else {
@@ -148,12 +148,18 @@ void DocumentEditor::TakeOverBlanks(Number element) noexcept {
     }
 }
 
-/// Whether a text is one of the blanks that came with the element beside it.
-bool DocumentEditor::IsBlankOfAdded(Number text) const {
-    const auto behind = m_changes.elements.find(Record(text).next);
-    const auto before = m_changes.elements.find(Record(text).previous);
-    return (behind != m_changes.elements.end() && behind->second.before == text) ||
-           (before != m_changes.elements.end() && before->second.after == text);
+/// The blanks that came with elements added below this one. Others may have come between an element and its blanks.
+std::unordered_set<DocumentEditor::Number> DocumentEditor::BlanksOfAdded(Number element) const {
+    std::unordered_set<Number> blanks;
+    if (m_changes.elements.empty()) {
+        return blanks;
+    }
+    for (Number child = Record(element).inner.firstChild; child != 0; child = Record(child).next) {
+        if (const auto added = m_changes.elements.find(child); added != m_changes.elements.end()) {
+            blanks.insert({added->second.before, added->second.after});
+        }
+    }
+    return blanks;
 }
 
 /// The texts of an element as they were parsed, in order.
@@ -180,10 +186,11 @@ const NodeRecord& DocumentEditor::ParsedRecord(Number number) const {
 
 void DocumentEditor::RestoreText(Number element) {
     const std::vector<Number> parsed = ParsedTexts(element);
+    const std::unordered_set<Number> blanks = BlanksOfAdded(element);
     for (Number child = Record(element).inner.firstChild; child != 0;) {
         const Number next = Record(child).next;
-        if (child >= m_changes.parsedNodes && Record(child).IsText() && !IsBlankOfAdded(child)) {
-            Unlink(child);
+        if (child >= m_changes.parsedNodes && Record(child).IsText() && !blanks.contains(child)) {
+            m_data.Unlink(child);
             ReleaseNode(child);
         }
         child = next;
@@ -197,7 +204,7 @@ void DocumentEditor::RestoreText(Number element) {
             while (next != 0 && Record(next).begin <= Record(number).begin) {
                 next = Record(next).next;
             }
-            LinkBefore(number, next);
+            m_data.LinkBefore(number, next);
         }
     }
     m_changes.texts.erase(element);
@@ -226,18 +233,12 @@ void DocumentEditor::SetValue(NodeRef node, std::string_view value) {
 void DocumentEditor::AddAttribute(NodeRef node, std::string_view name, std::string_view value) {
     const Number element = NumberOf(node);
     const Number number = m_data.names.Intern(name) & NodeRecord::kNameMask;
-    Number last = 0;
-    for (Number each = Record(element).inner.firstAttribute; each != 0; each = Record(each).next) {
-        last = each;
-    }
     if (element < m_changes.parsedNodes) {
         Touch(element);
     }
     const Number added = NewText(value, NodeKind::Attribute, element, Record(element).begin);
-    NodeRecord& record = Record(added);
-    record.name = number & NodeRecord::kNameMask;
-    record.previous = last;
-    (last == 0 ? Record(element).inner.firstAttribute : Record(last).next) = added;
+    Record(added).name = number & NodeRecord::kNameMask;
+    m_data.Append(added);
 }
 
 // --- elements
@@ -255,10 +256,9 @@ void DocumentEditor::AddElement(const ElementPlace& place, std::string_view name
     DocumentChanges::AddedElement& added = m_changes.elements[element];
     added = {};
     Record(element).name = named & NodeRecord::kNameMask;
-    Record(element).inner.startTagEnd = begin;
     if (!text.empty()) {
         const NodeKind kind = form == TextForm::CData ? NodeKind::CData : NodeKind::Text;
-        LinkBefore(NewText(text, kind, element, begin), 0);
+        m_data.LinkBefore(NewText(text, kind, element, begin), 0);
     }
     if (!place.blanksBefore.empty()) {
         added.before = NewText(place.blanksBefore, NodeKind::Text, parent, begin);
@@ -268,7 +268,7 @@ void DocumentEditor::AddElement(const ElementPlace& place, std::string_view name
     }
     for (const Number number : {added.before, element, added.after}) {
         if (number != 0) {
-            LinkBefore(number, next);
+            m_data.LinkBefore(number, next);
         }
     }
 }
@@ -319,7 +319,7 @@ void DocumentEditor::Remove(NodeRef node) {
         found == m_changes.elements.end() ? DocumentChanges::AddedElement() : found->second;
     for (const Number each : {blanks.before, number, blanks.after}) {
         if (each != 0) {
-            Unlink(each);
+            m_data.Unlink(each);
             ReleaseNode(each);
         }
     }
@@ -361,7 +361,6 @@ DocumentEditor::Number DocumentEditor::NewText(std::string_view text, NodeKind k
     NodeRecord::Leaf& leaf = Record(number).leaf;
     leaf.holder = ValueHolder::Written;
     leaf.valueBegin = value;
-    leaf.rawBegin = begin;
     return number;
 }
 
@@ -420,35 +419,8 @@ void DocumentEditor::ReleaseNode(Number number) noexcept {
 
 /// The place in the source at which something comes in.
 DocumentEditor::Number DocumentEditor::PlaceBefore(Number parent, Number next) const {
-    const Number before = next == 0 ? Record(parent).inner.lastChild : Record(next).previous;
-    return before == 0 ? Record(parent).inner.startTagEnd : Record(before).end;
-}
-
-void DocumentEditor::LinkBefore(Number number, Number next) noexcept {
-    NodeRecord& record = Record(number);
-    NodeRecord::Inner& parent = Record(record.parent).inner;
-    const Number before = next == 0 ? parent.lastChild : Record(next).previous;
-    record.previous = before;
-    record.next = next;
-    (before == 0 ? parent.firstChild : Record(before).next) = number;
-    (next == 0 ? parent.lastChild : Record(next).previous) = number;
-}
-
-void DocumentEditor::Unlink(Number number) noexcept {
-    const NodeRecord& record = Record(number);
-    NodeRecord::Inner& parent = Record(record.parent).inner;
-    if (record.previous != 0) {
-        Record(record.previous).next = record.next;
-    } else if (record.kind == NodeKind::Attribute) {
-        parent.firstAttribute = record.next;
-    } else {
-        parent.firstChild = record.next;
-    }
-    if (record.next != 0) {
-        Record(record.next).previous = record.previous;
-    } else if (record.kind != NodeKind::Attribute) {
-        parent.lastChild = record.previous;
-    }
+    const Number before = next == 0 ? m_data.LastFrom(Record(parent).inner.firstChild) : m_data.Previous(next);
+    return before == 0 ? m_data.StartTagEnd(parent) : Record(before).end;
 }
 
 } // namespace Framework

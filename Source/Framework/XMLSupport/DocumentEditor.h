@@ -3,6 +3,8 @@
 #include "Framework/XMLSupport/Document.h"
 #include "Framework/XMLSupport/TreeEditor.h"
 
+#include <unordered_set>
+
 namespace Framework {
 
 /// Changes the tree of a document that nobody else shares, and notes in its DocumentChanges what to write anew.
@@ -34,7 +36,7 @@ private:
     void Touch(Number element);
     void RememberTexts(Number element, Number first);
     void TakeOverBlanks(Number element) noexcept;
-    bool IsBlankOfAdded(Number text) const;
+    std::unordered_set<Number> BlanksOfAdded(Number element) const;
     std::vector<Number> ParsedTexts(Number element) const;
     std::vector<Number> StandingTexts(Number element) const;
     const NodeRecord& ParsedRecord(Number number) const;
@@ -49,8 +51,6 @@ private:
     void ReleaseValue(NodeRecord& record) noexcept;
     void ReleaseNode(Number number) noexcept;
     Number PlaceBefore(Number parent, Number next) const;
-    void LinkBefore(Number number, Number next) noexcept;
-    void Unlink(Number number) noexcept;
 
     Document& m_document;
     DocumentData& m_data;

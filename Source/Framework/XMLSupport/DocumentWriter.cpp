@@ -71,7 +71,7 @@ private:
             if (record.leaf.holder == ValueHolder::Written) {
                 std::string value;
                 AppendAttribute(value, Value(record), quote);
-                m_patches.push_back({record.leaf.rawBegin, record.end - 1, std::move(value)});
+                m_patches.push_back({m_data.RawBegin(record), record.end - 1, std::move(value)});
             }
         }
         std::string added;
@@ -113,16 +113,15 @@ private:
 
     /// Texts that were changed, and every run of added children as one insertion.
     void PatchChildren(std::uint32_t element) {
-        const NodeRecord& parent = Record(element);
-        std::uint32_t at = parent.inner.startTagEnd;
+        std::uint32_t at = 0; // behind the start tag, which is looked for when it is needed
         std::string run;
-        for (std::uint32_t child = parent.inner.firstChild; child != 0; child = Record(child).next) {
+        for (std::uint32_t child = Record(element).inner.firstChild; child != 0; child = Record(child).next) {
             const NodeRecord& record = Record(child);
             if (IsAdded(child)) {
                 AppendAdded(run, child);
                 continue;
             }
-            Insert(parent, at, run);
+            Insert(element, at, run);
             at = record.end;
             if (record.IsText() && record.leaf.holder == ValueHolder::Written) {
                 std::string text;
@@ -130,18 +129,22 @@ private:
                 m_patches.push_back({record.begin, record.end, WithLineEnds(std::move(text))});
             }
         }
-        Insert(parent, at, run);
+        Insert(element, at, run);
     }
 
-    void Insert(const NodeRecord& parent, std::uint32_t at, std::string& run) {
+    void Insert(std::uint32_t element, std::uint32_t at, std::string& run) {
         if (run.empty()) {
             return;
         }
+        bool isClosed = false; // <a/>
+        if (at == 0) {
+            at = m_data.StartTagEnd(element);
+            isClosed = at == Record(element).end;
+        }
         std::string text = WithLineEnds(std::exchange(run, {}));
-        const bool isClosed = parent.end == parent.inner.startTagEnd; // <a/>
         if (isClosed) {
             text.insert(0, 1, '>');
-            text.append("</").append(m_data.names.Name(parent.name)).append(1, '>');
+            text.append("</").append(m_data.names.Name(Record(element).name)).append(1, '>');
         }
         m_patches.push_back({isClosed ? at - 2 : at, at, std::move(text)});
     }

@@ -11,10 +11,6 @@ namespace {
 constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::size_t npos = std::string_view::npos;
 
-bool IsText(NodeKind kind) {
-    return kind == NodeKind::Text || kind == NodeKind::CData;
-}
-
 bool IsRemark(NodeKind kind) {
     return kind == NodeKind::Comment || kind == NodeKind::Instruction;
 }

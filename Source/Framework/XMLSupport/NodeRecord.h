@@ -10,27 +10,27 @@ namespace Framework {
 enum class ValueHolder : std::uint8_t { Source, Pool, Written };
 
 /// One node of a reading tree. Nodes refer to each other by number; 0 is no node.
+///
+/// What few ask for is not kept: where a start tag ends and where the value of an attribute begins is looked up in the
+/// source, and the last of a list is what stands before the first.
 struct NodeRecord {
     /// Of the document node and of elements.
     struct Inner {
         std::uint32_t firstAttribute;
         std::uint32_t firstChild;
-        std::uint32_t lastChild;
-        std::uint32_t startTagEnd;
     };
-    /// Of all other kinds: the value, and where its raw text begins in the source.
+    /// Of all other kinds: the value.
     struct Leaf {
         std::uint32_t valueBegin; ///< of a written value: its number
-        std::uint32_t valueLength;
-        std::uint32_t rawBegin;
-        ValueHolder holder;
+        std::uint32_t valueLength : 30;
+        ValueHolder holder : 2;
     };
 
     std::uint32_t begin = 0;
     std::uint32_t end = 0;
     std::uint32_t parent = 0;
     std::uint32_t next = 0;
-    std::uint32_t previous = 0;
+    std::uint32_t previous = 0; ///< of the first in a list: the last
     std::uint32_t name : 28 = 0;
     NodeKind kind : 4 = NodeKind::None;
     union {
@@ -38,11 +38,13 @@ struct NodeRecord {
         Leaf leaf;
     };
 
-    static constexpr std::uint32_t kNameMask = (1U << 28U) - 1; // more names than 1 GiB can hold
+    // No document is larger than 1 GiB.
+    static constexpr std::uint32_t kNameMask = (1U << 28U) - 1;
+    static constexpr std::uint32_t kLengthMask = (1U << 30U) - 1;
 
     bool IsInner() const { return kind == NodeKind::Element || kind == NodeKind::Document; }
     bool IsText() const { return kind == NodeKind::Text || kind == NodeKind::CData; }
 };
-static_assert(sizeof(NodeRecord) == 40, "a tree of a large document is mostly this");
+static_assert(sizeof(NodeRecord) == 32, "a tree of a large document is mostly this");
 
 } // namespace Framework

@@ -2,43 +2,6 @@
 
 namespace Framework {
 
-namespace {
-
-bool IsText(NodeKind kind) {
-    return kind == NodeKind::Text || kind == NodeKind::CData;
-}
-
-} // namespace
-
-std::string TextOf(const XmlTree& tree, NodeRef node) {
-    std::string room;
-    if (tree.Kind(node) != NodeKind::Element) {
-        return std::string(tree.Value(node, room));
-    }
-    std::string text;
-    for (NodeRef child = tree.FirstChild(node); child != NodeRef::None; child = tree.NextSibling(child)) {
-        if (IsText(tree.Kind(child))) {
-            text.append(tree.Value(child, room));
-        }
-    }
-    return text;
-}
-
-std::string_view TextIn(const XmlTree& tree, NodeRef node, std::string& room) {
-    if (tree.Kind(node) != NodeKind::Element) {
-        return tree.Value(node, room);
-    }
-    const NodeRef child = tree.FirstChild(node);
-    if (child == NodeRef::None) {
-        return {};
-    }
-    if (IsText(tree.Kind(child)) && tree.NextSibling(child) == NodeRef::None) {
-        return tree.Value(child, room);
-    }
-    room = TextOf(tree, node);
-    return room;
-}
-
 std::string CDataOf(const XmlTree& tree, NodeRef element) {
     std::string room;
     std::string text;
@@ -59,16 +22,6 @@ std::string CDataOf(const XmlTree& tree, NodeRef element) {
     }
     text.resize(endOfLastSection);
     return text;
-}
-
-NodeRef FindAttribute(const XmlTree& tree, NodeRef element, std::string_view name) {
-    for (NodeRef attribute = tree.FirstAttribute(element); attribute != NodeRef::None;
-         attribute = tree.NextSibling(attribute)) {
-        if (tree.Name(attribute) == name) {
-            return attribute;
-        }
-    }
-    return NodeRef::None;
 }
 
 std::string AttributeOf(const XmlTree& tree, NodeRef element, std::string_view name) {
