@@ -6,6 +6,7 @@
 #include "Framework/XMLSupport/ParserMemory.h"
 #include "Framework/XMLSupport/ParserMessages.h"
 #include "Framework/XMLSupport/TagScanner.h"
+#include "Framework/XMLSupport/TextHash.h"
 #include "Framework/XMLSupport/ThreadTime.h"
 
 #include <expat.h>
@@ -22,8 +23,10 @@ namespace {
 /// One run of expat over one document. Exceptions of the handlers wait here until the parser has returned: they must
 /// not cross its frames, and it may call further handlers after it was told to stop.
 ///
-/// The parser copies what it is given, so it gets a document in pieces. It would read a token again from its start with
-/// each further piece, so none ends within a token.
+/// The parser goes over all of a piece once more, to count lines that nobody asks it for, unless the piece is the last:
+/// so it gets a document at once. It copies what it is given; a document of which there is not room for two comes in
+/// pieces, and so does one with a tag that the parser must not get to see. The parser would read a token again from its
+/// start with each further piece, so none ends within a token.
 class ParserRun {
 public:
     ParserRun(DocumentData& data, const LoadLimits& limits, double startSeconds)
@@ -37,6 +40,8 @@ public:
         }
         XML_Parser parser = m_parser.get();
         ::XML_SetUserData(parser, this);
+        // It would ask the system for a random one, each time.
+        ::XML_SetHashSalt(parser, static_cast<unsigned long>(TextHash()("names of a document")) | 1U);
         ::XML_SetElementHandler(parser, &OnStart, &OnEnd);
         ::XML_SetCharacterDataHandler(parser, &OnText);
         ::XML_SetCdataSectionHandler(parser, &OnSectionStart, &OnSectionEnd);
@@ -48,6 +53,11 @@ public:
 
     void Parse() {
         const std::size_t size = m_data.source.text.size();
+        if (size <= m_limits.memory / kShareForCopy && !m_scanner.MayStop()) {
+            ParsePiece(0, size);
+            CheckLimits(size);
+            return;
+        }
         for (std::size_t at = 0; at < size;) {
             const std::size_t end = m_scanner.GoTo(at + kPieceBytes);
             ParsePiece(at, end);
@@ -55,8 +65,7 @@ public:
                 RefuseTag(*m_scanner.Forbidden());
             }
             at = end;
-            CheckTime(at);
-            CheckMemory(at);
+            CheckLimits(at);
         }
     }
 
@@ -74,9 +83,18 @@ private:
         }
     }
 
-    ByteRange Event() const {
+    ByteRange Event() {
         const auto begin = static_cast<std::uint32_t>(::XML_GetCurrentByteIndex(m_parser.get()));
+        if (begin >= m_nextCheck) {
+            CheckLimits(begin);
+        }
         return {begin, begin + static_cast<std::uint32_t>(::XML_GetCurrentByteCount(m_parser.get()))};
+    }
+
+    void CheckLimits(std::size_t at) {
+        m_nextCheck = at + kPieceBytes;
+        CheckTime(at);
+        CheckMemory(at);
     }
 
     void ParsePiece(std::size_t begin, std::size_t end) {
@@ -176,6 +194,7 @@ private:
     }
 
     static constexpr std::size_t kPieceBytes = std::size_t{64} * 1024;
+    static constexpr std::size_t kShareForCopy = 16;
 
     struct ParserDeleter {
         void operator()(XML_Parser parser) const { ::XML_ParserFree(parser); }
@@ -185,6 +204,7 @@ private:
     const LoadLimits& m_limits;
     double m_startSeconds;
     std::exception_ptr m_failure;
+    std::size_t m_nextCheck = kPieceBytes;
     DocumentBuilder m_builder;
     TagScanner m_scanner;
     ParserMemory m_memory;

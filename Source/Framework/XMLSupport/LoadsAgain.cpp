@@ -21,6 +21,9 @@ void CheckSizeLoadsAgain(std::size_t bytes, const std::string& what) {
 void CheckTagsLoadAgain(std::string_view text, const std::string& what) {
     const LoadLimits limits = LoadLimits::Current();
     TagScanner scanner(text, limits);
+    if (!scanner.MayStop()) {
+        return;
+    }
     const std::size_t begin = scanner.GoTo(text.size());
     if (!scanner.Forbidden().has_value()) {
         return;

@@ -34,6 +34,10 @@ std::uint32_t NameTable::Intern(std::string_view name) {
     if (name.empty()) {
         return 0;
     }
+    std::uint32_t& recent = m_recent[RecentPlace(name)];
+    if (m_names[recent] == name) {
+        return recent;
+    }
     const std::uint32_t hash = HashOf(name);
     std::size_t at = SlotOf(name, hash);
     if (m_slots[at].number == 0) {
@@ -46,7 +50,7 @@ std::uint32_t NameTable::Intern(std::string_view name) {
         m_letters += kept.size() > withoutHeap ? kept.capacity() + 1 : 0;
         m_slots[at] = {static_cast<std::uint32_t>(m_names.size() - 1), hash};
     }
-    return m_slots[at].number;
+    return recent = m_slots[at].number;
 }
 
 void NameTable::Grow() {

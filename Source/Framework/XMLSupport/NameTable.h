@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <deque>
 #include <string>
@@ -34,9 +35,16 @@ private:
         std::uint32_t number = 0; // 0: free
         std::uint32_t hash = 0;
     };
+    static std::size_t RecentPlace(std::string_view name) {
+        const auto first = static_cast<unsigned char>(name.front());
+        const auto last = static_cast<unsigned char>(name.back());
+        return (name.size() + 5U * first + 3U * last) % 64;
+    }
+
     std::deque<std::string> m_names;
-    std::size_t m_letters = 0; // of names that have a place of their own on the heap
-    std::vector<Slot> m_slots; // a power of two, at most half full
+    std::array<std::uint32_t, 64> m_recent = {}; // a document repeats few names: these need no hashing
+    std::size_t m_letters = 0;                   // of names that have a place of their own on the heap
+    std::vector<Slot> m_slots;                   // a power of two, at most half full
 };
 
 } // namespace Framework

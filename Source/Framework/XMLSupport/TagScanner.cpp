@@ -1,6 +1,7 @@
 #include "Framework/XMLSupport/TagScanner.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace Framework {
 
@@ -18,6 +19,25 @@ std::size_t NeverForbidden(const LoadLimits& limits) {
 TagScanner::TagScanner(std::string_view text, const LoadLimits& limits)
     : m_text(text), m_limits(limits), m_neverForbidden(NeverForbidden(limits)) {}
 
+/// A tag ends before the next '<', whatever that begins: where two that are close enough follow each other, all tags
+/// between them are short.
+bool TagScanner::MayStop() const {
+    std::size_t at = std::min(m_text.find('<'), m_text.size());
+    while (m_text.size() - at > m_neverForbidden) {
+        const char* const begin = m_text.data() + at;
+        const auto* const last = static_cast<const char*>(::memrchr(begin, '<', m_neverForbidden + 1));
+        std::size_t next = at + static_cast<std::size_t>(last - begin);
+        if (next == at) {
+            next = std::min(m_text.find('<', at + 1), m_text.size());
+            if (ForbiddenIn(at, next).has_value()) {
+                return true;
+            }
+        }
+        at = next;
+    }
+    return false;
+}
+
 std::size_t TagScanner::GoTo(std::size_t offset) {
     while (m_at < m_text.size() && !m_forbidden.has_value()) {
         const std::size_t begin = std::min(m_text.find('<', m_at), m_text.size());
@@ -34,19 +54,20 @@ std::size_t TagScanner::GoTo(std::size_t offset) {
 /// Where the next markup may begin; of a tag, also the text behind it is passed over.
 std::size_t TagScanner::EndOfMarkup(std::size_t begin) {
     const std::string_view rest = m_text.substr(begin);
-    if (rest.starts_with("<!--")) {
+    const bool isDeclared = rest.size() > 1 && rest[1] == '!';
+    if (isDeclared && rest.starts_with("<!--")) {
         return Behind("-->", begin + 4);
     }
-    if (rest.starts_with("<![CDATA[")) {
+    if (isDeclared && rest.starts_with("<![CDATA[")) {
         return Behind("]]>", begin + 9);
     }
-    if (rest.starts_with("<?")) {
+    if (rest.size() > 1 && rest[1] == '?') {
         return Behind("?>", begin + 2);
     }
     // No tag holds another '<', not even in its quotes. What begins with "<!" otherwise is refused by the parser.
     const std::size_t end = std::min(m_text.find('<', begin + 1), m_text.size());
-    if (end - begin > m_neverForbidden && !rest.starts_with("<!")) {
-        CheckTag(begin, end);
+    if (end - begin > m_neverForbidden && !isDeclared) {
+        m_forbidden = ForbiddenIn(begin, end);
     }
     return end;
 }
@@ -56,7 +77,7 @@ std::size_t TagScanner::Behind(std::string_view delimiter, std::size_t from) con
     return at == std::string_view::npos ? m_text.size() : at + delimiter.size();
 }
 
-void TagScanner::CheckTag(std::size_t begin, std::size_t end) {
+std::optional<ForbiddenTag> TagScanner::ForbiddenIn(std::size_t begin, std::size_t end) const {
     const std::string_view text = m_text.substr(0, end);
     std::size_t at = begin;
     for (std::size_t attributes = 0;; ++attributes) {
@@ -67,14 +88,14 @@ void TagScanner::CheckTag(std::size_t begin, std::size_t end) {
         if (attributes == m_limits.attributesPerElement) {
             const std::size_t equals = text.find_last_of("=", at);
             const std::size_t nameEnd = text.find_last_not_of(" \t\r\n", equals - 1);
-            m_forbidden = {ForbiddenTag::Reason::TooManyAttributes, text.find_last_of(" \t\r\n\"'", nameEnd) + 1};
-            return;
+            return ForbiddenTag{ForbiddenTag::Reason::TooManyAttributes, text.find_last_of(" \t\r\n\"'", nameEnd) + 1};
         }
         at = std::min(text.find(text[at], at + 1), end - 1) + 1;
     }
     if (at - begin >= m_limits.bytesPerTag) {
-        m_forbidden = {ForbiddenTag::Reason::TooLong, begin};
+        return ForbiddenTag{ForbiddenTag::Reason::TooLong, begin};
     }
+    return std::nullopt;
 }
 
 } // namespace Framework

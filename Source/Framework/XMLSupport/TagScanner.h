@@ -24,6 +24,10 @@ class TagScanner {
 public:
     TagScanner(std::string_view text, const LoadLimits& limits);
 
+    /// Whether the text may hold a forbidden tag, for those who want to know no more. Looks at little of a text whose
+    /// tags all stand close to each other.
+    bool MayStop() const;
+
     /// Goes on to the first beginning of a markup at or behind the offset, else to the end of the text, or stops at a
     /// forbidden tag. Returns where it stands.
     std::size_t GoTo(std::size_t offset);
@@ -33,7 +37,7 @@ public:
 private:
     std::size_t EndOfMarkup(std::size_t begin);
     std::size_t Behind(std::string_view delimiter, std::size_t from) const;
-    void CheckTag(std::size_t begin, std::size_t end);
+    std::optional<ForbiddenTag> ForbiddenIn(std::size_t begin, std::size_t end) const;
 
     std::string_view m_text;
     const LoadLimits& m_limits;
