@@ -1,6 +1,6 @@
 #pragma once
 
-#include <mutex>
+#include <atomic>
 
 #include <sched.h>
 
@@ -15,15 +15,33 @@ public:
     SyncMutex& operator=(const SyncMutex&) = delete;
 
     /// Waits until no other thread holds the mutex, then holds it.
-    void lock() { m_Mutex.lock(); }
-    void readLock() { lock(); }
-    void writeLock() { lock(); }
+    void lock() noexcept {
+        int state = Free;
+        if (!m_State.compare_exchange_strong(state, Held, std::memory_order_acquire, std::memory_order_relaxed)) {
+            WaitAndLock();
+        }
+    }
+    void readLock() noexcept { lock(); }
+    void writeLock() noexcept { lock(); }
 
     /// Only for the thread that holds the mutex.
-    void unlock() { m_Mutex.unlock(); }
+    void unlock() noexcept {
+        if (m_State.exchange(Free, std::memory_order_release) == HeldAndWaitedFor) {
+            m_State.notify_one();
+        }
+    }
 
 private:
-    std::mutex m_Mutex;
+    enum : int { Free, Held, HeldAndWaitedFor };
+
+    /// Whoever got here cannot know whether others wait too, so it holds the mutex as one that is waited for.
+    void WaitAndLock() noexcept {
+        while (m_State.exchange(HeldAndWaitedFor, std::memory_order_acquire) != Free) {
+            m_State.wait(HeldAndWaitedFor, std::memory_order_relaxed);
+        }
+    }
+
+    std::atomic<int> m_State = Free; // a std::mutex is ten times as large, and there is one in each of many small lists
 };
 
 /// Scheduling calls of the operating system.

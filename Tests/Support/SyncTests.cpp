@@ -1,5 +1,10 @@
+#include <algorithm>
+#include <array>
 #include <atomic>
+#include <map>
 #include <memory>
+#include <random>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -67,7 +72,7 @@ TEST(SyncMap, SetAndGet) {
     EXPECT_TRUE(map.getValue("x", found, false));
     map.unlock();
     EXPECT_EQ(found, a.get());
-    EXPECT_EQ(map.contents().size(), 1U);
+    EXPECT_EQ(map.size(), 1U);
     EXPECT_TRUE(ended.empty());
     ExpectUnlocked(map);
 }
@@ -85,7 +90,7 @@ TEST(SyncMap, ClearDeletesOnceInKeyOrder) {
     map.setValue("6", new Entry("e", ended), nullptr);
     map.clearMap(true);
     EXPECT_EQ(ended, (Names{"a", "shared", "c", "d", "e"}));
-    EXPECT_TRUE(map.contents().empty());
+    EXPECT_EQ(map.size(), 0U);
     map.clearMap(true);
     EXPECT_EQ(ended.size(), 5U);
     ExpectUnlocked(map);
@@ -98,7 +103,7 @@ TEST(SyncMap, OnlyClearTrueDeletes) {
         EntryMap map;
         map.setValue("x", kept.get(), nullptr);
         map.clearMap(false);
-        EXPECT_TRUE(map.contents().empty());
+        EXPECT_EQ(map.size(), 0U);
         map.setValue("x", kept.get(), nullptr);
     }
     EXPECT_TRUE(ended.empty());
@@ -124,7 +129,67 @@ TEST(SyncMap, GivesTheLockBackAfterAnException) {
     ExpectUnlocked(map);
     EXPECT_THROW(map.getValue({-1}, found, true), std::runtime_error);
     ExpectUnlocked(map);
-    EXPECT_EQ(map.contents().size(), 1U);
+    EXPECT_EQ(map.size(), 1U);
+}
+
+/// The same steps on a SyncMap and on a std::map, through sizes where it is an array, a table, and a table that
+/// shrinks.
+TEST(SyncMap, HoldsWhatAMapWould) {
+    std::mt19937 random(7);
+    std::array<int, 5> values{};
+    for (const unsigned keys : {3U, 9U, 60U, 2000U}) {
+        Zelvon::SyncMap<zelString, int*> map;
+        std::map<zelString, int*> model;
+        for (unsigned step = 0; step < 20 * keys; ++step) {
+            const zelString key = std::string(random() % 3, '\0') + std::to_string(random() % keys);
+            int* const value = random() % 9 == 0 ? nullptr : &values[random() % values.size()];
+            switch (random() % (step > 15 * keys ? 3 : 8)) {
+            case 0:
+                EXPECT_EQ(map.removeKey(key), model.erase(key) != 0);
+                break;
+            case 1:
+                if (random() % (keys / 2) == 0) {
+                    map.removeValuesIf([&](const int* each) { return each == value; });
+                    std::erase_if(model, [&](const auto& item) { return item.second == value; });
+                }
+                break;
+            default:
+                EXPECT_EQ(map.setValue(key, value, nullptr), model.contains(key));
+                model[key] = value;
+            }
+            int* found = &values[0];
+            EXPECT_EQ(map.getValue(key, found, true), model.contains(key));
+            EXPECT_EQ(found, model.contains(key) ? model[key] : &values[0]);
+        }
+        std::multiset<int*> inMap;
+        std::multiset<int*> inModel;
+        map.forEachValue([&](int* value) { inMap.insert(value); });
+        for (const auto& [key, value] : model) {
+            inModel.insert(value);
+        }
+        EXPECT_EQ(inMap, inModel);
+        EXPECT_EQ(map.contents(), model);
+        EXPECT_FALSE(map.setValue("another key", &values[0], nullptr));
+        EXPECT_TRUE(map.removeKey("another key"));
+        EXPECT_EQ(map.size(), model.size());
+    }
+}
+
+/// With many keys too, a value under several is deleted once, when the first comes.
+TEST(SyncMap, ClearDeletesManyInKeyOrder) {
+    Names ended;
+    EntryMap map;
+    Names expected;
+    for (int i = 0; i < 500; ++i) {
+        const std::string name = "the same beginning " + std::to_string(i * 7919 % 500);
+        Entry* const entry = new Entry(name, ended);
+        map.setValue(name, entry, nullptr);
+        map.setValue("z" + name, entry, nullptr);
+        expected.push_back(name);
+    }
+    std::sort(expected.begin(), expected.end());
+    map.clearMap(true);
+    EXPECT_EQ(ended, expected);
 }
 
 TEST(SyncMap, LookupsAreSafeAgainstChanges) {
@@ -150,7 +215,7 @@ TEST(SyncMap, LookupsAreSafeAgainstChanges) {
     }
     writer.join();
     EXPECT_EQ(wrong, 0);
-    EXPECT_EQ(map.contents().size(), static_cast<std::size_t>(Count));
+    EXPECT_EQ(map.size(), static_cast<std::size_t>(Count));
 }
 
 TEST(SyncMutex, ExcludesUnderEitherName) {

@@ -87,7 +87,7 @@ public:
         }
         m_map.writeLock();
         const std::unique_lock guard(m_map, std::adopt_lock);
-        m_map.contents().erase(key);
+        m_map.removeKey(key);
     }
 
     /// `neighbour` is looked at for Before and After only, and is another entry.
@@ -112,7 +112,7 @@ public:
         if (!m_lingering.empty()) {
             m_map.writeLock();
             const std::unique_lock guard(m_map, std::adopt_lock);
-            std::erase_if(m_map.contents(), [this](const auto& item) { return m_lingering.contains(item.second); });
+            m_map.removeValuesIf([this](Entry* entry) { return m_lingering.contains(entry); });
         }
         std::for_each(m_buried.begin(), m_buried.end(), &DeleteQuietly<Entry>);
         m_buried.clear();
@@ -145,7 +145,7 @@ private:
         m_chain.Reserve(slots.size());
         m_buried.push_back(old);
         // Whoever stands twice has two keys, and so may others when there are more keys than entries.
-        if (slots.size() != 1 || m_map.contents().size() > m_entries.size()) {
+        if (slots.size() != 1 || m_map.size() > m_entries.size()) {
             try {
                 m_lingering.insert(old);
             } catch (...) {

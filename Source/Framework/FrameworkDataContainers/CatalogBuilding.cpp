@@ -42,7 +42,7 @@ bool RemoveKeyed(Zelvon::SyncMap<zelString, Entry*>& map, std::vector<Entry*>& e
     {
         map.writeLock();
         const std::unique_lock guard(map, std::adopt_lock);
-        std::erase_if(map.contents(), [removed](const auto& item) { return item.second == removed; });
+        map.removeValuesIf([removed](const Entry* entry) { return entry == removed; });
     }
     std::erase(entries, removed);
     DeleteQuietly(removed);

@@ -18,12 +18,10 @@ bool IsAt(std::size_t size, int Index) {
 
 /// Nulls in the vector what the map leads to and what stands in it a second time: the rest is nobody else's.
 template <typename Entry>
-void KeepStrays(const std::map<zelString, Entry*>& map, std::vector<Entry*>& entries) noexcept {
+void KeepStrays(const Zelvon::SyncMap<zelString, Entry*>& map, std::vector<Entry*>& entries) noexcept {
     try {
         std::unordered_set<Entry*> reached;
-        for (const auto& [key, entry] : map) {
-            reached.insert(entry);
-        }
+        map.forEachValue([&](Entry* entry) { reached.insert(entry); });
         for (Entry*& entry : entries) {
             if (!reached.insert(entry).second) {
                 entry = nullptr;
@@ -31,8 +29,9 @@ void KeepStrays(const std::map<zelString, Entry*>& map, std::vector<Entry*>& ent
         }
     } catch (const std::bad_alloc&) { // slow, but destructors come here too, and must end without memory
         for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
-            const auto isSame = [&](const auto& item) { return item.second == *entry; };
-            if (std::find(entries.begin(), entry, *entry) != entry || std::any_of(map.begin(), map.end(), isSame)) {
+            bool isReached = std::find(entries.begin(), entry, *entry) != entry;
+            map.forEachValue([&](const Entry* other) { isReached = isReached || other == *entry; });
+            if (isReached) {
                 *entry = nullptr;
             }
         }
@@ -42,8 +41,8 @@ void KeepStrays(const std::map<zelString, Entry*>& map, std::vector<Entry*>& ent
 /// Empties both halves. An entry under two keys, or in one half only, is destroyed once.
 template <typename Entry> void ClearBoth(Zelvon::SyncMap<zelString, Entry*>& map, std::vector<Entry*>& entries) {
     ListEdit<Entry>::Settle(entries);
-    if (map.contents().size() != entries.size()) {
-        KeepStrays(map.contents(), entries);
+    if (map.size() != entries.size()) {
+        KeepStrays(map, entries);
     } else {
         entries.clear();
     }
@@ -113,6 +112,29 @@ void AddKeyed(TypedDataContainer& object, const FieldRow& row, XMLDataWrapper* p
     StoreKeyed(map, object.*row.member.entries, std::move(entry), sName);
 }
 
+bool IsFree(TypedDataContainer& object, const FieldRow& row, std::string_view key) {
+    EntryMap& map = object.*row.map.entries;
+    return map.findValue(key, true) == nullptr;
+}
+
+void StoreEntry(TypedDataContainer& object, const FieldRow& row, std::unique_ptr<TypedDataContainer> entry,
+                std::string_view key) {
+    EntryVector& entries = object.*row.member.entries;
+    if (row.form == FieldForm::PlainList) {
+        entries.push_back(entry.get());
+    } else {
+        ListEdit<TypedDataContainer>::Settle(entries);
+        entries.push_back(entry.get());
+        try {
+            (object.*row.map.entries).addValue(key, entry.get());
+        } catch (...) {
+            entries.pop_back();
+            throw;
+        }
+    }
+    entry.release();
+}
+
 void RemoveKeyed(TypedDataContainer& object, const FieldRow& row, const zelString& sName, const zelString& sFeatureId) {
     EntryVector& entries = object.*row.member.entries;
     EntryMap& map = object.*row.map.entries;
@@ -125,16 +147,15 @@ void RemoveKeyed(TypedDataContainer& object, const FieldRow& row, const zelStrin
     {
         map.writeLock();
         const std::unique_lock guard(map, std::adopt_lock);
-        auto& contents = map.contents();
         if (removed != nullptr) {
             // Every key that leads to the destroyed entry goes. One that is found by its number may stand under another
             // text; then an entry that lives under this text stays reachable.
-            const bool stoodElsewhere = !contents.contains(sName) || contents.at(sName) != removed;
-            keepsOther = row.intKey && stoodElsewhere && contents.contains(sName);
-            std::erase_if(contents, [removed](const auto& item) { return item.second == removed; });
+            TypedDataContainer* other = removed;
+            keepsOther = row.intKey && map.getValue(sName, other, false) && other != removed;
+            map.removeValuesIf([removed](const TypedDataContainer* entry) { return entry == removed; });
         }
         if (!keepsOther) {
-            contents.erase(sName);
+            map.removeKey(sName);
         }
     }
     if (removed != nullptr) {

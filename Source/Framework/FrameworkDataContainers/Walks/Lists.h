@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "Framework/FrameworkDataContainers/Walks/FieldTable.h"
 
 /// The list operations that generated accessors call. `row` is the list's own row; `line` the line of the call, which a
@@ -18,6 +20,11 @@ void AddKeyed(TypedDataContainer& object, const FieldRow& row, XMLDataWrapper* p
               const zelString& sName, unsigned int line);
 void RemoveKeyed(TypedDataContainer& object, const FieldRow& row, const zelString& sName, const zelString& sFeatureId);
 void ClearKeyed(EntryMap& map, EntryVector& entries);
+/// Whether a keyed list has nothing under the key.
+bool IsFree(TypedDataContainer& object, const FieldRow& row, std::string_view key);
+/// Stores an entry that is populated, in a plain list or under a key that is free.
+void StoreEntry(TypedDataContainer& object, const FieldRow& row, std::unique_ptr<TypedDataContainer> entry,
+                std::string_view key);
 
 // keyed list of strings
 zelString TextAt(const TextVector& texts, int Index);
