@@ -5,6 +5,7 @@
 
 #include "Framework/FrameworkExport.h"
 #include "Framework/ParameterList.h"
+#include "Framework/SharedText.h"
 #include "Framework/SupportFunc.h"
 #include "Framework/SyncContainers.h"
 #include "Framework/XMLDataWrapper.h"
@@ -260,22 +261,22 @@ public:
 private:
     friend struct Framework::ContainerAccess;
 
-    zelString m_sFeatureID;
+    // There are as many of these as a document has elements with a class: what few of them hold takes one pointer.
+    Framework::SharedText m_FeatureID;
+    Framework::SharedText m_ContainerName;
+    Framework::SharedText m_MergeFeature; // the feature of the last merge that touched the object
     ValueLookupBase* m_pValueLookup = nullptr;
     std::shared_ptr<Framework::Attachment> m_pContainedData;
-    zelString m_sContainerName;
+    std::uintptr_t m_uNode = 0; // the node of the wrapper's document that the object stands on
+    std::unique_ptr<std::vector<std::uintptr_t>> m_pEarlierNodes; // it was populated from these before, and not reset
+    std::unique_ptr<zelString> m_pLastError;
+    const char* m_pFixedError = nullptr; // a literal that stands for m_pLastError: reporting a failure cannot fail
+    int m_iLastError = 0;
     bool m_bReadOnly = false;
     bool m_bBuildFromScratch;
     bool m_bNested = false;
-    zelString m_sLastError;
-    int m_iLastError = 0;
     bool m_bValid = false;
     bool m_bHoldsNode = false; // populated from m_uNode and not reset since
-    const char* m_pFixedError =
-        nullptr;                // a literal that stands for m_sLastError, so that reporting a failure cannot fail
-    std::uintptr_t m_uNode = 0; // the node of the wrapper's document that the object stands on
-    zelString m_sMergeFeature;  // the feature of the last merge that touched the object
-    std::unique_ptr<std::vector<std::uintptr_t>> m_pEarlierNodes; // it was populated from these before, and not reset
 };
 
 /// Base of most document roots.

@@ -18,11 +18,17 @@ struct ContainerAccess {
     static void SetNested(TypedDataContainer& object, bool value) { object.m_bNested = value; }
     static bool IsValid(const TypedDataContainer& object) { return object.m_bValid; }
     static void SetValid(TypedDataContainer& object, bool value) { object.m_bValid = value; }
-    static const zelString& FeatureID(const TypedDataContainer& object) { return object.m_sFeatureID; }
-    static const zelString& ContainerName(const TypedDataContainer& object) { return object.m_sContainerName; }
-    static const zelString& MergeFeature(const TypedDataContainer& object) { return object.m_sMergeFeature; }
+    static const zelString& FeatureID(const TypedDataContainer& object) { return object.m_FeatureID.Get(); }
+    static const zelString& ContainerName(const TypedDataContainer& object) { return object.m_ContainerName.Get(); }
+    static const zelString& MergeFeature(const TypedDataContainer& object) { return object.m_MergeFeature.Get(); }
+    /// What an object gets from the place that it has in another one, where no host may have a say in it.
+    static void SetPlace(TypedDataContainer& object, std::string_view name, const TypedDataContainer& parent) {
+        object.m_ContainerName.Set(name);
+        object.m_FeatureID = parent.m_FeatureID;
+        object.m_pValueLookup = parent.m_pValueLookup;
+    }
     static void SetMergeFeature(TypedDataContainer& object, const zelString& feature) {
-        object.m_sMergeFeature = feature;
+        object.m_MergeFeature.Set(feature);
     }
 
     /// The wrapper the library reaches the object's XML through, null when it stands on none.
@@ -52,9 +58,9 @@ struct ContainerAccess {
 
     /// The same for an object that is populated once more without being reset: what the new node lacks was read from
     /// the ones before.
-    static void AttachAgain(TypedDataContainer& object, std::shared_ptr<Attachment> attachment, NodeRef node) {
+    static void AttachAgain(TypedDataContainer& object, const std::shared_ptr<Attachment>& attachment, NodeRef node) {
         if (object.m_pContainedData != attachment || !object.m_bHoldsNode) {
-            Attach(object, std::move(attachment), node);
+            Attach(object, attachment, node);
             return;
         }
         if (object.m_pEarlierNodes == nullptr) {

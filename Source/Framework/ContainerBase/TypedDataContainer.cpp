@@ -33,12 +33,13 @@ XMLDataWrapper* TypedDataContainer::GetContainedDataPtr() {
 }
 
 zelString TypedDataContainer::GetMergeAttributes() {
-    return m_sMergeFeature.empty() ? zelString() : zelString(" and @FeatureID='" + m_sMergeFeature + "' ");
+    const zelString& feature = m_MergeFeature.Get();
+    return feature.empty() ? zelString() : zelString(" and @FeatureID='" + feature + "' ");
 }
 
 void TypedDataContainer::GetPLMergeAttributes(ParameterList* plAttributes) {
-    if (plAttributes != nullptr && !m_sMergeFeature.empty()) {
-        plAttributes->Add(&m_sMergeFeature, dcString, "FeatureID", false);
+    if (plAttributes != nullptr && !m_MergeFeature.Get().empty()) {
+        plAttributes->Add(&m_MergeFeature.Get(), dcString, "FeatureID", false);
     }
 }
 
@@ -66,39 +67,42 @@ TypedDataContainer* TypedDataContainer::Clone() {
 }
 
 zelString TypedDataContainer::GetContainerName() {
-    return m_sContainerName;
+    return m_ContainerName.Get();
 }
 
 void TypedDataContainer::SetContainerName(const char* sName) {
-    m_sContainerName = sName;
+    m_ContainerName.Set(sName == nullptr ? "" : sName);
 }
 
 void TypedDataContainer::SetFeatureID(const zelString& sFeatureID) {
-    m_sFeatureID = sFeatureID;
+    m_FeatureID.Set(sFeatureID);
 }
 
 zelString TypedDataContainer::GetFeatureID() {
-    return m_sFeatureID;
+    return m_FeatureID.Get();
 }
 
 void TypedDataContainer::SetLastError(int iNumber, const char* sFormat, ...) {
-    zelString text;
+    auto text = std::make_unique<zelString>();
     va_list arguments;
     va_start(arguments, sFormat);
     try {
-        text.FormatWithArgumentList(sFormat, arguments);
+        text->FormatWithArgumentList(sFormat, arguments);
     } catch (...) {
         va_end(arguments);
         throw;
     }
     va_end(arguments);
     m_iLastError = iNumber;
-    m_sLastError = std::move(text);
+    m_pLastError = std::move(text);
     m_pFixedError = nullptr;
 }
 
 zelString TypedDataContainer::GetLastError() {
-    return m_pFixedError != nullptr ? zelString(m_pFixedError) : m_sLastError;
+    if (m_pFixedError != nullptr) {
+        return m_pFixedError;
+    }
+    return m_pLastError == nullptr ? zelString() : *m_pLastError;
 }
 
 int TypedDataContainer::GetLastErrorNum() {
