@@ -1,7 +1,8 @@
-#include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/ContainerBase/Guarded.h"
 #include "Framework/ContainerBase/MergeControl.h"
 #include "Framework/ContainerBase/OverrideLog.h"
 #include "Framework/FrameworkDataContainers/Walks/Children.h"
+#include "Framework/FrameworkDataContainers/Walks/Lists.h"
 #include "Framework/FrameworkDataContainers/Walks/Scalars.h"
 #include "Framework/FrameworkDataContainers/Walks/Walks.h"
 #include "Framework/XMLSupport/FaultPoint.h"
@@ -12,16 +13,23 @@ namespace Framework {
 
 namespace {
 
-/// The walk of one class over one element. It is driven by the child nodes: each is tested against every field of the
-/// class, in declared order; what no field names is passed over. Attributes are read afterwards, also when they are
-/// absent.
+template <typename Tree>
+bool PopulateClass(TypedDataContainer& object, const FieldTable& table, const Tree& tree, NodeRef node, bool isExact);
+
+/// The walk of one class over one element. It is driven by the child nodes: each is given to the field of the class
+/// that bears its name; what no field names is passed over. Attributes are read afterwards, also when they are absent.
+///
+/// A part whose class no host has derived from is populated by this walk itself. The others are populated through the
+/// virtual operations of their classes, which are handed a view of the node.
 ///
 /// Below something new that an override brings in, merge control has nothing to act on: an element that asks for more
 /// than to be merged or added is left out and reported, as everywhere when a word cannot be obeyed.
-class PopulateWalk {
+template <typename Tree> class PopulateWalk {
 public:
-    PopulateWalk(TypedDataContainer& object, const FieldTable& table, const XmlTree& tree, NodeRef node)
-        : m_object(object), m_table(table), m_tree(tree), m_node(node), m_feature(OverridePlace::FeatureIn(tree)) {}
+    /// `isExact`: the object is of a generated class itself, its own or one that inherits the table.
+    PopulateWalk(TypedDataContainer& object, const FieldTable& table, const Tree& tree, NodeRef node, bool isExact)
+        : m_object(object), m_table(table), m_tree(tree), m_node(node), m_isExact(isExact),
+          m_feature(OverridePlace::FeatureIn(tree)) {}
 
     void Run() {
         AssignLoadTexts();
@@ -43,12 +51,18 @@ private:
         }
     }
 
+    /// A document has its elements mostly in the order of the fields, and those of a list in a row: the search goes on
+    /// where the last one ended. No two elements of a class bear the same name.
     void TakeElement(NodeRef child) {
         const std::string_view name = m_tree.Name(child);
-        for (const FieldRow& row : m_table.rows) {
+        const std::size_t count = m_table.rows.size();
+        for (std::size_t tried = 0; tried < count; ++tried) {
+            const FieldRow& row = m_table.rows[m_next];
             if (row.form != FieldForm::Attribute && row.name == name) {
                 TakeField(row, child);
+                return;
             }
+            m_next = m_next + 1 == count ? 0 : m_next + 1;
         }
     }
 
@@ -59,7 +73,11 @@ private:
         }
         switch (row.form) {
         case FieldForm::Element:
-            SetScalar(m_object, row, row.cdata ? CDataOf(m_tree, child) : TextOf(m_tree, child));
+            if (row.cdata) {
+                SetScalar(m_object, row, CDataOf(m_tree, child));
+            } else {
+                SetScalar(m_object, row, TextIn(m_tree, child, m_room));
+            }
             break;
         case FieldForm::Child:
             TakeChild(row, child);
@@ -85,20 +103,64 @@ private:
 
     /// A child that is there is used again: an element that stands twice fills one object twice.
     void TakeChild(const FieldRow& row, NodeRef node) {
-        ChildInPlace(m_object, row)
-            .SetContainedDataPtr(Wrapper(), m_tree.View(node), ContainerAccess::IsReadOnly(m_object), true);
+        TypedDataContainer& child = ChildInPlace(m_object, row);
+        if (IsExactly(child, *row.child->table) && StandsOnTree()) {
+            PopulatePart(child, *row.child->table, node);
+        } else {
+            child.SetContainedDataPtr(Wrapper(), m_tree.View(node), ContainerAccess::IsReadOnly(m_object), true);
+        }
     }
 
     void TakeEntry(const FieldRow& row, NodeRef node) {
         if (row.value == FieldValue::Container) {
-            const zelString key =
-                row.form == FieldForm::KeyedList ? AttributeOf(m_tree, node, row.keyAttribute) : zelString();
-            row.list->addEntry(m_object, Wrapper(), m_tree.View(node), key);
+            TakeContainer(row, node);
         } else if (row.form == FieldForm::KeyedList) {
             TakeKeyedText(row, node);
         } else {
             row.list->addText(m_object, TextOf(m_tree, node), {});
         }
+    }
+
+    /// Of a key that stands twice the virtual operation makes the report.
+    void TakeContainer(const FieldRow& row, NodeRef node) {
+        const bool isKeyed = row.form == FieldForm::KeyedList;
+        std::string room;
+        const std::string_view key = isKeyed ? AttributeIn(m_tree, node, row.keyAttribute, room) : std::string_view();
+        if (!m_isExact || !StandsOnTree() || (isKeyed && !IsFree(m_object, row, key))) {
+            row.list->addEntry(m_object, Wrapper(), m_tree.View(node), zelString(key));
+            return;
+        }
+        std::unique_ptr<TypedDataContainer> entry(row.list->newEntry(ContainerAccess::BuildsFromScratch(m_object)));
+        ContainerAccess::SetPlace(*entry, row.name, m_object);
+        if (PopulatePart(*entry, *row.list->table, node)) {
+            StoreEntry(m_object, row, std::move(entry), key);
+        }
+    }
+
+    /// What SetContainedDataPtr does with an element of the tree that the object stands on itself.
+    bool PopulatePart(TypedDataContainer& part, const FieldTable& table, NodeRef node) {
+        return Guarded(part, [&] {
+            ContainerAccess::AttachAgain(part, m_attachment, node);
+            ContainerAccess::SetReadOnly(part, ContainerAccess::IsReadOnly(m_object));
+            ContainerAccess::SetNested(part, true);
+            ContainerAccess::SetValid(part, true); // until a walk says otherwise
+            const bool success = PopulateClass(part, table, m_tree, node, true) && ContainerAccess::IsValid(part);
+            ContainerAccess::SetValid(part, success);
+            return success;
+        });
+    }
+
+    /// Whether parts can stand on nodes of this tree without more ado. A host's code may turn a document over to a DOM
+    /// in between.
+    bool StandsOnTree() {
+        XMLDataWrapper* const wrapper = ContainerAccess::Wrapper(m_object);
+        if (wrapper == nullptr || WrapperAccess::State(*wrapper).Tree() != &m_tree) {
+            return false;
+        }
+        if (m_attachment == nullptr) {
+            m_attachment = Attachment::Of(*wrapper);
+        }
+        return true;
     }
 
     /// What parts stand on. Not the wrapper that callers are shown: another thread may end that one at any time when
@@ -121,7 +183,7 @@ private:
 
     zelString TextKey(const FieldRow& row, NodeRef node) {
         if (!row.numberedKeys) {
-            return AttributeOf(m_tree, node, row.keyAttribute);
+            return zelString(AttributeIn(m_tree, node, row.keyAttribute, m_room));
         }
         return SupportFunc::GetStrValue(static_cast<long>((m_object.*row.member.keyedTexts).size() + 1));
     }
@@ -130,37 +192,50 @@ private:
         for (const FieldRow& row : m_table.rows) {
             if (row.form == FieldForm::Attribute) {
                 FaultPoint("Populate");
-                SetScalar(m_object, row, AttributeOf(m_tree, m_node, row.name));
+                SetScalar(m_object, row, AttributeIn(m_tree, m_node, row.name, m_room));
             }
         }
     }
 
     TypedDataContainer& m_object;
     const FieldTable& m_table;
-    const XmlTree& m_tree;
+    const Tree& m_tree;
     NodeRef m_node;
-    const zelString* m_feature; ///< of the merge that this load is part of, null when it is none
+    bool m_isExact;
+    const zelString* m_feature;               ///< of the merge that this load is part of, null when it is none
+    std::size_t m_next = 0;                   ///< the row where the search for the next element begins
+    std::shared_ptr<Attachment> m_attachment; ///< of the parts; none before the first
+    std::string m_room;
 };
+
+/// The walks of a class and of those it inherits from, the base first. An exception ends the walk of its class alone.
+template <typename Tree>
+bool PopulateClass(TypedDataContainer& object, const FieldTable& table, const Tree& tree, NodeRef node, bool isExact) {
+    try {
+        if (table.parent != nullptr) {
+            PopulateClass(object, *table.parent, tree, node, isExact);
+        }
+        PopulateWalk<Tree>(object, table, tree, node, isExact).Run();
+        return true;
+    } catch (...) {
+        ContainerAccess::SetValid(object, false); // it holds a part only
+        ContainerAccess::SetFixedError(object, -1, "Unknown Exception occured in PopulateDataMembers");
+        return false;
+    }
+}
 
 } // namespace
 
 bool Populate(TypedDataContainer& object, const FieldTable& table, XalanNode* pNode) {
-    bool bSuccess = false;
-    try {
-        if (table.parent != nullptr) {
-            bSuccess = Populate(object, *table.parent, pNode);
-        }
-        const XmlTree* tree = nullptr;
-        const NodeRef node = NodeViews::Find(pNode, tree);
-        if (tree != nullptr) {
-            PopulateWalk(object, table, *tree, node).Run();
-            bSuccess = true;
-        }
-    } catch (...) {
-        ContainerAccess::SetValid(object, false); // it holds a part only
-        ContainerAccess::SetFixedError(object, -1, "Unknown Exception occured in PopulateDataMembers");
+    const XmlTree* tree = nullptr;
+    const NodeRef node = NodeViews::Find(pNode, tree);
+    if (tree == nullptr) {
+        return false;
     }
-    return bSuccess;
+    const bool isExact = IsExactly(object, table);
+    const auto* const document = dynamic_cast<const Document*>(tree);
+    return document != nullptr ? PopulateClass(object, table, *document, node, isExact)
+                               : PopulateClass(object, table, *tree, node, isExact);
 }
 
 } // namespace Framework

@@ -15,22 +15,22 @@ bool IsZero(const zelString& text) {
 
 } // namespace
 
-void SetScalar(TypedDataContainer& object, const FieldRow& row, const zelString& text) {
+void SetScalar(TypedDataContainer& object, const FieldRow& row, std::string_view text) {
     switch (row.value) {
     case FieldValue::String:
-        object.*row.member.text = text;
+        (object.*row.member.text).assign(text);
         break;
     case FieldValue::Bool:
-        object.*row.member.flag = SupportFunc::GetBoolValue(text);
+        object.*row.member.flag = SupportFunc::GetBoolValue(zelString(text));
         break;
     case FieldValue::Int:
-        object.*row.member.number = SupportFunc::GetIntValue(text);
+        object.*row.member.number = SupportFunc::GetIntValue(zelString(text));
         break;
     case FieldValue::Double:
-        object.*row.member.real = SupportFunc::GetDoubleValue(text);
+        object.*row.member.real = SupportFunc::GetDoubleValue(zelString(text));
         break;
     case FieldValue::Enumeration:
-        row.enumeration->get(object) = text.c_str();
+        row.enumeration->get(object) = zelString(text).c_str();
         break;
     case FieldValue::Container:
         break;

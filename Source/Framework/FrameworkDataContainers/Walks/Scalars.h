@@ -5,7 +5,7 @@
 namespace Framework {
 
 /// Assigns a text to a scalar by the rules of a load: numbers and bools by SupportFunc, enumerations by their word.
-void SetScalar(TypedDataContainer& object, const FieldRow& row, const zelString& text);
+void SetScalar(TypedDataContainer& object, const FieldRow& row, std::string_view text);
 
 /// Whether the text is one that the field's kind of value has: a whole number, a bool word, a word of the vocabulary. A
 /// load takes any text; this is for those who ask first.
