@@ -139,10 +139,33 @@ private:
         }
     }
 
+    /// The usual cases, told without a copy: a text that stands there as it is, and what is not there and needs not be.
+    bool IsSurelyUnchanged(const FieldRow& row, NodeRef present) const {
+        const bool isAttribute = row.form == FieldForm::Attribute;
+        if (present != NodeRef::None) {
+            std::string room;
+            return row.value == FieldValue::String && !row.cdata &&
+                   TextIn(Tree(), present, room) == std::string_view(m_object.*row.member.text);
+        }
+        switch (row.value) {
+        case FieldValue::String:
+            return std::string_view(m_object.*row.member.text) == (isAttribute ? std::string_view() : row.initial.text);
+        case FieldValue::Bool:
+            return m_object.*row.member.flag == (!isAttribute && row.initial.flag);
+        case FieldValue::Int:
+            return m_object.*row.member.number == (isAttribute ? 0 : row.initial.number);
+        default:
+            return false;
+        }
+    }
+
     bool WriteScalar(const FieldRow& row) {
+        const NodeRef present = m_nodes->Single(row);
+        if (IsSurelyUnchanged(row, present)) {
+            return true;
+        }
         const zelString text = ScalarText(m_object, row);
         const zelString absent = AbsentText(row);
-        const NodeRef present = m_nodes->Single(row);
         FieldHint hint{.name = row.name,
                        .isAttribute = row.form == FieldForm::Attribute,
                        .form = row.cdata ? TextForm::CData : TextForm::Text,
