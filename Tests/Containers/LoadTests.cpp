@@ -1,5 +1,11 @@
 // Loading: every class from orderly and from disorderly documents, and what a load does to an object that is in use.
 
+#include <memory>
+
+#include <FrameworkDataContainers/FrameworkDataContainers.h>
+#include <xalanc/XalanDOM/XalanDOMString.hpp>
+#include <xalanc/XalanDOM/XalanNode.hpp>
+
 #include "Commands.h"
 #include "Containers/EveryClass.h"
 
@@ -179,6 +185,59 @@ TEST(Load, DuplicateKeysAreReportedAndTheFirstStays) {
             }
         }
     });
+}
+
+/// Host's classes, each with one operation of its own: what the library does at once for its own classes goes through
+/// them. The nodes they are handed are views of the elements.
+class HostsThread : public ChildThreadType {
+public:
+    using ChildThreadType::ChildThreadType;
+    bool PopulateDataMembers(XalanNode* pNode) override {
+        isOnElement = pNode->getNodeName() == XALAN_CPP_NAMESPACE::XalanDOMString("ChildThread");
+        return ChildThreadType::PopulateDataMembers(pNode);
+    }
+    bool isOnElement = false;
+};
+
+class HostsList : public ThreadChildListType {
+public:
+    using ThreadChildListType::ThreadChildListType;
+    void AddChildThread(XMLDataWrapper* pData, XalanNode* spNode, const zelString& sName) override {
+        auto thread = std::make_unique<HostsThread>(false);
+        ASSERT_TRUE(thread->SetContainedDataPtr(pData, spNode, false, true));
+        AddNewChildThread(thread.release(), sName);
+    }
+};
+
+class HostsResponse : public ActionRespType {
+public:
+    using ActionRespType::ActionRespType;
+    bool SetContainedDataPtr(XMLDataWrapper* pData, XalanNode* spNode, bool bReadOnly, bool bNested) override {
+        ++stood;
+        return ActionRespType::SetContainedDataPtr(pData, spNode, bReadOnly, bNested);
+    }
+    int stood = 0;
+};
+
+TEST(Load, GoesThroughTheOperationsOfAHostsClass) {
+    HostsList list(false);
+    ASSERT_TRUE(LoadText(list, "<ThreadChildList><ChildThread UniqueName='A'><LibraryPath>p</LibraryPath></ChildThread>"
+                               "<ChildThread UniqueName='B'/></ThreadChildList>"))
+        << list.GetLastError();
+    ASSERT_EQ(list.GetChildThreadLength(), 2);
+    auto* const thread = dynamic_cast<HostsThread*>(list.GetChildThread("A"));
+    ASSERT_NE(thread, nullptr);
+    EXPECT_TRUE(thread->isOnElement);
+    EXPECT_EQ(thread->GetLibraryPath(), "p");
+
+    ActionItemType item(false);
+    auto* const response = new HostsResponse(false);
+    item.SetActionResp(response);
+    XMLDataWrapper wrapper;
+    ASSERT_TRUE(wrapper.LoadXMLText("<ActionItem><ActionResp><Doc Index='1'>d</Doc></ActionResp></ActionItem>", false));
+    ASSERT_TRUE(item.SetContainedDataPtr(&wrapper, nullptr, false, false)); // populates without taking the child out
+    EXPECT_EQ(response->stood, 1);
+    EXPECT_EQ(response->GetDoc(0), "d");
 }
 
 } // namespace
