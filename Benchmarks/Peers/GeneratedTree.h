@@ -47,54 +47,55 @@ private:
     std::unordered_map<Place, void*, HashPlace> m_entries;
 };
 
-/// Puts all entries below an object into the index.
-struct Indexer {
-    Index& index;
-
+/// Goes down to every entry of every list; `Visitor` says in Visit what happens to one.
+template <class Visitor> struct EntryWalk {
     template <class Value> void Scalar(const Value&) {}
     template <class Value> void Child(Value& child) {
         if (child) {
-            Describe(*this, *child);
+            Describe(Self(), *child);
         }
     }
     template <class Entries> void List(Entries& list) {
         for (auto& each : list) {
-            Add(list, EntryOf(each));
+            Self().Visit(list, EntryOf(each));
         }
     }
-    template <class Entries, class Entry> void Add(const Entries& list, Entry& entry) {
-        index.Add(&list, entry);
-        Describe(*this, entry);
-    }
+
+protected:
+    Visitor& Self() { return static_cast<Visitor&>(*this); }
 };
 
-/// Looks up every entry of every list by its key.
-struct Finder {
-    const Index& index;
-    std::size_t missing = 0;
+/// Puts all entries below an object into the index.
+struct Indexer : EntryWalk<Indexer> {
+    explicit Indexer(Index& index) : m_index(index) {}
 
-    template <class Value> void Scalar(const Value&) {}
-    template <class Value> void Child(Value& child) {
-        if (child) {
-            Describe(*this, *child);
-        }
-    }
-    template <class Entries> void List(Entries& list) {
-        for (auto& each : list) {
-            LookUp(list, EntryOf(each));
-        }
+    template <class Entries, class Entry> void Visit(const Entries& list, Entry& entry) {
+        m_index.Add(&list, entry);
+        Describe(*this, entry);
     }
 
 private:
-    template <class Entries, class Entry> void LookUp(const Entries& list, Entry& entry) {
+    Index& m_index;
+};
+
+/// Looks up every entry of every list by its key.
+struct Finder : EntryWalk<Finder> {
+    explicit Finder(const Index& index) : m_index(index) {}
+
+    template <class Entries, class Entry> void Visit(const Entries& list, Entry& entry) {
         if constexpr (Keyed<Entry>) {
-            Entry* const found = index.Find(&list, entry);
+            Entry* const found = m_index.Find(&list, entry);
             missing += found == nullptr;
             if (found != nullptr) {
                 Describe(*this, *found);
             }
         }
     }
+
+    std::size_t missing = 0;
+
+private:
+    const Index& m_index;
 };
 
 /// Reads every field of an object that has no lists.
@@ -145,7 +146,7 @@ struct Merger {
                 MergeEntry(*found, other);
             } else {
                 Append(list, others, each);
-                Indexer{index}.Add(list, EntryOf(list.back()));
+                Indexer{index}.Visit(list, EntryOf(list.back()));
             }
         }
     }

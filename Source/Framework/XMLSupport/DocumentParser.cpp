@@ -24,7 +24,7 @@ namespace {
 /// not cross its frames, and it may call further handlers after it was told to stop.
 ///
 /// The parser goes over all of a piece once more, to count lines that nobody asks it for, unless the piece is the last:
-/// so it gets a document at once. It copies what it is given; a document of which there is not room for two comes in
+/// so it gets a document at once. It copies what it is given; a document that is large for the memory limit comes in
 /// pieces, and so does one with a tag that the parser must not get to see. The parser would read a token again from its
 /// start with each further piece, so none ends within a token.
 class ParserRun {

@@ -12,6 +12,14 @@ std::size_t PlaceFor(std::string_view text, std::size_t places) noexcept {
     return (text.size() + byte(0) + 7 * byte(text.size() / 2) + 31 * byte(text.size() - 1)) % places;
 }
 
+/// Of one thread. What lives longer than it, as objects of the program's own end do, goes without.
+struct RecentTexts {
+    std::array<SharedText, 64> texts;
+    ~RecentTexts() { isOver = true; }
+    static thread_local constinit bool isOver;
+};
+thread_local constinit bool RecentTexts::isOver = false;
+
 } // namespace
 
 void SharedText::Replace(std::string_view text) {
@@ -19,8 +27,12 @@ void SharedText::Replace(std::string_view text) {
         *this = SharedText();
         return;
     }
-    thread_local std::array<SharedText, 64> recent;
-    SharedText& kept = recent[PlaceFor(text, recent.size())];
+    if (RecentTexts::isOver) {
+        *this = SharedText(new Copy(text));
+        return;
+    }
+    thread_local RecentTexts recent;
+    SharedText& kept = recent.texts[PlaceFor(text, recent.texts.size())];
     if (kept.View() != text) {
         kept = SharedText(new Copy(text));
     }
