@@ -1,0 +1,308 @@
+// The journal of merges: its entries alone make the merged tree of the base, and they know who set each value.
+
+#include "Containers/AppliedJournal.h"
+#include "Containers/OverrideWriter.h"
+
+#include "FrameworkDataContainers/FrameworkDataContainers.h"
+
+namespace {
+
+using Action = MergeJournal::Action;
+using Conflict = MergeJournal::Conflict;
+using Entry = MergeJournal::Entry;
+using Outcome = MergeJournal::Outcome;
+using Writer = MergeJournal::Writer;
+
+/// What stands in a text at a place.
+std::string_view At(std::string_view text, const DocumentPlace& place) {
+    for (unsigned int line = 1; line < place.Line && !text.empty(); ++line) {
+        text.remove_prefix(std::min(text.find('\n'), text.size() - 1) + 1);
+    }
+    unsigned int column = 1;
+    while (column < place.Column && !text.empty()) {
+        text.remove_prefix(1);
+        const bool isInside = !text.empty() && (text[0] & 0xC0) == 0x80; // of a code point
+        column += isInside ? 0 : 1;
+    }
+    return text;
+}
+
+/// An edit stands at the element or the attribute of its name; that an attribute is absent stands at the element.
+void ExpectStandsAtItsName(const DocumentPlace& place, const std::string& name, std::string_view text,
+                           bool mayBeAbsent) {
+    const std::string_view there = At(text, place);
+    const bool isElement = there.starts_with("<" + name) && there.find_first_of(" >/", 1) == name.size() + 1;
+    EXPECT_TRUE(place.IsKnown() && (isElement || there.starts_with(name + "=\"") || (mayBeAbsent && there[0] == '<')))
+        << name << " at " << place.Line << ":" << place.Column << " stands " << there.substr(0, 40);
+}
+
+/// A tree into which the overrides of several features are merged, one after the other.
+struct Merges {
+    Merges(CatalogClass which, const std::string& xml) : type(which), object(type.Create(false)), base(xml) {
+        EXPECT_TRUE(LoadText(*object, base)) << object->GetLastError();
+    }
+
+    void Merge(const std::string& feature, const std::string& xml) {
+        overrides[feature] = xml;
+        const IssueRecorder quiet;
+        const MergeJournal::Recording recording(journal);
+        MergeText(*object, feature, xml);
+    }
+
+    CatalogClass type;
+    std::unique_ptr<TypedDataContainer> object;
+    std::string base;
+    std::map<std::string, std::string> overrides;
+    MergeJournal journal;
+};
+
+/// Of one value against what the edits say one after the other.
+void CheckWriters(const Merges& merges, const AppliedJournal& applied, const std::string& path,
+                  const Samples::FieldSample& field, const std::string& text) {
+    SCOPED_TRACE(path);
+    const std::vector<Writer> writers = merges.journal.WritersOf(*merges.object, path);
+    const Writer origin = merges.journal.OriginOf(*merges.object, path);
+    std::vector<std::size_t> entries;
+    for (const Writer& writer : writers) {
+        EXPECT_EQ(writer.Who == Writer::Kind::Feature, writer.Entry.has_value());
+        if (writer.Entry.has_value()) {
+            const Entry entry = merges.journal.At(*writer.Entry);
+            EXPECT_EQ(writer.FeatureID, entry.FeatureID);
+            EXPECT_EQ(writer.IsReset || writer.IsRemoval || entry.Path == path, true) << entry.Path;
+            entries.push_back(*writer.Entry);
+        }
+    }
+    EXPECT_TRUE(std::is_sorted(entries.begin(), entries.end()));
+    const auto edits = applied.edits.find(path);
+    if (edits != applied.edits.end()) {
+        EXPECT_TRUE(std::includes(entries.begin(), entries.end(), edits->second.begin(), edits->second.end()));
+    }
+    EXPECT_LE(std::count_if(writers.begin(), writers.end(), [](const Writer& each) { return each.Wins; }), 1);
+    const auto writer = applied.writers.find(path);
+    EXPECT_EQ(origin.Who, writer != applied.writers.end() ? Writer::Kind::Feature
+                          : applied.inBase.contains(path) ? Writer::Kind::Base
+                                                          : Writer::Kind::Default);
+    EXPECT_EQ(origin.Value, text);
+    if (writer != applied.writers.end()) {
+        EXPECT_EQ(origin.Entry, writer->second);
+    } else if (origin.Who == Writer::Kind::Base) {
+        ExpectStandsAtItsName(origin.Place, std::string(field.field.Name()), merges.base, false);
+    }
+}
+
+TEST(Journal, EntriesMakeTheMergedTreeOfTheBaseAndKnowWhoSetEachValue) {
+    std::set<Outcome> outcomes;
+    std::set<Action> actions;
+    ForEveryClass([&](CatalogClass type) {
+        const std::string name(type.ElementName());
+        for (unsigned seed = 1; seed <= 8 && !testing::Test::HasFailure(); ++seed) {
+            Samples::Random random(seed);
+            const Samples::Sample base = Samples::Make(type, name, random);
+            Merges merges(type, Samples::ToXml(base, random, false));
+            AppliedJournal applied(*merges.object, base);
+            std::size_t number = 0;
+            for (const std::string feature : {"Night", "Coupons", "Loyalty"}) {
+                SCOPED_TRACE("seed " + std::to_string(seed) + ", feature " + feature);
+                const int firstKey = 1 + static_cast<int>(random() % 3);
+                merges.Merge(feature, OverrideWriter(random).Write(Samples::Make(type, name, random, firstKey)));
+                for (; number < merges.journal.Size(); ++number) {
+                    const Entry entry = merges.journal.At(number);
+                    EXPECT_EQ(entry.FeatureID, feature);
+                    outcomes.insert(entry.Result);
+                    actions.insert(entry.Asked);
+                    if (!entry.Problem.has_value()) {
+                        ExpectStandsAtItsName(entry.Place, entry.Path.empty() ? name : std::string(entry.Field),
+                                              merges.overrides[feature], entry.Result == Outcome::Changed);
+                        applied.Apply(number, entry);
+                    }
+                }
+                ASSERT_EQ(Samples::Lines(applied.tree), Samples::Lines(*merges.object));
+                ASSERT_FALSE(testing::Test::HasFailure()) << merges.base << merges.overrides[feature];
+            }
+            EXPECT_TRUE(merges.journal.IsComplete());
+            std::size_t turn = seed;
+            AppliedJournal::ForEachValue(applied.tree, "", [&](const auto& path, const auto& field, const auto& text) {
+                if (turn++ % 8 == 0) {
+                    CheckWriters(merges, applied, path, field, text);
+                }
+            });
+        }
+    });
+    EXPECT_EQ(outcomes.size(), 8U); // all there are
+    EXPECT_EQ(actions.size(), 6U);
+}
+
+/// Everything about an entry but its place.
+std::vector<std::string> Described(const MergeJournal& journal) {
+    std::vector<std::string> entries;
+    for (std::size_t i = 0; i < journal.Size(); ++i) {
+        const Entry entry = journal.At(i);
+        entries.push_back(entry.FeatureID + "|" + std::string(ActionName(entry.Asked)) + "|" + entry.Path + "|" +
+                          entry.Field + "|" + std::string(OutcomeName(entry.Result)) + "|" + entry.OldValue + "|" +
+                          entry.NewValue + "|" + entry.Cause);
+        if (entry.Problem.has_value()) {
+            entries.back() += "|" + std::string(FindingName(entry.Problem->Code)) + "|" + entry.Problem->Text;
+        }
+    }
+    return entries;
+}
+
+TEST(Journal, OfADomHasTheSameEntriesWithoutPlaces) {
+    ForEveryClass([](CatalogClass type) {
+        Samples::Random random(7);
+        const std::string name(type.ElementName());
+        const std::string base = SampleText(type, 7);
+        const std::string text = OverrideWriter(random).Write(Samples::Make(type, name, random, 2));
+        Merges fromText(type, base), fromDom(type, base);
+        fromText.Merge("Night", text);
+        {
+            XMLDataWrapper dom;
+            ASSERT_TRUE(dom.LoadXMLText(text, false));
+            const IssueRecorder quiet;
+            const MergeJournal::Recording recording(fromDom.journal);
+            fromDom.object->MergeFromDOMNode(nullptr, "Night", dom.GetDOMNode(true, false));
+        }
+        EXPECT_EQ(Described(fromDom.journal), Described(fromText.journal)) << text;
+        for (std::size_t i = 0; i < fromDom.journal.Size(); ++i) {
+            EXPECT_FALSE(fromDom.journal.At(i).Place.IsKnown());
+        }
+    });
+}
+
+const char* const threads =
+    "<LoadConfig>\n<ThreadChildList UniqueName='L'>\n<ChildThread UniqueName='A'><LibraryPath>a"
+    "</LibraryPath></ChildThread>\n<ChildThread UniqueName='B'/></ThreadChildList></LoadConfig>";
+
+std::string Thread(const std::string& words, const std::string& path = "") {
+    const std::string inside = path.empty() ? "" : "<LibraryPath>" + path + "</LibraryPath>";
+    return "<LoadConfig><ThreadChildList UniqueName='L'>\n<ChildThread UniqueName=" + words + ">" + inside +
+           "</ChildThread></ThreadChildList></LoadConfig>";
+}
+
+/// "LibraryPath of Day", with the key for an object: "A of Day".
+std::string Named(const MergeJournal& journal, std::size_t number) {
+    const Entry entry = journal.At(number);
+    const std::string path = entry.Path, key = path.substr(path.find_last_of('=') + 1);
+    return (entry.IsContainer ? key.substr(0, key.size() - 1) : std::string(entry.Field)) + " of " + entry.FeatureID;
+}
+
+TEST(Journal, TellsConflictsAndEditsWithoutEffect) {
+    struct Case {
+        const char* what;
+        std::vector<std::string> overrides; ///< of Day, Night and Late
+        std::set<std::string> conflicts;
+        std::set<std::string> lost;
+    };
+    const std::string path = "LibraryPath of ";
+    const Case cases[] = {
+        {"one value, differently",
+         {Thread("'A'", "d"), Thread("'A'", "n"), Thread("'A'", "l")},
+         {"0 LibraryPath of Day, LibraryPath of Night", "0 LibraryPath of Night, LibraryPath of Late"},
+         {"LibraryPath of Day by LibraryPath of Night", "LibraryPath of Night by LibraryPath of Late"}},
+        {"the same value", {Thread("'A'", "d"), Thread("'A'", "d")}, {}, {"LibraryPath of Night"}},
+        {"another value each", {Thread("'A'", "d"), Thread("'B'", "n")}, {}, {}},
+        {"what the base has", {Thread("'A'", "a")}, {}, {"LibraryPath of Day"}},
+        {"removed after an edit",
+         {Thread("'A'", "d"), Thread("'A' MergeAction='Remove'")},
+         {"1 LibraryPath of Day, A of Night"},
+         {"LibraryPath of Day by A of Night"}},
+        {"replaced after an edit",
+         {Thread("'A'", "d"), Thread("'A' MergeAction='Replace'")},
+         {"1 LibraryPath of Day, A of Night"},
+         {"LibraryPath of Day by A of Night"}},
+        {"cleared after an edit",
+         {Thread("'A'", "d"), Thread("'A' MergeAction='Clear'")},
+         {"1 LibraryPath of Day, A of Night"},
+         {"LibraryPath of Day by A of Night"}},
+        {"brought back after a removal",
+         {Thread("'A' MergeAction='Remove'"), Thread("'A'")},
+         {"2 A of Day, A of Night"},
+         {"A of Day by A of Night"}},
+        {"refused",
+         {Thread("'X' MergeAction='Remove'"), Thread("'X' MergeAction='Clear'")},
+         {},
+         {"X of Day", "X of Night"}},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.what);
+        Merges merges(ContainerCatalog::FindRoot("LoadConfig"), threads);
+        const char* const features[] = {"Day", "Night", "Late"};
+        for (std::size_t i = 0; i < each.overrides.size(); ++i) {
+            merges.Merge(features[i], each.overrides[i]);
+        }
+        std::set<std::string> conflicts, lost;
+        for (const Conflict& conflict : merges.journal.Conflicts()) {
+            conflicts.insert(std::to_string(static_cast<int>(conflict.What)) + " " +
+                             Named(merges.journal, conflict.First) + ", " + Named(merges.journal, conflict.Second));
+        }
+        for (const MergeJournal::Lost& edit : merges.journal.WithoutEffect()) {
+            lost.insert(Named(merges.journal, edit.Entry) +
+                        (edit.By.has_value() ? " by " + Named(merges.journal, *edit.By) : std::string()));
+        }
+        EXPECT_EQ(conflicts, each.conflicts);
+        EXPECT_EQ(lost, each.lost);
+    }
+}
+
+TEST(Journal, WritersOfAValueTellItsWholeStory) {
+    Merges merges(ContainerCatalog::FindRoot("LoadConfig"), threads);
+    const zelString path = "ThreadChildList[UniqueName=L]/ChildThread[UniqueName=A]/LibraryPath";
+    merges.Merge("Day", Thread("'A'", "d"));
+    merges.Merge("Night", Thread("'A' MergeAction='Remove'"));
+    merges.Merge("Late", Thread("'A'", "l"));
+    merges.Merge("Last", Thread("'A' MergeAction='Clear'"));
+    const std::vector<Writer> writers = merges.journal.WritersOf(*merges.object, path);
+    ASSERT_EQ(writers.size(), 5U);
+    EXPECT_EQ(writers[0].Who, Writer::Kind::Base);
+    EXPECT_EQ(writers[0].Value, "a");
+    EXPECT_EQ(writers[0].Place.Line, 3U);
+    EXPECT_EQ(writers[0].Place.Column, 29U);
+    EXPECT_EQ(writers[1].FeatureID, "Day");
+    EXPECT_EQ(writers[1].Value, "d");
+    EXPECT_TRUE(writers[2].IsRemoval && !writers[1].IsRemoval);
+    EXPECT_EQ(writers[3].Value, "l");
+    EXPECT_TRUE(writers[4].IsReset && writers[4].Wins && !writers[3].Wins && !writers[3].IsReset);
+    EXPECT_EQ(writers[4].Place.Line, 2U);
+    merges.Merge("End", Thread("'A' MergeAction='Remove'"));
+    const std::vector<Writer> gone = merges.journal.WritersOf(*merges.object, path);
+    ASSERT_EQ(gone.size(), 6U); // it was in the tree
+    EXPECT_TRUE(gone[5].IsRemoval);
+    for (const char* const none :
+         {"", "ThreadChildList[UniqueName=L]", "Nothing", "ThreadChildList[UniqueName=X]/UniqueName",
+          "ThreadChildList[UniqueName=", "ThreadChildList[1]/UniqueName/"}) {
+        EXPECT_TRUE(merges.journal.WritersOf(*merges.object, none).empty()) << none;
+    }
+}
+
+TEST(Journal, RecordsWhatIsMergedWhileItIsInstalledAndOnlyThat) {
+    Merges merges(ContainerCatalog::FindRoot("LoadConfig"), threads);
+    merges.Merge("Day", Thread("'A'", "d"));
+    const std::size_t size = merges.journal.Size();
+    ASSERT_GT(size, 0U);
+    MergeJournal inner;
+    {
+        const MergeJournal::Recording outer(merges.journal);
+        {
+            const MergeJournal::Recording recording(inner);
+            ASSERT_TRUE(MergeText(*merges.object, "Night", Thread("'A'", "n")));
+        }
+        EXPECT_EQ(merges.journal.Size(), size);
+        ASSERT_TRUE(MergeText(*merges.object, "Night", Thread("'C'", "c")));
+    }
+    ASSERT_TRUE(MergeText(*merges.object, "Late", Thread("'A'", "l")));
+    const std::vector<std::size_t> added = merges.journal.EntriesOf("Night");
+    EXPECT_EQ(added.size(), merges.journal.Size() - size);
+    ASSERT_FALSE(added.empty());
+    EXPECT_EQ(added[0], size);
+    EXPECT_EQ(merges.journal.EntriesOf("Day").size(), size);
+    EXPECT_TRUE(merges.journal.EntriesOf("Late").empty());
+    ASSERT_EQ(inner.EntriesOf("Night").size(), 1U);
+    EXPECT_EQ(inner.At(0).OldValue, "d");
+    EXPECT_EQ(inner.At(1).Path, "");
+    inner.Clear();
+    EXPECT_EQ(inner.Size(), 0U);
+    EXPECT_EQ(inner.At(0).NewValue, "");
+    EXPECT_TRUE(inner.IsComplete());
+}
+
+} // namespace
