@@ -186,11 +186,8 @@ private:
         }
     }
 
-    /// What a load makes of an element that holds nothing.
     static std::unique_ptr<Samples::Sample> NewObject(const CatalogField& field) {
-        const CatalogClass type = ContainerCatalog::FindClass(field.ClassName());
-        const auto object = type.Create(false);
-        EXPECT_TRUE(LoadText(*object, "<" + std::string(type.ElementName()) + "/>"));
+        const auto object = ContainerCatalog::FindClass(field.ClassName()).Create(false);
         auto made = std::make_unique<Samples::Sample>(Samples::Read(*object));
         made->name = field.Name();
         return made;
