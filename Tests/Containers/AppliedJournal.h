@@ -27,15 +27,16 @@ public:
         SCOPED_TRACE("entry " + std::to_string(number) + " of " + edit.FeatureID + ": " +
                      std::string(ActionName(edit.Asked)) + " " + edit.Path + " " +
                      std::string(OutcomeName(edit.Result)));
-        const bool isEdit = edit.Result != Outcome::Unchanged && edit.Result != Outcome::Moved;
-        const Values before = isEdit ? ValuesBelow(edit) : Values();
+        const Values before = ObjectValues(edit);
         if (edit.Path.empty()) {
             ApplyToRoot(edit);
         } else {
             ApplyToField(edit);
         }
-        if (isEdit) {
-            NoteWriter(number, edit, before);
+        if (edit.IsContainer) {
+            NoteObject(number, edit, before);
+        } else if (edit.Result != Outcome::Unchanged && edit.Result != Outcome::Moved) {
+            NoteValue(number, edit);
         }
     }
 
@@ -137,8 +138,9 @@ private:
         EXPECT_EQ(edit.Field, target.field->field.Name());
         EXPECT_EQ(edit.IsContainer, target.field->field.GetValue() == CatalogField::Container);
         ASSERT_EQ(target.IsThere(), target.field->field.IsScalar() || edit.Result != Outcome::Added);
-        const bool hadText = !edit.IsContainer && target.IsThere() && edit.Result != Outcome::Moved;
-        EXPECT_EQ(edit.OldValue, hadText ? target.Text() : std::string());
+        const bool hadText = !edit.IsContainer && target.IsThere() && edit.Asked != Action::Place;
+        const bool isLoadText = edit.Result == Outcome::Added && edit.OldValue == target.field->field.LoadText();
+        EXPECT_TRUE(isLoadText || edit.OldValue == (hadText ? target.Text() : std::string())) << edit.OldValue;
         switch (edit.Result) {
         case Outcome::Added:
             AddEntry(target);
@@ -152,6 +154,7 @@ private:
             Remove(target);
             break;
         case Outcome::Moved:
+            EXPECT_EQ(edit.Asked, Action::Place);
             Move(target, edit.NewValue);
             break;
         case Outcome::Unchanged:
@@ -218,33 +221,37 @@ private:
         entries.insert(to, std::move(entry));
     }
 
-    /// All values that an edit may touch.
-    Values ValuesBelow(const MergeJournal::Entry& edit) const {
+    /// All values that an edit of an object may touch.
+    Values ObjectValues(const MergeJournal::Entry& edit) const {
         Values values;
-        ForEachValue(tree, "", [&](const std::string& path, const Samples::FieldSample&, const std::string& text) {
-            if (edit.Path.empty() || path == edit.Path || path.starts_with(edit.Path + "/")) {
-                values[path] = text;
-            }
-        });
+        if (edit.IsContainer && edit.Asked != Action::Place) {
+            ForEachValue(tree, "", [&](const std::string& path, const Samples::FieldSample&, const std::string& text) {
+                if (edit.Path.empty() || path.starts_with(edit.Path + "/")) {
+                    values[path] = text;
+                }
+            });
+        }
         return values;
     }
 
-    void NoteWriter(std::size_t number, const MergeJournal::Entry& edit, const Values& before) {
-        if (!edit.IsContainer) {
-            edits[edit.Path].push_back(number);
+    void NoteValue(std::size_t number, const MergeJournal::Entry& edit) {
+        edits[edit.Path].push_back(number);
+        inBase.erase(edit.Path);
+        writers.erase(edit.Path);
+        if (edit.Result != Outcome::Removed) {
+            writers[edit.Path] = number;
         }
-        const Values after = ValuesBelow(edit);
+    }
+
+    void NoteObject(std::size_t number, const MergeJournal::Entry& edit, const Values& before) {
+        const Values after = before.empty() ? before : ObjectValues(edit);
         for (const auto& [path, text] : before) {
-            if (!after.contains(path)) {
+            const auto now = after.find(path);
+            if (now != after.end() && now->second != text) {
+                writers[path] = number;
+            } else if (now == after.end() || edit.Result == Outcome::Replaced) { // gone, or in something new
                 writers.erase(path);
                 inBase.erase(path);
-            }
-        }
-        for (const auto& [path, text] : after) {
-            const auto old = before.find(path);
-            const bool isGiven = !edit.IsContainer || edit.Result == Outcome::Replaced;
-            if (isGiven || (edit.Result == Outcome::Changed && old->second != text)) {
-                writers[path] = number;
             }
         }
     }

@@ -53,7 +53,8 @@ private:
 
     std::string Entry(const Samples::FieldSample& list, const Samples::EntrySample& entry) {
         const std::string key(list.field.KeyAttribute());
-        const bool hasKey = !key.empty() && !Chance(list.field.HasNumberedKeys() ? 50 : 3);
+        const bool isNumber = entry.key.find_first_not_of("0123456789") == std::string::npos; // then it stays one
+        const bool hasKey = !key.empty() && !Chance(list.field.HasNumberedKeys() ? 50 : isNumber ? 0 : 3);
         if (entry.object != nullptr) {
             return Element(*entry.object, Words(list, 25), hasKey ? "" : key);
         }
