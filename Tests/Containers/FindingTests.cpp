@@ -105,7 +105,7 @@ std::vector<Scenario> Scenarios() {
          }},
         {type("StateProcessingRootType"),
          table,
-         "<StateProcessingRoot\n MergeAction='Remove' Versoin='2'/>",
+         "\n<StateProcessingRoot MergeAction='Remove' Versoin='2'/>",
          {{Code::MisplacedControlWord, "MergeAction", Both}},
          false},
     };

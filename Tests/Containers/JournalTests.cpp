@@ -149,7 +149,7 @@ TEST(Journal, EntriesMakeTheMergedTreeOfTheBaseAndKnowWhoSetEachValue) {
     EXPECT_EQ(actions.size(), 6U);
 }
 
-/// Everything about an entry but its place.
+/// Everything about the entries but their places and their order: a DOM has attributes in an order of its own.
 std::vector<std::string> Described(const MergeJournal& journal) {
     std::vector<std::string> entries;
     for (std::size_t i = 0; i < journal.Size(); ++i) {
@@ -161,6 +161,7 @@ std::vector<std::string> Described(const MergeJournal& journal) {
             entries.back() += "|" + std::string(FindingName(entry.Problem->Code)) + "|" + entry.Problem->Text;
         }
     }
+    std::sort(entries.begin(), entries.end());
     return entries;
 }
 
