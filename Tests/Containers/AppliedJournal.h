@@ -153,11 +153,10 @@ private:
             Remove(target);
             break;
         case Outcome::Moved:
-            EXPECT_EQ(edit.Asked, Action::Place);
-            Move(target, edit.NewValue);
+            EXPECT_TRUE(Move(target, edit.NewValue));
             break;
         case Outcome::Unchanged:
-            EXPECT_TRUE(edit.Asked == Action::Place || edit.NewValue == edit.OldValue) << edit.NewValue;
+            EXPECT_FALSE(edit.Asked == Action::Place ? Move(target, edit.NewValue) : edit.NewValue != edit.OldValue);
             break;
         default:
             ADD_FAILURE() << "there is no problem that would tell why";
@@ -179,6 +178,7 @@ private:
 
     static void Change(const Target& target, const MergeJournal::Entry& edit) {
         if (!edit.IsContainer) {
+            EXPECT_TRUE(edit.Result != Outcome::Changed || edit.NewValue != edit.OldValue);
             target.Text() = edit.NewValue;
         } else if (edit.Result == Outcome::Changed) {
             EXPECT_EQ(edit.Asked, Action::Clear);
@@ -203,21 +203,24 @@ private:
         }
     }
 
-    static void Move(const Target& target, const std::string& where) {
+    /// Whether the entry stands elsewhere now.
+    static bool Move(const Target& target, const std::string& where) {
         std::vector<Samples::EntrySample>& entries = target.field->entries;
         Samples::EntrySample entry = std::move(entries[target.position]);
         Remove(target);
-        auto to = where == "First" ? entries.begin() : entries.end();
+        const std::string neighbour = where.substr(where.find(' ') + 1);
+        auto to = std::find_if(entries.begin(), entries.end(),
+                               [&](const Samples::EntrySample& each) { return each.key == neighbour; });
         if (where.starts_with("Before ") || where.starts_with("After ")) {
-            const std::string neighbour = where.substr(where.find(' ') + 1);
-            to = std::find_if(entries.begin(), entries.end(),
-                              [&](const Samples::EntrySample& each) { return each.key == neighbour; });
-            ASSERT_NE(to, entries.end()) << where;
-            to += where.starts_with("After ") ? 1 : 0;
+            EXPECT_NE(to, entries.end()) << where;
+            to += where.starts_with("After ") && to != entries.end() ? 1 : 0;
         } else {
             EXPECT_TRUE(where == "First" || where == "Last") << where;
+            to = where == "First" ? entries.begin() : entries.end();
         }
+        const std::ptrdiff_t position = to - entries.begin();
         entries.insert(to, std::move(entry));
+        return position != static_cast<std::ptrdiff_t>(target.position);
     }
 
     /// All values that an edit of an object may touch.

@@ -21,8 +21,8 @@ struct Content {
     std::vector<std::string> merged = {};
 };
 
-/// One merge in which allocation number `k` fails, or that and every later one.
-Attempt MergeOnce(const Content& content, bool hasJournal, long k, bool fromThenOn) {
+/// One merge in which allocation number `k` fails.
+Attempt MergeOnce(const Content& content, bool hasJournal, long k) {
     const auto object = content.type.Create(false);
     EXPECT_TRUE(LoadText(*object, content.xml));
     XMLDataWrapper source;
@@ -35,7 +35,7 @@ Attempt MergeOnce(const Content& content, bool hasJournal, long k, bool fromThen
     }
     Attempt attempt;
     {
-        const FailingMemory memory(k, fromThenOn);
+        const FailingMemory memory(k, false);
         attempt.merged = object->MergeFromDataPacket(nullptr, std::move(feature), &source, false);
     }
     attempt.failed = FailingMemory::HasFailed();
@@ -53,13 +53,13 @@ TEST(JournalFaults, AMergeDoesNotFailForItsJournal) {
         const auto object = type.Create(false);
         ASSERT_TRUE(LoadText(*object, content.xml) && MergeText(*object, "F", content.override));
         content.merged = Samples::Lines(*object);
-        const Attempt whole = MergeOnce(content, true, -1, false);
+        const Attempt whole = MergeOnce(content, true, -1);
         ASSERT_TRUE(whole.merged && whole.isComplete && !whole.failed);
         long spoilt[2] = {0, 0}; // merges that went wrong, without a journal and with one
         long lost = 0;
         for (const bool hasJournal : {false, true}) {
             Attempt attempt;
-            for (long k = 0; (attempt = MergeOnce(content, hasJournal, k, false)).failed; ++k) {
+            for (long k = 0; (attempt = MergeOnce(content, hasJournal, k)).failed; ++k) {
                 spoilt[hasJournal ? 1 : 0] += attempt.merged ? 0 : 1;
                 lost += attempt.isComplete ? 0 : 1;
                 EXPECT_TRUE(!attempt.merged || !attempt.isComplete || attempt.entries == whole.entries || !hasJournal)
