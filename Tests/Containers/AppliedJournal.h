@@ -14,12 +14,15 @@
 /// say and from the catalogue alone, as literally as can be.
 class AppliedJournal {
 public:
-    /// `made` says which values stand in the document that the base was loaded from.
-    AppliedJournal(TypedDataContainer& base, const Samples::Sample& made) : tree(Samples::Read(base)) {
+    /// `made` says which values stand in the document that the object was loaded from.
+    AppliedJournal(TypedDataContainer& object, const Samples::Sample& made) : tree(Samples::Read(object)) {
         ForEachValue(made, "", [this](const std::string& path, const Samples::FieldSample& field, const std::string&) {
             if (field.present || field.field.IsList()) {
                 inBase.insert(path);
             }
+        });
+        ForEachValue(tree, "", [this](const std::string& path, const Samples::FieldSample&, const std::string& text) {
+            base[path] = {inBase.contains(path), text};
         });
     }
 
@@ -62,6 +65,8 @@ public:
     }
 
     Samples::Sample tree;
+    std::map<std::string, std::pair<bool, std::string>>
+        base;                                              ///< by path, whether the base document gave it, and its text
     std::set<std::string> inBase;                          ///< paths of values that are as the base document gave them
     std::map<std::string, std::size_t> writers;            ///< by path, the entry that changed it last
     std::map<std::string, std::vector<std::size_t>> edits; ///< by path, all entries that changed that very value
@@ -240,13 +245,14 @@ private:
         edits[edit.Path].push_back(number);
         inBase.erase(edit.Path);
         writers.erase(edit.Path);
-        if (edit.Result != Outcome::Removed) {
+        const bool isNamed = edit.Cause.empty(); // else it follows from something new
+        if (isNamed && edit.Result != Outcome::Removed) {
             writers[edit.Path] = number;
         }
     }
 
     void NoteObject(std::size_t number, const MergeJournal::Entry& edit, const Values& before) {
-        const Values after = before.empty() ? before : ObjectValues(edit);
+        const Values after = ObjectValues(edit);
         for (const auto& [path, text] : before) {
             const auto now = after.find(path);
             if (now != after.end() && now->second != text) {
@@ -255,6 +261,19 @@ private:
                 writers.erase(path);
                 inBase.erase(path);
             }
+            if (now == after.end()) {
+                m_gone[path] = {edit.FeatureID, text};
+            }
+        }
+        for (const auto& [path, text] : after) {
+            const auto gone = m_gone.find(path);
+            const bool isBack = edit.Result == Outcome::Added && gone != m_gone.end();
+            if (isBack && gone->second.first == edit.FeatureID && gone->second.second != text) {
+                writers[path] = number; // what one feature takes away and brings back without the value is reset
+            }
         }
     }
+
+    std::map<std::string, std::pair<std::string, std::string>>
+        m_gone; ///< by path, who took the value away, and its text
 };

@@ -39,6 +39,9 @@ private:
 
     std::string Text(const CatalogField& field, const std::string& text) {
         const bool isText = field.GetValue() == CatalogField::String;
+        if (field.IsCData() && text.find("]]>") == std::string::npos) {
+            return "beside<![CDATA[" + text + "]]>"; // only what is within counts
+        }
         return isText || Chance(90) ? Samples::Escaped(text)
                                     : OneOf({"", "x", "99999999999", "-1e999", "YES", " 7 ", "0.30", "007"});
     }
