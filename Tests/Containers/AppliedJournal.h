@@ -66,10 +66,11 @@ public:
 
     Samples::Sample tree;
     std::map<std::string, std::pair<bool, std::string>>
-        base;                                              ///< by path, whether the base document gave it, and its text
-    std::set<std::string> inBase;                          ///< paths of values that are as the base document gave them
-    std::map<std::string, std::size_t> writers;            ///< by path, the entry that changed it last
-    std::map<std::string, std::vector<std::size_t>> edits; ///< by path, all entries that changed that very value
+        base;                                   ///< by path, whether the base document gave it, and its text
+    std::set<std::string> inBase;               ///< paths of values that are as the base document gave them
+    std::map<std::string, std::size_t> writers; ///< by path, the entry that changed it last
+    /// By path, all entries that changed it, removed it or gave it its default back.
+    std::map<std::string, std::vector<std::size_t>> history;
 
 private:
     using Outcome = MergeJournal::Outcome;
@@ -242,12 +243,11 @@ private:
     }
 
     void NoteValue(std::size_t number, const MergeJournal::Entry& edit) {
-        edits[edit.Path].push_back(number);
-        inBase.erase(edit.Path);
-        writers.erase(edit.Path);
-        const bool isNamed = edit.Cause.empty(); // else it follows from something new
-        if (isNamed && edit.Result != Outcome::Removed) {
-            writers[edit.Path] = number;
+        Forget(edit.Path);
+        if (edit.Result == Outcome::Removed) {
+            history[edit.Path].push_back(number);
+        } else if (edit.Cause.empty()) { // else the override does not name it: it follows from something new
+            NoteWriter(edit.Path, number);
         }
     }
 
@@ -255,23 +255,34 @@ private:
         const Values after = ObjectValues(edit);
         for (const auto& [path, text] : before) {
             const auto now = after.find(path);
-            if (now != after.end() && now->second != text) {
-                writers[path] = number;
-            } else if (now == after.end() || edit.Result == Outcome::Replaced) { // gone, or in something new
-                writers.erase(path);
-                inBase.erase(path);
-            }
             if (now == after.end()) {
+                Forget(path);
+                history[path].push_back(number);
                 m_gone[path] = {edit.FeatureID, text};
+            } else if (now->second != text) {
+                NoteWriter(path, number);
+            } else if (edit.Result == Outcome::Replaced) { // in something new, where nobody gave it
+                Forget(path);
             }
         }
         for (const auto& [path, text] : after) {
             const auto gone = m_gone.find(path);
             const bool isBack = edit.Result == Outcome::Added && gone != m_gone.end();
             if (isBack && gone->second.first == edit.FeatureID && gone->second.second != text) {
-                writers[path] = number; // what one feature takes away and brings back without the value is reset
+                NoteWriter(path, number); // what one feature takes away and brings back without the value is reset
             }
         }
+    }
+
+    void Forget(const std::string& path) {
+        inBase.erase(path);
+        writers.erase(path);
+    }
+
+    void NoteWriter(const std::string& path, std::size_t number) {
+        Forget(path);
+        writers[path] = number;
+        history[path].push_back(number);
     }
 
     std::map<std::string, std::pair<std::string, std::string>>
