@@ -241,8 +241,10 @@ private:
             }
             return;
         }
-        ++seen->count;
-        LookAtField(*seen, child);
+        if (!IsLeftOut(*seen->row, child)) {
+            ++seen->count;
+            LookAtField(*seen, child);
+        }
         if (m_child) {
             m_child(child, *seen->row, seen->count);
         }
@@ -274,9 +276,6 @@ private:
 
     void LookAtField(SeenField& seen, NodeRef child) {
         const FieldRow& row = *seen.row;
-        if (IsLeftOut(row, child)) {
-            return;
-        }
         switch (row.form) {
         case FieldForm::Element:
         case FieldForm::Child:
