@@ -69,7 +69,7 @@ public:
         base;                                   ///< by path, whether the base document gave it, and its text
     std::set<std::string> inBase;               ///< paths of values that are as the base document gave them
     std::map<std::string, std::size_t> writers; ///< by path, the entry that changed it last
-    /// By path, all entries that changed it, removed it or gave it its default back.
+    /// By path, all entries that gave it another value or took it away.
     std::map<std::string, std::vector<std::size_t>> history;
 
 private:
@@ -244,10 +244,11 @@ private:
 
     void NoteValue(std::size_t number, const MergeJournal::Entry& edit) {
         Forget(edit.Path);
-        if (edit.Result == Outcome::Removed) {
+        if (edit.Cause.empty()) { // else the override does not name it: it follows from something new
             history[edit.Path].push_back(number);
-        } else if (edit.Cause.empty()) { // else the override does not name it: it follows from something new
-            NoteWriter(edit.Path, number);
+        }
+        if (edit.Cause.empty() && edit.Result != Outcome::Removed) {
+            writers[edit.Path] = number;
         }
     }
 
@@ -260,7 +261,7 @@ private:
                 history[path].push_back(number);
                 m_gone[path] = {edit.FeatureID, text};
             } else if (now->second != text) {
-                NoteWriter(path, number);
+                writers[path] = number;
             } else if (edit.Result == Outcome::Replaced) { // in something new, where nobody gave it
                 Forget(path);
             }
@@ -269,7 +270,7 @@ private:
             const auto gone = m_gone.find(path);
             const bool isBack = edit.Result == Outcome::Added && gone != m_gone.end();
             if (isBack && gone->second.first == edit.FeatureID && gone->second.second != text) {
-                NoteWriter(path, number); // what one feature takes away and brings back without the value is reset
+                writers[path] = number; // what one merge takes away and brings back without the value is reset
             }
         }
     }
@@ -279,12 +280,6 @@ private:
         writers.erase(path);
     }
 
-    void NoteWriter(const std::string& path, std::size_t number) {
-        Forget(path);
-        writers[path] = number;
-        history[path].push_back(number);
-    }
-
-    std::map<std::string, std::pair<std::string, std::string>>
-        m_gone; ///< by path, who took the value away, and its text
+    /// By path, who took the value away, and its text.
+    std::map<std::string, std::pair<std::string, std::string>> m_gone;
 };

@@ -47,22 +47,23 @@ std::vector<Scenario> Scenarios() {
     return {
         {type("StateProcessingRootType"),
          table,
-         "<StateProcessingRoot Versoin='2'>\n"
+         "<StateProcessingRoot xmlns:xsi='x' xsi:noNamespaceSchemaLocation='s' FeatureID='Slips' Versoin='2'>\n"
          "<RevisionHistory fileName='\xC3\xA9'>1</RevisionHistory><RevisoinHistory/>\n"
          "<StateTable InitialStat='Scan'><!-- \xE3\x81\x82 --><Stat Name='Attract'/>\n"
          "  <State Name='Attract' MergeAction='Clera'/>\n"
-         "  <State Name='Scan' Transient='perhaps'/>\n"
+         "  <State Name='Scan' Transient='perhaps' MergeActoin='Add'/>\n"
          "  <State Name='Scna' MergeAction='Remove'/>\n"
          "  <State Name='Coupon'\n    MergeAction='Add'/>\n"
          "  <State Name='Bag' PlacementOrder='befor'/>\n"
          "  <State Name='Pay' PlacementOrder='Before' PlacementIndex='Coupn'/>\n"
          "  <State BaseState='x'/>\n"
          "  <State Name='Help'><PreStateTrigger><ActionRef>first</ActionRef>\n"
-         "    <ActionRef>second</ActionRef></PreStateTrigger>\n"
+         "    <ActionRef>second</ActionRef><ActionRef>third</ActionRef></PreStateTrigger>\n"
          "    <PostStateTrigger><ActionRef MergeAction='Replace'>r</ActionRef></PostStateTrigger></State>\n"
          "  <State Name='Survey' MergeAction='Remove' PlacementOrder='First'/>\n"
          "  <State Name='Help' BaseState='y'/>\n"
-         "  <State Name='New'><StateTriggers><Stranger/></StateTriggers>\n"
+         "  <State Name='New' MergeAction='Add'><PreStateTrigger "
+         "MergeAction='Clear'/><PreStateTrigger/><StateTriggers><Stranger/></StateTriggers>\n"
          "    <StateTriggers><StateAction Trigger='t'><ActionListCached>maybe</ActionListCached></StateAction>\n"
          "      <StateAction Trigger='t' Transient='true'/></StateTriggers></State>\n"
          "  some words</StateTable></StateProcessingRoot>\n",
@@ -73,6 +74,7 @@ std::vector<Scenario> Scenarios() {
              {Code::UnknownElement, "<Stat ", Check, "State"},
              {Code::UnknownControlWord, "MergeAction='Clera'", Both, "Clear"},
              {Code::NotABool, "Transient='perhaps'"},
+             {Code::UnknownAttribute, "MergeActoin", Check, "MergeAction"},
              {Code::MissingTarget, "<State Name='Scna'", Log, "Scan"},
              {Code::TargetExists, "<State Name='Coupon'", Log},
              {Code::UnknownControlWord, "PlacementOrder='befor'", Both, "Before"},
@@ -82,6 +84,7 @@ std::vector<Scenario> Scenarios() {
              {Code::MisplacedControlWord, "MergeAction='Replace'", Both},
              {Code::MisplacedControlWord, "PlacementOrder='First'", Both},
              {Code::DuplicateKey, "<State Name='Help' Base", Check, "", "<State Name='Help'>"},
+             {Code::MisplacedControlWord, "MergeAction='Clear'/>", Both}, // and what is left out is no first of two
              {Code::UnknownElement, "<Stranger/>"},
              {Code::RepeatedValue, "<StateTriggers><StateAction", Check, "", "<StateTriggers><Stranger"},
              {Code::NotABool, "<ActionListCached>maybe"},
@@ -94,6 +97,8 @@ std::vector<Scenario> Scenarios() {
          "<LaneType>LTYPE_KIOKS</LaneType><ItemPrice>cheap</ItemPrice>\n"
          "<ItemQuantity> 7 </ItemQuantity><MeasuredWeight>99999999999</MeasuredWeight>\n"
          "<MeasuredHeight>2.5</MeasuredHeight><NofPrice>-2.5e3</NofPrice><NofMod1></NofMod1>\n"
+         "<NofMod2>-99999999999</NofMod2><NofMod3>+007</NofMod3><PricePerUnitUsed>1e-999</PricePerUnitUsed>\n"
+         "<NewItem> Off</NewItem><OverrideMode/>\n"
          "<PassAround>YES</PassAround><LongItem><![CDATA[not]]></LongItem><ItemDesc>7</ItemDesc></ItemInformation>",
          {
              {Code::UnknownWord, "<LaneType", Check, "LTYPE_KIOSK"},
@@ -101,6 +106,8 @@ std::vector<Scenario> Scenarios() {
              {Code::NumberOutOfRange, "<MeasuredWeight"},
              {Code::NotANumber, "<MeasuredHeight"},
              {Code::NotANumber, "<NofMod1"},
+             {Code::NumberOutOfRange, "<NofMod2"},
+             {Code::NumberOutOfRange, "<PricePerUnitUsed"},
              {Code::NotABool, "<LongItem"},
          }},
         {type("StateProcessingRootType"),
