@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "RootElement.h"
+#include "DocumentText.h"
 
 namespace Lanedoc {
 
@@ -48,7 +48,7 @@ std::string Messages::Excerpt(const DocumentPlace& place) {
         return {};
     }
     if (!known->second.lines.has_value()) {
-        known->second.lines.emplace(AsUtf8(known->second.source->Document().GetXMLText()));
+        known->second.lines.emplace(DocumentText(known->second.source->Document().GetXMLText()));
     }
     return known->second.lines->Excerpt(place, m_style);
 }

@@ -97,10 +97,9 @@ std::string Gutter(const std::string& number) {
 } // namespace
 
 SourceLines::SourceLines(std::string text) : m_text(std::move(text)) {
-    std::size_t at = m_text.starts_with("\xEF\xBB\xBF") ? 3 : 0;
     std::size_t characters = 0;
-    m_lines.push_back({at, 0});
-    for (; at < m_text.size(); ++at) {
+    m_lines.push_back({0, 0});
+    for (std::size_t at = 0; at < m_text.size(); ++at) {
         if (IsContinuation(m_text[at])) {
             continue;
         }
