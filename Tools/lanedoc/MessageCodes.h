@@ -3,11 +3,14 @@
 #include <string_view>
 #include <vector>
 
+#include "Message.h"
+
 namespace Lanedoc {
 
 /// A code that messages have, and what it stands for in one sentence.
 struct MessageCode {
     std::string_view name;
+    Severity severity; ///< unless an option or the way it was found says otherwise
     std::string_view explanation;
 };
 
