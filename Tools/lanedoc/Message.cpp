@@ -37,6 +37,7 @@ Json JsonOf(const DocumentPlace& place) {
 
 std::string HelpWith(const std::vector<std::string>& names) {
     std::vector<std::string> quoted;
+    quoted.reserve(names.size());
     for (const std::string& name : names) {
         quoted.push_back(Quoted(name));
     }
