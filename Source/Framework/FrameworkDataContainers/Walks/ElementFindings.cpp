@@ -2,10 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <memory_resource>
+#include <typeinfo>
+#include <utility>
 
 #include "Framework/ContainerBase/FieldPath.h"
 #include "Framework/ContainerBase/MergeControl.h"
 #include "Framework/FrameworkDataContainers/Walks/ValueProblem.h"
+#include "Framework/XMLSupport/Document.h"
 #include "Framework/XMLSupport/TextHash.h"
 #include "Framework/XMLSupport/TreeReading.h"
 
@@ -13,17 +17,66 @@ namespace Framework {
 
 namespace {
 
+/// Nodes by a key that stands in the document: a flat table that keeps no texts, for there may be as many as a list is
+/// long.
+class KeyedNodes {
+public:
+    /// Puts the node in the place of the one of the same key, which is returned; None when it is the first.
+    template <typename Equals> NodeRef AddOrExchange(std::string_view key, NodeRef node, Equals hasKey) {
+        if (2 * (m_used + 1) > m_slots.size()) {
+            Grow();
+        }
+        const std::size_t hash = TextHash()(key);
+        std::size_t place = hash & (m_slots.size() - 1);
+        while (m_slots[place].node != NodeRef::None) {
+            if (m_slots[place].hash == hash && hasKey(m_slots[place].node)) {
+                return std::exchange(m_slots[place].node, node);
+            }
+            place = (place + 1) & (m_slots.size() - 1);
+        }
+        m_slots[place] = {hash, node};
+        ++m_used;
+        return NodeRef::None;
+    }
+
+private:
+    struct Slot {
+        std::size_t hash = 0;
+        NodeRef node = NodeRef::None;
+    };
+
+    void Grow() {
+        std::vector<Slot> larger(std::max<std::size_t>(16, 2 * m_slots.size()));
+        for (const Slot& slot : m_slots) {
+            if (slot.node != NodeRef::None) {
+                std::size_t place = slot.hash & (larger.size() - 1);
+                while (larger[place].node != NodeRef::None) {
+                    place = (place + 1) & (larger.size() - 1);
+                }
+                larger[place] = slot;
+            }
+        }
+        m_slots.swap(larger);
+    }
+
+    std::vector<Slot> m_slots;
+    std::size_t m_used = 0;
+};
+
 /// A field of the class and of those that it inherits from, and what was found for it.
 struct SeenField {
     const FieldRow* row;
     NodeRef first = NodeRef::None;
     std::size_t count = 0;
-    HashedMap<std::string, NodeRef> keys{};
+    std::unique_ptr<KeyedNodes> keys{}; ///< the last node of each; none before the second entry
 };
 
-void AppendFields(const FieldTable& table, std::vector<SeenField>& fields) {
+void AppendFields(const FieldTable& table, std::pmr::vector<SeenField>& fields, std::size_t count = 0) {
+    count += table.rows.size();
     if (table.parent != nullptr) {
-        AppendFields(*table.parent, fields);
+        AppendFields(*table.parent, fields, count);
+    } else {
+        fields.reserve(count);
     }
     for (const FieldRow& row : table.rows) {
         fields.push_back({&row});
@@ -47,21 +100,26 @@ bool IsAside(std::string_view name) {
 }
 
 bool IsBlank(std::string_view text) {
-    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+    // No other character below the blank is allowed in XML.
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) <= ' '; });
 }
 
 std::string Quoted(std::string_view name) {
     return std::string("\"").append(name).append("\"");
 }
 
-class ElementFinder {
+/// Every element of an override comes here, so the tree is read as what it is, and the fields of all but the largest
+/// classes find room in the finder.
+template <typename Tree> class ElementFinder {
 public:
-    ElementFinder(const ReadElement& element, const FindingRules& rules, const FindingReport& report,
+    ElementFinder(const Tree& tree, const ReadElement& element, const FindingRules& rules, const FindingReport& report,
                   const FoundChild& child)
-        : m_tree(element.tree), m_node(element.node), m_rules(rules), m_report(report), m_child(child),
-          m_owner(m_tree.Name(m_node)) {
+        : m_tree(tree), m_node(element.node), m_rules(rules), m_report(report), m_child(child),
+          m_owner(m_tree.Name(m_node)), m_memory(m_fieldRoom.data(), m_fieldRoom.size()), m_fields(&m_memory) {
         AppendFields(element.table, m_fields);
     }
+    ElementFinder(const ElementFinder&) = delete;
+    ElementFinder& operator=(const ElementFinder&) = delete;
 
     void Run() {
         LookAtAttributes();
@@ -76,6 +134,7 @@ public:
     }
 
 private:
+    std::string Owner() const { return std::string(m_owner); }
     void Report(NodeRef node, std::string_view field, FoundProblem problem) { m_report(node, field, problem); }
 
     // --- the element's own attributes
@@ -88,7 +147,7 @@ private:
                 return seen.row->form == FieldForm::Attribute && seen.row->name == name;
             });
             if (field != m_fields.end()) {
-                LookAtValue(*field->row, attribute, attribute);
+                LookAtValue(*field, attribute, attribute);
             } else if (IsControlWord(name)) {
                 LookAtControlWord(attribute);
             } else if (m_rules.knowsAllNames && !IsAside(name)) {
@@ -112,8 +171,8 @@ private:
         });
         FoundProblem problem{
             FindingCode::UnknownAttribute,
-            isElement ? std::string(name) + " is an element of " + m_owner + ", not an attribute; it is passed over"
-                      : "no attribute of " + m_owner + " is named " + Quoted(name) + "; it is passed over",
+            isElement ? std::string(name) + " is an element of " + Owner() + ", not an attribute; it is passed over"
+                      : "no attribute of " + Owner() + " is named " + Quoted(name) + "; it is passed over",
             attribute};
         if (!isElement) {
             problem.near = Near(name, true);
@@ -143,11 +202,24 @@ private:
             m_sawText = true;
             Report(m_node, {},
                    {FindingCode::StrayText,
-                    "text stands directly in " + m_owner + ", which holds elements only; it is passed over", text});
+                    "text stands directly in " + Owner() + ", which holds elements only; it is passed over", text});
         }
     }
 
     // --- its elements
+
+    /// The entries of a list stand in a row, and a document numbers its names.
+    SeenField* FieldOf(NodeRef child) {
+        if constexpr (std::is_same_v<Tree, Document>) {
+            if (const std::uint32_t number = m_tree.NameNumber(child); number != m_lastName) {
+                m_lastName = number;
+                m_lastField = FieldNamed(m_tree.Name(child));
+            }
+            return m_lastField;
+        } else {
+            return FieldNamed(m_tree.Name(child));
+        }
+    }
 
     /// A document has its elements mostly in the order of the fields, and those of a list in a row.
     SeenField* FieldNamed(std::string_view name) {
@@ -162,7 +234,7 @@ private:
     }
 
     void LookAtElement(NodeRef child) {
-        SeenField* const seen = FieldNamed(m_tree.Name(child));
+        SeenField* const seen = FieldOf(child);
         if (seen == nullptr) {
             if (m_rules.knowsAllNames) {
                 ReportUnknownElement(child);
@@ -183,16 +255,28 @@ private:
         });
         FoundProblem problem{
             FindingCode::UnknownElement,
-            isAttribute ? std::string(name) + " is an attribute of " + m_owner + ", not an element; it is passed over"
-                        : "no element of " + m_owner + " is named " + Quoted(name) + "; it is passed over"};
+            isAttribute ? std::string(name) + " is an attribute of " + Owner() + ", not an element; it is passed over"
+                        : "no element of " + Owner() + " is named " + Quoted(name) + "; it is passed over"};
         if (!isAttribute) {
             problem.near = Near(name, false);
         }
         Report(child, name, std::move(problem));
     }
 
+    /// The step to a child that a field names.
+    std::string StepTo(const SeenField& seen, NodeRef child) const {
+        const FieldRow& row = *seen.row;
+        const NodeRef key = row.keyAttribute.empty() ? NodeRef::None : FindAttribute(m_tree, child, row.keyAttribute);
+        return key != NodeRef::None               ? KeyStep(row.name, row.keyAttribute, TextOf(m_tree, key))
+               : row.form == FieldForm::PlainList ? PositionStep(row.name, seen.count)
+                                                  : std::string(row.name);
+    }
+
     void LookAtField(SeenField& seen, NodeRef child) {
         const FieldRow& row = *seen.row;
+        if (IsLeftOut(row, child)) {
+            return;
+        }
         switch (row.form) {
         case FieldForm::Element:
         case FieldForm::Child:
@@ -206,9 +290,15 @@ private:
             break;
         }
         if (!HoldsContainers(row)) {
-            LookAtInside(row, child);
-            LookAtValue(row, child, NodeRef::None);
+            LookAtInside(seen, child);
+            LookAtValue(seen, child, NodeRef::None);
         }
+    }
+
+    /// Something new leaves out what asks for more than to be added. That is told elsewhere.
+    bool IsLeftOut(const FieldRow& row, NodeRef child) const {
+        return m_rules.reader == ElementReader::Part && row.form != FieldForm::Element &&
+               ReadControl(m_tree, child, ControlSite::NewPart).problem.has_value();
     }
 
     /// Told once for a field, where it stands for the second time.
@@ -219,7 +309,7 @@ private:
             const bool isRead = HoldsContainers(*seen.row) && m_rules.reader != ElementReader::Merge;
             Report(child, seen.row->name,
                    {FindingCode::RepeatedValue,
-                    std::string(seen.row->name) + " stands more than once in " + m_owner +
+                    std::string(seen.row->name) + " stands more than once in " + Owner() +
                         (isRead ? ", all are read into one object" : ", only the last counts"),
                     NodeRef::None,
                     {},
@@ -239,24 +329,57 @@ private:
             }
             return;
         }
-        if (row.numberedKeys && m_rules.reader != ElementReader::Merge) {
-            return; // numbered on load, whatever stands there
+        if (!m_rules.findsSecondKeys || (row.numberedKeys && m_rules.reader != ElementReader::Merge)) {
+            return; // keys that are numbered on load are so whatever stands there
         }
-        std::string key = attribute == NodeRef::None ? std::to_string(seen.count) : TextOf(m_tree, attribute);
-        const auto [known, isNew] = seen.keys.try_emplace(std::move(key), child);
-        if (isNew) {
+        if (seen.first == NodeRef::None) {
+            seen.first = child;
             return;
         }
-        const NodeRef first = known->second;
+        if (seen.keys == nullptr) {
+            seen.keys = std::make_unique<KeyedNodes>();
+            NoteKey(seen, seen.first, 0);
+        }
+        if (const NodeRef first = NoteKey(seen, child, seen.count); first != NodeRef::None) {
+            ReportSecond(row, first, child);
+        }
+    }
+
+    /// The node before it that has the same key, None when there is none.
+    NodeRef NoteKey(SeenField& seen, NodeRef child, std::size_t position) {
+        const std::string_view key = KeyIn(*seen.row, child, position, m_room);
+        return seen.keys->AddOrExchange(key, child, [&](NodeRef other) {
+            std::string room;
+            return KeyIn(*seen.row, other, 0, room) == key;
+        });
+    }
+
+    /// The key of an entry; where it is the position among its namesakes, 0 has that counted.
+    std::string_view KeyIn(const FieldRow& row, NodeRef child, std::size_t position, std::string& room) const {
+        const NodeRef attribute = FindAttribute(m_tree, child, row.keyAttribute);
+        if (attribute != NodeRef::None || !row.numberedKeys) {
+            return attribute == NodeRef::None ? std::string_view() : m_tree.Value(attribute, room);
+        }
+        for (NodeRef other = position == 0 ? child : NodeRef::None; other != NodeRef::None;
+             other = m_tree.PreviousSibling(other)) {
+            const bool isNamesake = m_tree.Kind(other) == NodeKind::Element && m_tree.Name(other) == row.name;
+            position += isNamesake ? 1U : 0U;
+        }
+        room = std::to_string(position);
+        return room;
+    }
+
+    void ReportSecond(const FieldRow& row, NodeRef first, NodeRef child) {
         const bool isMerge = m_rules.reader == ElementReader::Merge;
-        known->second = child;
         if (isMerge && AttributeOf(m_tree, first, actionAttribute) == "Remove") {
             return; // taken out, and brought anew
         }
-        Report(child, KeyStep(row.name, row.keyAttribute, known->first),
+        std::string room;
+        const std::string key(KeyIn(row, child, 0, room));
+        Report(child, KeyStep(row.name, row.keyAttribute, key),
                {FindingCode::DuplicateKey,
-                "a second " + std::string(row.name) + " with " + std::string(row.keyAttribute) + "=" +
-                    Quoted(known->first) + (isMerge ? ", merged after the first" : "; it is dropped"),
+                "a second " + std::string(row.name) + " with " + std::string(row.keyAttribute) + "=" + Quoted(key) +
+                    (isMerge ? ", merged after the first" : "; it is dropped"),
                 NodeRef::None,
                 {},
                 first,
@@ -264,7 +387,8 @@ private:
     }
 
     /// An element with one value has no elements, and no attributes but the key.
-    void LookAtInside(const FieldRow& row, NodeRef child) {
+    void LookAtInside(const SeenField& seen, NodeRef child) {
+        const FieldRow& row = *seen.row;
         for (NodeRef attribute = m_tree.FirstAttribute(child); attribute != NodeRef::None;
              attribute = m_tree.NextSibling(attribute)) {
             const std::string_view name = m_tree.Name(attribute);
@@ -272,20 +396,20 @@ private:
                 continue;
             }
             if (!IsControlWord(name)) {
-                Report(child, row.name,
+                Report(child, StepTo(seen, child),
                        {FindingCode::UnknownAttribute,
                         std::string(row.name) + " holds one value and has no attribute " + Quoted(name) +
                             "; it is passed over",
                         attribute});
             } else if (m_rules.reader == ElementReader::Load) {
-                Report(child, row.name,
+                Report(child, StepTo(seen, child),
                        {FindingCode::MisplacedControlWord,
                         std::string(name) + " acts in overrides only; a load passes over it", attribute});
             }
         }
         for (NodeRef inner = m_tree.FirstChild(child); inner != NodeRef::None; inner = m_tree.NextSibling(inner)) {
             if (m_tree.Kind(inner) == NodeKind::Element) {
-                Report(inner, row.name,
+                Report(inner, StepTo(seen, child),
                        {FindingCode::UnknownElement, std::string(row.name) + " holds one value and no element " +
                                                          Quoted(m_tree.Name(inner)) + "; it is passed over"});
             }
@@ -293,7 +417,8 @@ private:
     }
 
     /// `attribute` is the node itself when it is one.
-    void LookAtValue(const FieldRow& row, NodeRef node, NodeRef attribute) {
+    void LookAtValue(const SeenField& seen, NodeRef node, NodeRef attribute) {
+        const FieldRow& row = *seen.row;
         if (row.value == FieldValue::String) {
             return;
         }
@@ -301,18 +426,26 @@ private:
         std::optional<FoundProblem> problem = ValueProblem(row, text, m_rules.near);
         if (problem.has_value()) {
             problem->where = attribute;
-            Report(attribute == NodeRef::None ? node : m_node, row.name, std::move(*problem));
+            if (attribute == NodeRef::None) {
+                Report(node, StepTo(seen, node), std::move(*problem));
+            } else {
+                Report(m_node, row.name, std::move(*problem));
+            }
         }
     }
 
-    const XmlTree& m_tree;
+    const Tree& m_tree;
     NodeRef m_node;
     const FindingRules& m_rules;
     const FindingReport& m_report;
     const FoundChild& m_child;
-    std::string m_owner;
-    std::vector<SeenField> m_fields;
-    std::size_t m_next = 0; ///< the field where the search for the next element begins
+    std::string_view m_owner;
+    std::array<std::byte, 2048> m_fieldRoom; ///< for the fields
+    std::pmr::monotonic_buffer_resource m_memory;
+    std::pmr::vector<SeenField> m_fields;
+    std::size_t m_next = 0;       ///< the field where the search for the next element begins
+    std::uint32_t m_lastName = 0; ///< the number of the name that was looked at last
+    SeenField* m_lastField = nullptr;
     bool m_sawText = false;
     std::string m_room;
 };
@@ -321,7 +454,11 @@ private:
 
 void FindInElement(const ReadElement& element, const FindingRules& rules, const FindingReport& report,
                    const FoundChild& child) {
-    ElementFinder(element, rules, report, child).Run();
+    if (typeid(element.tree) == typeid(Document)) {
+        ElementFinder(static_cast<const Document&>(element.tree), element, rules, report, child).Run();
+    } else {
+        ElementFinder(element.tree, element, rules, report, child).Run();
+    }
 }
 
 } // namespace Framework
