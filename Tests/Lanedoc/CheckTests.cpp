@@ -118,7 +118,7 @@ TEST_F(LanedocCheck, FindsEveryKindOfMistakeOnceAtItsPlace) {
         {state("«<Stat>»<State/></Stat>"), "unknown-element", R"(did you mean "State"?)"},
         {state("<State Name='A'><Doc>«<b>»c</b></Doc></State>"), "unknown-element", ""},
         {state("<State Name='A' «Transiet='1'»/>"), "unknown-attribute", R"(did you mean "Transient"?)"},
-        {state("<State Name='A'>« lost »<Doc/> too </State>"), "stray-text", ""},
+        {state("<State Name='A'> «lost» <Doc/> too </State>"), "stray-text", ""},
         {state("<State Name='A'/>«<State Name='A'/>»"), "duplicate-key", ""},
         {state("«<State Transient='1'/>»"), "missing-key", ""},
         {"<CaptureConfig><Files/>\n«<Files/>»\n<Files/></CaptureConfig>", "repeated-value", ""},
