@@ -78,12 +78,12 @@ TEST_F(Lanedoc, AnswersEveryUseWithItsCodeAndWord) {
         {"show missing.xml", 3, "missing.xml: error: "},
         {"show - <broken.xml", 3, "<stdin>:3:3: error: "},
         {"show unknown.xml", 3, "unknown.xml:2:2: error: "},
-        {"show unknown.xml", 3, "did you mean StateProcessingRoot?"},
+        {"show unknown.xml", 3, R"(did you mean "StateProcessingRoot"?)"},
         {"merge base.xml fine.xml other.xml", 3, "other.xml:2:12: error: the root element is CommConfig, expected"},
         {"merge base.xml wide.xml", 3, "wide.xml:2:1: error: the root element is CommConfig, expected"},
         {"merge base.xml fine.xml broken.xml", 3, "broken.xml:3:3: error: "},
         {"merge base.xml nokey.xml", 4, "nokey.xml:2:3: error: "},
-        {"merge base.xml - <word.xml", 4, "<stdin>:2:3: error: "},
+        {"merge base.xml - <word.xml", 4, "<stdin>:2:22: error: "},
         {"merge twice.xml fine.xml", 0, "twice.xml:3:3: warning: "},
         {"merge base.xml fine.xml >/dev/full", 5, "cannot write"},
         {"get base.xml Version >&-", 5, "cannot write"},
@@ -150,6 +150,12 @@ TEST_F(Lanedoc, ShowsTheTreeWithPathsThatLeadBack) {
     EXPECT_FALSE(Holds(Run("show base.xml --no-defaults").out, "(default)"));
     EXPECT_TRUE(Holds(Run("--color=always show base.xml").out, "\x1b[1mStateProcessingRoot\x1b[0m"));
     EXPECT_TRUE(Holds(Run("show base.xml --color always").out, "\x1b["));
+    ::setenv("CLICOLOR_FORCE", "1", 1);
+    EXPECT_TRUE(Holds(Run("show base.xml").out, "\x1b["));
+    ::setenv("NO_COLOR", "1", 1);
+    EXPECT_FALSE(Holds(Run("show base.xml").out, "\x1b["));
+    ::unsetenv("CLICOLOR_FORCE");
+    ::unsetenv("NO_COLOR");
 }
 
 TEST_F(Lanedoc, MergesIntoAFileAndToStandardOutput) {

@@ -2,12 +2,18 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "Framework/ContainerCatalog.h"
+#include "Framework/Finding.h"
 #include "Framework/XMLDataWrapper.h"
 #include "RootElement.h"
 
 namespace Lanedoc {
+
+/// What stands for the file of a text in the library's messages, and for that of standard input in those of the tool.
+constexpr std::string_view nameOfTexts = "<text>";
+constexpr std::string_view nameOfInput = "<stdin>";
 
 /// A document as the person named it: read and parsed, its class known.
 class Source {
@@ -23,6 +29,8 @@ public:
     XMLDataWrapper& Document() { return m_document; }
     /// Name of the root element.
     const std::string& RootName() const { return m_root.name; }
+    /// Where the root element begins.
+    DocumentPlace PlaceOfRoot() const;
     /// `file:line:col` of the root element.
     std::string RootPlace() const;
     /// The root's FeatureID attribute, else the file's stem; "stdin" for standard input.
@@ -40,7 +48,7 @@ private:
 };
 
 /// A library's `file:line:col: text` or `file: text` with the severity set behind the place; `name` takes the place of
-/// "<text>", which documents that came by standard input have as their file.
+/// nameOfTexts.
 std::string WithSeverity(const std::string& text, const std::string& severity, const std::string& name);
 
 } // namespace Lanedoc
