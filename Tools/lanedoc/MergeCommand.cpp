@@ -1,12 +1,11 @@
-#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <optional>
 
 #include "Commands.h"
 #include "IssueLog.h"
+#include "MergeInput.h"
 #include "MergeWarnings.h"
-#include "Source.h"
 #include "Summary.h"
 
 namespace Lanedoc {
@@ -14,72 +13,13 @@ namespace Lanedoc {
 namespace {
 
 struct MergeOptions {
-    std::string base;
-    std::vector<std::string> overrides;
+    MergeArguments documents;
     std::string output = "-";
     bool keepGoing = false;
     bool summary = false;
     std::size_t depth = 0;
     bool quiet = false;
 };
-
-/// An override as the command line names it.
-struct OverrideArgument {
-    std::string feature; ///< empty when it is not given
-    std::string path;
-};
-
-bool IsPlainWord(const std::string& text) {
-    constexpr const char* letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_-.";
-    return !text.empty() && text.find_first_not_of(letters) == std::string::npos;
-}
-
-OverrideArgument ReadOverrideArgument(const std::string& argument) {
-    const std::size_t equals = argument.find('=');
-    std::error_code ignored;
-    if (equals == std::string::npos || !IsPlainWord(argument.substr(0, equals)) ||
-        std::filesystem::exists(argument, ignored)) {
-        return {{}, argument};
-    }
-    return {argument.substr(0, equals), argument.substr(equals + 1)};
-}
-
-struct Override {
-    std::unique_ptr<Source> source;
-    std::string feature;
-};
-
-/// The documents of a merge. All are read before anything is done with one.
-struct MergeInput {
-    std::unique_ptr<Source> base;
-    std::vector<Override> overrides;
-};
-
-MergeInput ReadInput(const MergeOptions& options) {
-    std::vector<OverrideArgument> arguments;
-    for (const std::string& text : options.overrides) {
-        arguments.push_back(ReadOverrideArgument(text));
-    }
-    const auto fromInput =
-        std::count_if(arguments.begin(), arguments.end(), [](const auto& a) { return a.path == "-"; });
-    if (fromInput + (options.base == "-" ? 1 : 0) > 1) {
-        throw Failure(ExitCode::WrongUse, "lanedoc: error: standard input can be one document only");
-    }
-    MergeInput input;
-    input.base = std::make_unique<Source>(options.base);
-    static_cast<void>(input.base->Class()); // an unknown base is told before any trouble with the overrides
-    for (const OverrideArgument& argument : arguments) {
-        auto source = std::make_unique<Source>(argument.path);
-        if (source->RootName() != input.base->RootName()) {
-            throw Failure(ExitCode::BadInput, source->RootPlace() + ": error: the root element is " +
-                                                  Printable(source->RootName()) + ", expected " +
-                                                  input.base->RootName() + " as in " + Printable(input.base->Name()));
-        }
-        std::string feature = argument.feature.empty() ? source->Feature() : argument.feature;
-        input.overrides.push_back({std::move(source), std::move(feature)});
-    }
-    return input;
-}
 
 /// A device or a pipe, as /dev/null or >(command): it takes the document as standard output would.
 bool IsDevice(const std::string& output) {
@@ -164,7 +104,7 @@ std::size_t MergeAll(TypedDataContainer& tree, const std::vector<Override>& over
 }
 
 ExitCode Merge(const MergeOptions& options, ColorMode color) {
-    const MergeInput input = ReadInput(options);
+    const MergeInput input = ReadMergeInput(options.documents);
     IssueLog issues;
     const std::unique_ptr<TypedDataContainer> tree = LoadBase(*input.base, issues, options.quiet);
     const std::size_t problems = MergeAll(*tree, input.overrides, issues, options, StyleOfErrors(color));
@@ -182,10 +122,7 @@ ExitCode Merge(const MergeOptions& options, ColorMode color) {
 void AddMergeCommand(CLI::App& tool, Request& request) {
     CLI::App* const command = tool.add_subcommand("merge", "Merge override documents into a base, feature by feature");
     const auto options = std::make_shared<MergeOptions>();
-    command->add_option("BASE", options->base, "The document to merge into, \"-\" for standard input")->required();
-    command->add_option("OVERRIDE", options->overrides, "What is merged into it, in this order; see below")
-        ->required()
-        ->type_name("[FEATURE=]FILE");
+    AddMergeArguments(*command, options->documents);
     command
         ->add_option("-o,--output", options->output,
                      "Where the result goes, replaced as a whole or not at all; \"-\" (default) for standard output")
