@@ -170,13 +170,13 @@ TEST_F(LanedocMerge, WarnsOfWhatNoFieldNames) {
     EXPECT_EQ(Run(merge).errors,
               R"(base.xml:2:1: warning: 2 comments will not be in the result, the first is here
 base.xml:2:11: warning: a processing instruction will not be in the result
-base.xml:3:1: warning: the attribute xmlns:x of StateProcessingRoot is no field and will not be in the result
+base.xml:3:22: warning: the attribute xmlns:x of StateProcessingRoot is no field and will not be in the result
 base.xml:4:20: warning: the text in StateProcessingRoot is no field and will not be in the result
-base.xml:5:2: warning: the attribute by of RevisionHistory is no field and will not be in the result
+base.xml:5:32: warning: the attribute by of RevisionHistory is no field and will not be in the result
 base.xml:5:45: warning: the element b in RevisionHistory is no field and will not be in the result
-base.xml:6:14: warning: the attribute Nam of State is no field and will not be in the result; did you mean Name?
+base.xml:6:21: warning: the attribute Nam of State is no field and will not be in the result; did you mean Name?
 base.xml:6:82: warning: the element Colour in State is no field and will not be in the result (2 times, first here)
-change.xml:1:97: warning: the attribute Transiet of State is no field and is passed over; did you mean Transient?
+change.xml:1:113: warning: the attribute Transiet of State is no field and is passed over; did you mean Transient?
 )");
     const Result quiet = Run(merge + " --quiet");
     EXPECT_EQ(quiet.code, 0);
