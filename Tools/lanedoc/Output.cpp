@@ -21,7 +21,9 @@ Style StyleOf(int descriptor, ColorMode mode) {
         const char* const value = std::getenv(name);
         return std::string_view(value == nullptr ? "" : value);
     };
-    return Style(variable("NO_COLOR").empty() && variable("TERM") != "dumb" && ::isatty(descriptor) == 1);
+    const bool isForced = !variable("CLICOLOR_FORCE").empty() && variable("CLICOLOR_FORCE") != "0";
+    const bool isTerminal = variable("TERM") != "dumb" && ::isatty(descriptor) == 1;
+    return Style(variable("NO_COLOR").empty() && (isForced || isTerminal));
 }
 
 /// 0, or the error that ended the writing.

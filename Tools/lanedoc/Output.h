@@ -27,7 +27,7 @@ private:
 };
 
 /// The style of standard output or standard error. Auto colours a terminal, unless NO_COLOR is set or TERM says that it
-/// is dumb.
+/// is dumb; with CLICOLOR_FORCE all else too.
 Style StyleOfOutput(ColorMode mode);
 Style StyleOfErrors(ColorMode mode);
 

@@ -18,8 +18,6 @@ namespace Lanedoc {
 
 namespace {
 
-constexpr std::string_view nameOfTexts = "<text>";
-
 zelString ReadStandardInput(const std::string& name) {
     const std::size_t most = LoadLimits::Current().bytes;
     std::string text;
@@ -66,7 +64,7 @@ std::string WithSeverity(const std::string& text, const std::string& severity, c
     return Printable(named.substr(0, at) + " " + severity + ": " + named.substr(rest));
 }
 
-Source::Source(const std::string& path, Use use) : m_path(path), m_name(path == "-" ? "<stdin>" : path) {
+Source::Source(const std::string& path, Use use) : m_path(path), m_name(path == "-" ? std::string(nameOfInput) : path) {
     const bool readOnly = use == Use::Read;
     const bool loaded = path == "-" ? m_document.LoadXMLText(ReadStandardInput(m_name), readOnly)
                                     : m_document.LoadXMLFile(path.c_str(), readOnly);

@@ -2,12 +2,17 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "Framework/ContainerCatalog.h"
 #include "Framework/XMLDataWrapper.h"
 #include "RootElement.h"
 
 namespace Lanedoc {
+
+/// What stands for the file of a text in the library's messages, and for that of standard input in those of the tool.
+constexpr std::string_view nameOfTexts = "<text>";
+constexpr std::string_view nameOfInput = "<stdin>";
 
 /// A document as the person named it: read and parsed, its class known.
 class Source {
@@ -40,7 +45,7 @@ private:
 };
 
 /// A library's `file:line:col: text` or `file: text` with the severity set behind the place; `name` takes the place of
-/// "<text>", which documents that came by standard input have as their file.
+/// nameOfTexts.
 std::string WithSeverity(const std::string& text, const std::string& severity, const std::string& name);
 
 } // namespace Lanedoc

@@ -1,0 +1,81 @@
+#include "Message.h"
+
+#include "NearestName.h"
+#include "Output.h"
+#include "Source.h"
+
+namespace Lanedoc {
+
+namespace {
+
+/// Texts that the library was given have a name of its own for their file.
+DocumentPlace AsNamed(DocumentPlace place) {
+    if (place.File == nameOfTexts) {
+        place.File = std::string(nameOfInput);
+    }
+    return place;
+}
+
+std::string HelpOf(const Finding& finding) {
+    if (!finding.Near.empty()) {
+        std::vector<std::string> quoted;
+        for (const zelString& name : finding.Near) {
+            quoted.push_back(Quoted(name));
+        }
+        return DidYouMean(quoted);
+    }
+    return finding.Code == FindingCode::TargetExists ? R"(MergeAction="Merge" changes what is there already)" : "";
+}
+
+Json JsonOf(const DocumentPlace& place) {
+    const auto known = [](unsigned int number) { return number == 0 ? Json() : Json(number); };
+    Json json;
+    json["file"] = place.File.empty() ? Json() : Json(static_cast<const std::string&>(place.File));
+    json["line"] = known(place.Line);
+    json["column"] = known(place.Column);
+    json["length"] = known(place.Length);
+    return json;
+}
+
+} // namespace
+
+Message MessageOf(const Finding& finding, Severity severity) {
+    Message message;
+    message.severity = severity;
+    message.code = FindingName(finding.Code);
+    message.place = AsNamed(finding.Place);
+    message.text = finding.Text;
+    for (const Finding::Note& note : finding.Notes) {
+        message.notes.push_back({AsNamed(note.Place), note.Text});
+    }
+    message.help = HelpOf(finding);
+    return message;
+}
+
+Severity SeverityOf(FindingCode code) {
+    // What a class reports by itself may have been taken all the same; all else was passed over, refused or misread.
+    return code == FindingCode::OtherIssue ? Severity::Warning : Severity::Error;
+}
+
+std::string_view SeverityName(Severity severity) {
+    return severity == Severity::Error ? "error" : "warning";
+}
+
+Json JsonOf(const Message& message) {
+    Json json;
+    json["severity"] = SeverityName(message.severity);
+    json["code"] = message.code;
+    json.update(JsonOf(message.place));
+    json["text"] = message.text;
+    json["notes"] = Json::array();
+    for (const Message::Note& note : message.notes) {
+        Json& told = json["notes"].emplace_back(JsonOf(note.place));
+        told["text"] = note.text;
+    }
+    if (!message.help.empty()) {
+        json["help"] = message.help;
+    }
+    return json;
+}
+
+} // namespace Lanedoc
