@@ -2,27 +2,17 @@
 
 #include <utility>
 
+#include "Place.h"
 #include "RootElement.h"
 
 namespace Lanedoc {
 
 namespace {
 
-std::string PlaceText(const DocumentPlace& place) {
-    std::string text = Printable(place.File);
-    for (const unsigned int number : {place.Line, place.Column}) {
-        if (number == 0) {
-            break;
-        }
-        text += (text.empty() ? "" : ":") + std::to_string(number);
-    }
-    return text.empty() ? text : text + ":";
-}
-
 /// `file:line:col: kind: text`, the parts that there are.
 std::string Headed(const DocumentPlace& place, const std::string& kind, const std::string& text, const Style& style) {
     const std::string at = PlaceText(place);
-    return (at.empty() ? "" : style.Bold(at) + " ") + kind + " " + Printable(text);
+    return (at.empty() ? "" : style.Bold(at + ":") + " ") + kind + " " + Printable(text);
 }
 
 std::string Counted(std::size_t count, const std::string& what) {
