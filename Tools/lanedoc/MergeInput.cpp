@@ -47,6 +47,12 @@ void AddMergeArguments(CLI::App& command, MergeArguments& arguments) {
     command.add_option("OVERRIDE", arguments.overrides, "What is merged into it, in this order; see below")
         ->required()
         ->type_name("[FEATURE=]FILE");
+    command
+        .add_option("--max-errors", arguments.maxErrors,
+                    "Tell N errors and N warnings and only count the others (default: 20); 0 tells all")
+        ->type_name("N")
+        ->check(CLI::NonNegativeNumber.description(""));
+    command.add_flag("-q,--quiet", arguments.quiet, "Tell errors only, no warnings");
 }
 
 MergeInput ReadMergeInput(const MergeArguments& arguments) {

@@ -6,6 +6,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "Messages.h"
 #include "Source.h"
 
 namespace Lanedoc {
@@ -14,6 +15,8 @@ namespace Lanedoc {
 struct MergeArguments {
     std::string base;
     std::vector<std::string> overrides; ///< each `[FEATURE=]FILE`
+    std::size_t maxErrors = mostMessages;
+    bool quiet = false; ///< no warnings
 };
 
 struct Override {
@@ -27,7 +30,7 @@ struct MergeInput {
     std::vector<Override> overrides;
 };
 
-/// Adds BASE and OVERRIDE... to a command.
+/// Adds BASE, OVERRIDE... and the options for what is told on standard error to a command.
 void AddMergeArguments(CLI::App& command, MergeArguments& arguments);
 
 /// Reads them all. Throws a Failure when one cannot be read or has another root element than the base.
