@@ -78,7 +78,7 @@ TEST_F(Lanedoc, AnswersEveryUseWithItsCodeAndWord) {
         {"show missing.xml", 3, "missing.xml: error: "},
         {"show - <broken.xml", 3, "<stdin>:3:3: error: "},
         {"show unknown.xml", 3, "unknown.xml:2:2: error: "},
-        {"show unknown.xml", 3, "did you mean StateProcessingRoot?"},
+        {"show unknown.xml", 3, R"(did you mean "StateProcessingRoot"?)"},
         {"merge base.xml fine.xml other.xml", 3, "other.xml:2:12: error: the root element is CommConfig, expected"},
         {"merge base.xml wide.xml", 3, "wide.xml:2:1: error: the root element is CommConfig, expected"},
         {"merge base.xml fine.xml broken.xml", 3, "broken.xml:3:3: error: "},

@@ -1,7 +1,7 @@
 #include "BaseLosses.h"
 
 #include "LostParts.h"
-#include "NearestName.h"
+#include "MessageCodes.h"
 #include "Output.h"
 
 namespace Lanedoc {
@@ -19,11 +19,11 @@ std::string CodeOf(LostPart::Kind kind) {
     case LostPart::Kind::Text:
         return std::string(FindingName(FindingCode::StrayText));
     case LostPart::Kind::Comment:
-        return "lost-comment";
+        return std::string(Codes::lostComment);
     case LostPart::Kind::Instruction:
         break;
     }
-    return "lost-instruction";
+    return std::string(Codes::lostInstruction);
 }
 
 std::string Described(const LostPart& part) {
@@ -62,7 +62,7 @@ Message MessageOf(const LostPart& part, const std::string& document) {
     message.place.Column = static_cast<unsigned int>(part.column);
     message.place.Length = static_cast<unsigned int>(LengthOf(part));
     message.text = Described(part);
-    message.help = DidYouMean(part.near);
+    message.help = HelpWith(part.near);
     return message;
 }
 

@@ -45,7 +45,7 @@ public:
     std::string AsText() {
         std::string text;
         ForEachAsked([&](const TreeValue& value, const Writer& origin) {
-            const std::string place = PlaceText(AsNamed(origin.Place));
+            const std::string place = PlaceName(AsNamed(origin.Place));
             text += (place.empty() ? "-" : place) + '\t' + Printable(FeatureOf(origin)) + '\t' + Printable(value.path) +
                     '\t' + Printable(value.text) + '\n';
         });

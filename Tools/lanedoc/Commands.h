@@ -24,5 +24,7 @@ void AddShowCommand(CLI::App& tool, Request& request);
 void AddGetCommand(CLI::App& tool, Request& request);
 void AddSetCommand(CLI::App& tool, Request& request);
 void AddModelCommand(CLI::App& tool, Request& request);
+void AddCheckCommand(CLI::App& tool, Request& request);
+void AddHelpCommand(CLI::App& tool, Request& request);
 
 } // namespace Lanedoc

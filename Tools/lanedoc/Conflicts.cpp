@@ -1,7 +1,7 @@
 #include "Conflicts.h"
 
 #include "Framework/MergeJournal.h"
-#include "NearestName.h"
+#include "MessageCodes.h"
 #include "Output.h"
 #include "Place.h"
 
@@ -86,7 +86,8 @@ private:
         const Entry second = m_run.Journal().At(conflict.Second);
         Message& message = m_messages.emplace_back();
         message.severity = m_severity;
-        message.code = "conflict";
+        message.code = Codes::conflict;
+        message.path = second.Path;
         message.place = AsNamed(second.Place);
         message.text = TextOf(conflict, first, second);
         message.help =

@@ -17,7 +17,7 @@ std::string WhoOf(const HistoryStep& step) {
 }
 
 std::string PlaceOf(const HistoryStep& step) {
-    const std::string place = PlaceText(step.place);
+    const std::string place = PlaceName(step.place);
     return place.empty() ? "-" : place;
 }
 

@@ -5,9 +5,9 @@
 #include <tuple>
 #include <unordered_map>
 
+#include "DocumentText.h"
 #include "MarkupScan.h"
 #include "NearestName.h"
-#include "RootElement.h"
 
 namespace Lanedoc {
 
@@ -27,7 +27,7 @@ struct Shape {
 /// Counts lines and columns up to places that come in order.
 class PlaceCounter {
 public:
-    explicit PlaceCounter(std::string_view text) : m_text(text), m_at(text.starts_with("\xEF\xBB\xBF") ? 3 : 0) {}
+    explicit PlaceCounter(std::string_view text) : m_text(text) {}
 
     void Advance(std::size_t to) {
         for (; m_at < to; ++m_at) {
@@ -45,7 +45,7 @@ public:
 
 private:
     std::string_view m_text;
-    std::size_t m_at;
+    std::size_t m_at = 0;
     std::size_t m_line = 1;
     std::size_t m_column = 1;
 };
@@ -173,9 +173,8 @@ private:
 } // namespace
 
 std::vector<LostPart> FindLostParts(std::string_view bytes, CatalogClass root) {
-    const std::string text = AsUtf8(bytes);
-    // XML forbids the escape character: its byte tells an encoding that shifts, where bytes of ASCII are no ASCII.
-    return text.find('\x1B') != std::string::npos ? std::vector<LostPart>() : DocumentScan(text, root).Run();
+    const std::string text = DocumentText(bytes);
+    return DocumentScan(text, root).Run();
 }
 
 } // namespace Lanedoc

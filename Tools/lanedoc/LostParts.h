@@ -23,9 +23,9 @@ struct LostPart {
     std::size_t column = 0; ///< in characters, from 1
 };
 
-/// Finds them in the bytes of a document that is known to be well-formed and without a DOCTYPE, in UTF-8, UTF-16 or an
-/// encoding that agrees with ASCII; in their order, each at its first place. What stands in an unknown element goes
-/// with it and is not told. In an encoding that shifts nothing is found. Takes time in proportion to the document.
+/// Finds them in the bytes of a document that is known to be well-formed and without a DOCTYPE; in their order, each at
+/// its first place. What stands in an unknown element goes with it and is not told. Takes time in proportion to the
+/// document.
 std::vector<LostPart> FindLostParts(std::string_view bytes, CatalogClass root);
 
 } // namespace Lanedoc

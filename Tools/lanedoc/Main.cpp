@@ -17,6 +17,7 @@ constexpr const char* footer = R"(Examples:
   lanedoc get StateProcessingRoot.xml StateTable/InitialState
   lanedoc set StateProcessingRoot.xml StateTable/InitialState=Attract --in-place --diff
   lanedoc model CommConfig
+  lanedoc check *.xml
 
 Paths name fields below the root, joined by "/". An entry of a list is State[Name=Idle], by its key, or State[3],
 counted from 1. A key with "]", "/" or a double quote stands in double quotes, doubled inside. FILE may be "-" for
@@ -49,6 +50,8 @@ void Describe(CLI::App& tool, Request& request) {
     AddGetCommand(tool, request);
     AddSetCommand(tool, request);
     AddModelCommand(tool, request);
+    AddCheckCommand(tool, request);
+    AddHelpCommand(tool, request);
 }
 
 ExitCode Run(int argc, char** argv) {

@@ -64,7 +64,7 @@ std::vector<std::string> RefusalsOf(const MergedOverride& merged) {
         if (message.severity == Severity::Error) {
             DocumentPlace place = message.place;
             place.File.clear();
-            texts.push_back(place.IsKnown() ? PlaceText(place) + ": " + message.text : message.text);
+            texts.push_back(place.IsKnown() ? PlaceName(place) + ": " + message.text : message.text);
         }
     }
     return texts;

@@ -5,7 +5,9 @@
 #include <system_error>
 
 #include "Failure.h"
-#include "Output.h"
+#include "InputFailure.h"
+#include "MaxErrorsOption.h"
+#include "MessageCodes.h"
 
 namespace Lanedoc {
 
@@ -34,9 +36,12 @@ OverrideArgument ReadOverrideArgument(const std::string& argument) {
 
 void CheckRoot(const Source& change, const Source& base) {
     if (change.RootName() != base.RootName()) {
-        throw Failure(ExitCode::BadInput, change.RootPlace() + ": error: the root element is " +
-                                              Printable(change.RootName()) + ", expected " + base.RootName() +
-                                              " as in " + Printable(base.Name()));
+        Message message;
+        message.code = Codes::otherRoot;
+        message.place = change.PlaceOfRoot();
+        message.text =
+            "the root element is " + change.RootName() + ", expected " + base.RootName() + " as in " + base.Name();
+        throw InputFailure(message);
     }
 }
 
@@ -47,11 +52,7 @@ void AddMergeArguments(CLI::App& command, MergeArguments& arguments) {
     command.add_option("OVERRIDE", arguments.overrides, "What is merged into it, in this order; see below")
         ->required()
         ->type_name("[FEATURE=]FILE");
-    command
-        .add_option("--max-errors", arguments.maxErrors,
-                    "Tell N errors and N warnings and only count the others (default: 20); 0 tells all")
-        ->type_name("N")
-        ->check(CLI::NonNegativeNumber.description(""));
+    AddMaxErrorsOption(command, arguments.maxErrors);
     command.add_flag("-q,--quiet", arguments.quiet, "Tell errors only, no warnings");
 }
 

@@ -10,22 +10,27 @@ namespace {
 
 std::string HelpOf(const Finding& finding) {
     if (!finding.Near.empty()) {
-        std::vector<std::string> quoted;
-        for (const zelString& name : finding.Near) {
-            quoted.push_back(Quoted(name));
-        }
-        return DidYouMean(quoted);
+        return HelpWith({finding.Near.begin(), finding.Near.end()});
     }
     return finding.Code == FindingCode::TargetExists ? R"(MergeAction="Merge" changes what is there already)" : "";
 }
 
 } // namespace
 
+std::string HelpWith(const std::vector<std::string>& names) {
+    std::vector<std::string> quoted;
+    for (const std::string& name : names) {
+        quoted.push_back(Quoted(name));
+    }
+    return DidYouMean(quoted);
+}
+
 Message MessageOf(const Finding& finding, Severity severity) {
     Message message;
     message.severity = severity;
     message.code = FindingName(finding.Code);
     message.place = AsNamed(finding.Place);
+    message.path = finding.Path;
     message.text = finding.Text;
     for (const Finding::Note& note : finding.Notes) {
         message.notes.push_back({AsNamed(note.Place), note.Text});
@@ -48,6 +53,7 @@ Json JsonOf(const Message& message) {
     json["severity"] = SeverityName(message.severity);
     json["code"] = message.code;
     json.update(JsonOf(message.place));
+    json["path"] = message.path;
     json["text"] = message.text;
     json["notes"] = Json::array();
     for (const Message::Note& note : message.notes) {

@@ -22,10 +22,14 @@ struct Message {
     Severity severity = Severity::Error;
     std::string code{};    ///< a stable name, one of AllMessageCodes
     DocumentPlace place{}; ///< the file as the person named it
+    std::string path{};    ///< of what is wrong, below the root; may be empty
     std::string text{};    ///< what is wrong and what was expected, without place and code
     std::vector<Note> notes{};
     std::string help{}; ///< the way out, in words that can be pasted; may be empty
 };
+
+/// `did you mean "A" or "B"?`, the way out where a name is wrong; empty when there is none.
+std::string HelpWith(const std::vector<std::string>& names);
 
 /// The finding with its way out.
 Message MessageOf(const Finding& finding, Severity severity);

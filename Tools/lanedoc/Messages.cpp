@@ -1,9 +1,13 @@
 #include "Messages.h"
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <system_error>
 #include <utility>
 
-#include "Place.h"
-#include "RootElement.h"
+#include "DocumentText.h"
+#include "PlaceText.h"
 
 namespace Lanedoc {
 
@@ -12,7 +16,17 @@ namespace {
 /// `file:line:col: kind: text`, the parts that there are.
 std::string Headed(const DocumentPlace& place, const std::string& kind, const std::string& text, const Style& style) {
     const std::string at = PlaceText(place);
-    return (at.empty() ? "" : style.Bold(at + ":") + " ") + kind + " " + Printable(text);
+    return (at.empty() ? "" : style.Bold(at) + " ") + kind + " " + Printable(text);
+}
+
+/// Empty unless it is a file that can be read once more.
+std::string ReadFile(const std::string& path) {
+    std::error_code ignored;
+    if (!std::filesystem::is_regular_file(path, ignored)) {
+        return {};
+    }
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 std::string Counted(std::size_t count, const std::string& what) {
@@ -29,7 +43,12 @@ Messages::Messages(const Style& style, std::size_t most, Writer write)
 }
 
 void Messages::AddSource(Source& source) {
-    m_sources.insert_or_assign(source.Name(), Known{&source, {}});
+    const auto read = [&source] { return std::string(source.Document().GetXMLText()); };
+    m_sources.insert_or_assign(source.Name(), Known{read});
+}
+
+void Messages::AddFile(const std::string& path) {
+    m_sources.insert_or_assign(path, Known{[path] { return ReadFile(path); }});
 }
 
 std::string Messages::Excerpt(const DocumentPlace& place) {
@@ -38,7 +57,7 @@ std::string Messages::Excerpt(const DocumentPlace& place) {
         return {};
     }
     if (!known->second.lines.has_value()) {
-        known->second.lines.emplace(AsUtf8(known->second.source->Document().GetXMLText()));
+        known->second.lines.emplace(DocumentText(known->second.read()));
     }
     return known->second.lines->Excerpt(place, m_style);
 }

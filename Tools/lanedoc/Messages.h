@@ -34,6 +34,8 @@ public:
     /// Lets messages quote the lines of this document, as it was loaded. It must live while they are told; another one
     /// of that name takes its place.
     void AddSource(Source& source);
+    /// The same for a file that does not load. Its lines are read when they are asked for.
+    void AddFile(const std::string& path);
     void Tell(const Message& message);
     /// Tells how many there were, and how many of them were not shown; nothing when there was none.
     void TellCount();
@@ -44,8 +46,8 @@ public:
 private:
     /// A document, and its lines as soon as one was asked for.
     struct Known {
-        Source* source;
-        std::optional<SourceLines> lines;
+        std::function<std::string()> read;
+        std::optional<SourceLines> lines{};
     };
 
     std::string Excerpt(const DocumentPlace& place);

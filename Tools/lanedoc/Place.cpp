@@ -1,6 +1,6 @@
 #include "Place.h"
 
-#include "Output.h"
+#include "PlaceText.h"
 #include "Source.h"
 
 namespace Lanedoc {
@@ -12,14 +12,9 @@ DocumentPlace AsNamed(DocumentPlace place) {
     return place;
 }
 
-std::string PlaceText(const DocumentPlace& place) {
-    std::string text = Printable(place.File);
-    for (const unsigned int number : {place.Line, place.Column}) {
-        if (number == 0) {
-            break;
-        }
-        text += (text.empty() ? "" : ":") + std::to_string(number);
-    }
+std::string PlaceName(const DocumentPlace& place) {
+    std::string text = PlaceText(place);
+    text.resize(text.size() - (text.empty() ? 0 : 1));
     return text;
 }
 

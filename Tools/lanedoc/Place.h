@@ -11,8 +11,8 @@ namespace Lanedoc {
 /// have one of its own there.
 DocumentPlace AsNamed(DocumentPlace place);
 
-/// `file:line:col`, printable, the parts that are known.
-std::string PlaceText(const DocumentPlace& place);
+/// PlaceText without the colon behind it: a place among other words.
+std::string PlaceName(const DocumentPlace& place);
 
 /// `file`, `line`, `column` and `length`, null where they are not known.
 Json JsonOf(const DocumentPlace& place);

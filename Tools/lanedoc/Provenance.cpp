@@ -182,7 +182,7 @@ private:
             AddComment(tag, Chain(field, path));
         } else if (feature.has_value()) {
             m_additions += " prov:from=\"" + InAttribute(feature->FeatureID) + "\" prov:at=\"" +
-                           InAttribute(PlaceText(AsNamed(feature->Place))) + '"';
+                           InAttribute(PlaceName(AsNamed(feature->Place))) + '"';
         }
     }
 
@@ -198,7 +198,7 @@ private:
                 AddComment(tag, "@" + std::string(attribute.name) + ": " + Chain(found->second.catalog, path));
             } else if (feature.has_value()) {
                 m_additions += " prov:" + std::string(attribute.name) + "=\"" +
-                               InAttribute(feature->FeatureID + " " + PlaceText(AsNamed(feature->Place))) + '"';
+                               InAttribute(feature->FeatureID + " " + PlaceName(AsNamed(feature->Place))) + '"';
             }
         }
     }
@@ -227,7 +227,7 @@ private:
                                   : isPlain        ? std::string(writer.Value)
                                                    : Quoted(writer.Value, shownOfValue);
         const std::string feature = writer.Who == Writer::Kind::Feature ? " " + writer.FeatureID : "";
-        return value + feature + " " + PlaceText(AsNamed(writer.Place));
+        return value + feature + " " + PlaceName(AsNamed(writer.Place));
     }
 
     void AddComment(const ScannedTag& tag, const std::string& text) {

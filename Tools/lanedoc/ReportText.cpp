@@ -72,7 +72,7 @@ private:
     }
 
     static std::string Where(const Entry& entry) {
-        return PlaceText(AsNamed(entry.Place)) + "  " +
+        return PlaceName(AsNamed(entry.Place)) + "  " +
                (entry.Path.empty() ? std::string("the whole document") : Printable(entry.Path));
     }
 
@@ -98,7 +98,7 @@ private:
             std::string line = "  " + Where(entry) + "  " + std::string(OutcomeName(entry.Result));
             if (lost.By.has_value()) {
                 const Entry by = m_run.Journal().At(*lost.By);
-                line += ", undone by feature " + Printable(by.FeatureID) + " at " + PlaceText(AsNamed(by.Place));
+                line += ", undone by feature " + Printable(by.FeatureID) + " at " + PlaceName(AsNamed(by.Place));
             }
             Line(line);
         }

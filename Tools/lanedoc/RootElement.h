@@ -13,11 +13,7 @@ struct RootElement {
     std::size_t column = 0; ///< of its start tag, in characters, from 1
 };
 
-/// The text in UTF-8 when it is UTF-16, which its first bytes tell: a mark, or a "<" beside a zero.
-std::string AsUtf8(std::string_view bytes);
-
-/// Finds the root in a document that is known to be well-formed and without a DOCTYPE, in UTF-8, UTF-16 or an encoding
-/// that agrees with ASCII.
+/// Finds the root in the bytes of a document that is known to be well-formed and without a DOCTYPE.
 RootElement FindRootElement(std::string_view bytes);
 
 } // namespace Lanedoc

@@ -1,24 +1,35 @@
 #include "Source.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include <unistd.h>
 
-#include "Failure.h"
 #include "Framework/LoadLimits.h"
-#include "LimitOption.h"
+#include "InputFailure.h"
+#include "MessageCodes.h"
 #include "NearestName.h"
 #include "Output.h"
+#include "PlaceText.h"
 
 namespace Lanedoc {
 
 namespace {
 
+InputFailure Refusal(std::string_view code, DocumentPlace place, std::string text, std::string help = {}) {
+    Message message;
+    message.code = code;
+    message.place = std::move(place);
+    message.text = std::move(text);
+    message.help = std::move(help);
+    return InputFailure(std::move(message));
+}
+
 zelString ReadStandardInput(const std::string& name) {
+    const auto refuse = [&](const std::string& text) { throw Refusal(Codes::notReadable, {name, 0, 0, 0}, text); };
     const std::size_t most = LoadLimits::Current().bytes;
     std::string text;
     std::string piece(std::size_t{1} << 16U, '\0');
@@ -28,15 +39,15 @@ zelString ReadStandardInput(const std::string& name) {
             continue;
         }
         if (length < 0) {
-            throw Failure(ExitCode::BadInput, name + ": error: cannot read: " + std::generic_category().message(errno));
+            refuse("cannot read: " + std::generic_category().message(errno));
         }
         if (length == 0) {
             return text;
         }
         text.append(piece, 0, static_cast<std::size_t>(length));
         if (text.size() > most) {
-            throw Failure(ExitCode::BadInput, name + ": error: the document has more bytes than the limit of " +
-                                                  std::to_string(most) + "; raise it with --limit bytes=NUMBER");
+            refuse("the document has more bytes than the limit of " + std::to_string(most) +
+                   "; raise it with --limit bytes=NUMBER");
         }
     }
 }
@@ -44,24 +55,8 @@ zelString ReadStandardInput(const std::string& name) {
 } // namespace
 
 std::string WithSeverity(const std::string& text, const std::string& severity, const std::string& name) {
-    std::string named = WithLimitOption(text);
-    if (named.starts_with(nameOfTexts)) {
-        named.replace(0, nameOfTexts.size(), name);
-    }
-    if (!named.starts_with(name + ":")) {
-        return Printable(name + ": " + severity + ": " + named);
-    }
-    // Behind the place, which is `:digits:digits` or nothing.
-    std::size_t at = name.size() + 1;
-    for (int number = 0; number < 2; ++number) {
-        const std::size_t end = std::min(named.find_first_not_of("0123456789", at), named.size());
-        if (end == at || end == named.size() || named[end] != ':') {
-            break;
-        }
-        at = end + 1;
-    }
-    const std::size_t rest = std::min(named.find_first_not_of(' ', at), named.size());
-    return Printable(named.substr(0, at) + " " + severity + ": " + named.substr(rest));
+    const LocatedText located = ReadPlace(text, name);
+    return PlaceText(located.place) + " " + severity + ": " + Printable(located.text);
 }
 
 Source::Source(const std::string& path, Use use) : m_path(path), m_name(path == "-" ? std::string(nameOfInput) : path) {
@@ -69,13 +64,16 @@ Source::Source(const std::string& path, Use use) : m_path(path), m_name(path == 
     const bool loaded = path == "-" ? m_document.LoadXMLText(ReadStandardInput(m_name), readOnly)
                                     : m_document.LoadXMLFile(path.c_str(), readOnly);
     if (!loaded) {
-        throw Failure(ExitCode::BadInput, WithSeverity(m_document.GetLastError(), "error", m_name));
+        LocatedText refusal = ReadPlace(m_document.GetLastError(), m_name);
+        const std::string_view code = refusal.place.IsKnown() ? Codes::notWellFormed : Codes::notReadable;
+        throw Refusal(code, std::move(refusal.place), std::move(refusal.text));
     }
     m_root = FindRootElement(std::string(m_document.GetXMLText()));
 }
 
-std::string Source::RootPlace() const {
-    return Printable(m_name) + ":" + std::to_string(m_root.line) + ":" + std::to_string(m_root.column);
+DocumentPlace Source::PlaceOfRoot() const {
+    const auto number = [](std::size_t value) { return static_cast<unsigned int>(value); };
+    return {m_name, number(m_root.line), number(m_root.column), number(Width(m_root.name) + 1)};
 }
 
 std::string Source::Feature() {
@@ -93,9 +91,9 @@ CatalogClass Source::Class() {
             roots.emplace_back(root);
         }
         const std::vector<std::string> nearest = NearestNames(m_root.name, roots);
-        throw Failure(ExitCode::BadInput,
-                      RootPlace() + ": error: no document has the root element " + Printable(m_root.name) + "; " +
-                          (nearest.empty() ? "expected one of " + JoinNames(roots, 100) : DidYouMean(nearest)));
+        const std::string expected = nearest.empty() ? ", expected one of " + JoinNames(roots, 100) : "";
+        throw Refusal(Codes::unknownRoot, PlaceOfRoot(), "no document has the root element " + m_root.name + expected,
+                      HelpWith(nearest));
     }
     return known;
 }

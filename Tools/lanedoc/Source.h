@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "Framework/ContainerCatalog.h"
+#include "Framework/Finding.h"
 #include "Framework/XMLDataWrapper.h"
 #include "RootElement.h"
 
@@ -28,8 +29,8 @@ public:
     XMLDataWrapper& Document() { return m_document; }
     /// Name of the root element.
     const std::string& RootName() const { return m_root.name; }
-    /// `file:line:col` of the root element.
-    std::string RootPlace() const;
+    /// Where the root element begins.
+    DocumentPlace PlaceOfRoot() const;
     /// The root's FeatureID attribute, else the file's stem; "stdin" for standard input.
     std::string Feature();
     /// The class of the root element; throws a Failure that names the nearest ones when there is none.

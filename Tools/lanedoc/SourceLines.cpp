@@ -40,6 +40,13 @@ bool IsContinuation(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
+/// What is no character, in a document that is not well-formed, must not reach a terminal.
+bool IsWhole(std::string_view character) {
+    const auto first = static_cast<unsigned char>(character.front());
+    const std::size_t expected = first < 0x80 ? 1 : first < 0xC2 ? 0 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
+    return character.size() == expected;
+}
+
 char32_t Decode(std::string_view character) {
     const auto first = static_cast<unsigned char>(character.front());
     char32_t code = character.size() == 1 ? first : first & (0x7FU >> character.size());
@@ -58,7 +65,9 @@ std::size_t Columns(std::string_view character) {
 class Shown {
 public:
     void Add(std::string_view character, bool isMarked) {
-        std::string text = character == "\t" ? std::string(tabStop - m_columns % tabStop, ' ') : Printable(character);
+        const std::string text = character == "\t"    ? std::string(tabStop - m_columns % tabStop, ' ')
+                                 : IsWhole(character) ? Printable(character)
+                                                      : "\uFFFD";
         const std::size_t columns = text == character ? Columns(character) : Width(text);
         m_text += text;
         AddColumns(columns, isMarked);
@@ -72,7 +81,9 @@ public:
     }
 
     const std::string& Text() const { return m_text; }
-    const std::string& Underline() const { return m_underline; }
+    std::string_view Underline() const {
+        return std::string_view(m_underline).substr(0, m_underline.find_last_not_of(' ') + 1);
+    }
 
 private:
     void AddColumns(std::size_t columns, bool isMarked) {
@@ -97,10 +108,9 @@ std::string Gutter(const std::string& number) {
 } // namespace
 
 SourceLines::SourceLines(std::string text) : m_text(std::move(text)) {
-    std::size_t at = m_text.starts_with("\xEF\xBB\xBF") ? 3 : 0;
     std::size_t characters = 0;
-    m_lines.push_back({at, 0});
-    for (; at < m_text.size(); ++at) {
+    m_lines.push_back({0, 0});
+    for (std::size_t at = 0; at < m_text.size(); ++at) {
         if (IsContinuation(m_text[at])) {
             continue;
         }

@@ -14,7 +14,7 @@ namespace Lanedoc {
 /// document that is one line.
 class SourceLines {
 public:
-    /// From a text in UTF-8.
+    /// From a text in UTF-8, as DocumentText gives it.
     explicit SourceLines(std::string text);
 
     /// The line with its number, and one that underlines the place in it, each with a line end before it; empty when
