@@ -147,6 +147,9 @@ void MakeEmpty(TypedDataContainer& object);
 /// Resets an object but for its attributes: children stay, with reset members of their own.
 void ResetButAttributes(TypedDataContainer& object);
 
+/// The attribute of an object as text, empty when its class has none of that name. Done over the fields as well.
+zelString AttributeTextOf(TypedDataContainer& object, std::string_view attribute);
+
 enum class DumpedText {
     Whole,
     NeedsDom, ///< an object is of a class that a host derived, whose dump may be its own, or a part cannot be written

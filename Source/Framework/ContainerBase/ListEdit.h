@@ -90,18 +90,26 @@ public:
         m_map.removeKey(key);
     }
 
-    /// `neighbour` is looked at for Before and After only, and is another entry.
-    void Place(Entry* entry, PlacementOrder order, Entry* neighbour) {
+    /// `neighbour` is looked at for Before and After only, and is another entry. False when the entry stood there
+    /// already.
+    bool Place(Entry* entry, PlacementOrder order, Entry* neighbour) {
         if (order == PlacementOrder::Unsaid) {
-            return;
+            return false;
         }
         SetUp();
+        bool isMoved = false;
         const Number beside = neighbour == nullptr ? 0 : m_chain.Find(neighbour);
         for (const Number slot : m_chain.FindAll(entry)) {
             const bool isBehind = order == PlacementOrder::First || order == PlacementOrder::After;
+            const bool isThere = isBehind ? m_chain.Next(beside) == slot : m_chain.Next(slot) == beside;
+            isMoved = isMoved || !isThere;
             m_chain.Move(slot, isBehind ? m_chain.Next(beside) : beside);
         }
+        return isMoved;
     }
+
+    /// Of the list; null for what was removed.
+    const Vector& Entries() const { return m_entries; }
 
     void Finish() noexcept {
         if (!m_isSetUp) {

@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
-#include <optional>
 #include <span>
+#include <vector>
 
 #include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/NearestNames.h"
 #include "Framework/XMLSupport/TreeReading.h"
 
 namespace Framework {
@@ -16,12 +17,21 @@ namespace {
 constexpr std::array actionWords = {"Merge", "Add", "Replace", "Remove", "Clear"}; // in the order of MergeAction
 constexpr std::array orderWords = {"First", "Last", "Before", "After"}; // in the order of PlacementOrder, from First
 
-/// The control attributes as they are written.
+/// A control attribute as it is written.
+struct Word {
+    const char* attribute;
+    NodeRef node = NodeRef::None; ///< None when it is not there
+    std::string text{};
+
+    bool IsThere() const { return node != NodeRef::None; }
+    std::string Written() const { return std::string(attribute) + "=\"" + text + "\""; }
+};
+
 struct Words {
-    std::optional<std::string> action;
-    std::optional<std::string> order;
-    std::optional<std::string> index;
-    std::optional<std::string> feature;
+    Word action{actionAttribute};
+    Word order{placementOrderAttribute};
+    Word index{placementIndexAttribute};
+    Word feature{placementFeatureAttribute};
 };
 
 Words WordsOf(const XmlTree& tree, NodeRef node) {
@@ -29,21 +39,25 @@ Words WordsOf(const XmlTree& tree, NodeRef node) {
     for (NodeRef attribute = tree.FirstAttribute(node); attribute != NodeRef::None;
          attribute = tree.NextSibling(attribute)) {
         const std::string_view name = tree.Name(attribute);
-        if (name == actionAttribute) {
-            words.action = TextOf(tree, attribute);
-        } else if (name == placementOrderAttribute) {
-            words.order = TextOf(tree, attribute);
-        } else if (name == placementIndexAttribute) {
-            words.index = TextOf(tree, attribute);
-        } else if (name == placementFeatureAttribute) {
-            words.feature = TextOf(tree, attribute);
+        for (Word* const word : {&words.action, &words.order, &words.index, &words.feature}) {
+            if (name == word->attribute) {
+                word->node = attribute;
+                word->text = TextOf(tree, attribute);
+            }
         }
     }
     return words;
 }
 
-std::string Written(const char* name, const std::string& word) {
-    return std::string(name) + "=\"" + word + "\"";
+using Found = std::optional<FoundProblem>;
+
+Found Unknown(const Word& word, const std::string& why, std::span<const char* const> known) {
+    return FoundProblem{FindingCode::UnknownControlWord, word.Written() + why, word.node,
+                        NearestNames(word.text, {known.begin(), known.end()})};
+}
+
+Found Misplaced(const Word& word, const std::string& why) {
+    return FoundProblem{FindingCode::MisplacedControlWord, word.Written() + why, word.node};
 }
 
 /// "Merge, Add or Clear"
@@ -91,88 +105,98 @@ bool IsPossible(MergeAction action, ControlSite site) {
     return false;
 }
 
-std::string PossibleActions(ControlSite site) {
+std::vector<const char*> PossibleActions(ControlSite site) {
     std::vector<const char*> words;
     for (std::size_t i = 0; i < actionWords.size(); ++i) {
         if (IsPossible(static_cast<MergeAction>(i), site)) {
             words.push_back(actionWords[i]);
         }
     }
-    return Listed(words);
+    return words;
 }
 
 /// Takes the action over; what is wrong with it, if anything.
-std::string TakeAction(const Words& words, ControlSite site, MergeControl& control) {
-    if (!words.action.has_value()) {
+Found TakeAction(const Words& words, ControlSite site, MergeControl& control) {
+    if (!words.action.IsThere()) {
         return {};
     }
-    const auto found = std::find(actionWords.begin(), actionWords.end(), *words.action);
+    const auto found = std::find(actionWords.begin(), actionWords.end(), words.action.text);
     const bool isWord = found != actionWords.end();
     control.action = isWord ? static_cast<MergeAction>(std::distance(actionWords.begin(), found)) : MergeAction::Merge;
     if (isWord && IsPossible(control.action, site)) {
         return {};
     }
-    return Written(actionAttribute, *words.action) + (isWord ? " is not possible on " : " is no such word on ") +
-           NameOf(site) + ", expected " + PossibleActions(site);
+    const std::vector<const char*> possible = PossibleActions(site);
+    const std::string where = std::string(NameOf(site)) + ", expected " + Listed(possible);
+    return isWord ? Misplaced(words.action, " is not possible on " + where)
+                  : Unknown(words.action, " is no such word on " + where, possible);
 }
 
 /// Takes the placement over; what is wrong with it, if anything.
-std::string TakePlacement(const Words& words, ControlSite site, MergeControl& control) {
-    const bool isPlaced = words.order.has_value() || words.index.has_value() || words.feature.has_value();
-    if (!isPlaced) {
+Found TakePlacement(const Words& words, ControlSite site, MergeControl& control) {
+    const Word& first = words.order.IsThere() ? words.order : words.index.IsThere() ? words.index : words.feature;
+    if (!first.IsThere()) {
         return {};
     }
-    const std::string written = words.order.has_value()   ? Written(placementOrderAttribute, *words.order)
-                                : words.index.has_value() ? Written(placementIndexAttribute, *words.index)
-                                                          : Written(placementFeatureAttribute, *words.feature);
     if (site != ControlSite::KeyedEntry) {
-        return written + " is not possible on " + NameOf(site) + ", only on an entry that is merged into a keyed list";
+        return Misplaced(first, std::string(" is not possible on ") + NameOf(site) +
+                                    ", only on an entry that is merged into a keyed list");
     }
     if (control.action == MergeAction::Remove) {
-        return written + " contradicts " + Written(actionAttribute, *words.action);
+        return Misplaced(first, " contradicts " + words.action.Written());
     }
-    if (words.order.has_value()) {
-        const auto found = std::find(orderWords.begin(), orderWords.end(), *words.order);
+    if (words.order.IsThere()) {
+        const auto found = std::find(orderWords.begin(), orderWords.end(), words.order.text);
         if (found == orderWords.end()) {
-            return written + " is no such word, expected " + Listed(orderWords);
+            return Unknown(first, " is no such word, expected " + Listed(orderWords), orderWords);
         }
         control.order = static_cast<PlacementOrder>(std::distance(orderWords.begin(), found) + 1);
     }
-    if (control.NeedsNeighbour() != words.index.has_value()) {
-        return control.NeedsNeighbour()
-                   ? written + " names no neighbour, expected its key as " + placementIndexAttribute
-                   : Written(placementIndexAttribute, *words.index) + " has no meaning without " +
-                         placementOrderAttribute + "=\"Before\" or \"After\"";
+    const std::string lonely =
+        std::string(" has no meaning without ") + placementOrderAttribute + "=\"Before\" or \"After\"";
+    if (control.NeedsNeighbour() != words.index.IsThere()) {
+        return control.NeedsNeighbour() ? Misplaced(first, std::string(" names no neighbour, expected its key as ") +
+                                                               placementIndexAttribute)
+                                        : Misplaced(words.index, lonely);
     }
-    if (!control.NeedsNeighbour() && words.feature.has_value()) {
-        return Written(placementFeatureAttribute, *words.feature) + " has no meaning without " +
-               placementOrderAttribute + "=\"Before\" or \"After\"";
+    if (!control.NeedsNeighbour() && words.feature.IsThere()) {
+        return Misplaced(words.feature, lonely);
     }
-    control.neighbour = words.index.value_or("");
-    control.neighbourFeature = words.feature.has_value() ? FeatureOrBase(*words.feature) : "";
+    control.neighbour = words.index.text;
+    control.neighbourAt = words.index.node;
+    control.featureAt = words.feature.node;
+    control.neighbourFeature = words.feature.IsThere() ? FeatureOrBase(words.feature.text) : "";
     return {};
 }
 
 } // namespace
 
 MergeControl ReadControl(const XmlTree& tree, NodeRef node, ControlSite site) {
-    const Words words = WordsOf(tree, node);
     MergeControl control;
+    if (tree.FirstAttribute(node) == NodeRef::None) {
+        return control;
+    }
+    const Words words = WordsOf(tree, node);
     control.problem = TakeAction(words, site, control);
-    if (control.problem.empty()) {
+    if (!control.problem.has_value()) {
         control.problem = TakePlacement(words, site, control);
     }
     return control;
 }
 
-std::string ActionProblem(MergeAction action, bool isThere, const char* what) {
+Found ActionProblem(MergeAction action, bool isThere, const char* what) {
     const bool needsIt =
         action == MergeAction::Replace || action == MergeAction::Remove || action == MergeAction::Clear;
-    const std::string written = Written(actionAttribute, actionWords[static_cast<std::size_t>(action)]);
+    const auto written = [action] {
+        return std::string(actionAttribute) + "=\"" + actionWords[static_cast<std::size_t>(action)] + "\": ";
+    };
     if (needsIt && !isThere) {
-        return written + ": there is no such " + what;
+        return FoundProblem{FindingCode::MissingTarget, written() + "there is no such " + what};
     }
-    return action == MergeAction::Add && isThere ? written + ": the " + what + " is there already" : std::string();
+    if (action == MergeAction::Add && isThere) {
+        return FoundProblem{FindingCode::TargetExists, written() + "the " + what + " is there already"};
+    }
+    return {};
 }
 
 namespace {

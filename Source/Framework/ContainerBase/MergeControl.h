@@ -1,8 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
-#include "Framework/XMLSupport/XmlTree.h"
+#include "Framework/ContainerBase/FoundProblem.h"
 
 namespace Framework {
 
@@ -30,17 +31,19 @@ enum class PlacementOrder { Unsaid, First, Last, Before, After };
 struct MergeControl {
     MergeAction action = MergeAction::Merge;
     PlacementOrder order = PlacementOrder::Unsaid;
-    std::string neighbour;        ///< key of the entry to stand before or behind
-    std::string neighbourFeature; ///< the feature it must belong to, in the form of FeatureOrBase; empty: any
-    std::string problem;          ///< names the word and the words that exist; empty when all is well
+    std::string neighbour;                 ///< key of the entry to stand before or behind
+    std::string neighbourFeature;          ///< the feature it must belong to, in the form of FeatureOrBase; empty: any
+    NodeRef neighbourAt = NodeRef::None;   ///< the attribute that names the neighbour
+    NodeRef featureAt = NodeRef::None;     ///< the attribute that names its feature
+    std::optional<FoundProblem> problem{}; ///< names the word and the words that exist
 
     bool NeedsNeighbour() const { return order == PlacementOrder::Before || order == PlacementOrder::After; }
 };
 
 MergeControl ReadControl(const XmlTree& tree, NodeRef node, ControlSite site);
 
-/// Why the action cannot be done with what is there; empty when it can. `what` names it: "entry", "child".
-std::string ActionProblem(MergeAction action, bool isThere, const char* what);
+/// Why the action cannot be done with what is there, if it cannot. `what` names it: "entry", "child".
+std::optional<FoundProblem> ActionProblem(MergeAction action, bool isThere, const char* what);
 
 /// What belongs to no feature belongs to the base.
 inline std::string FeatureOrBase(const std::string& feature) {

@@ -1,4 +1,5 @@
 #include "Framework/ContainerBase/Guarded.h"
+#include "Framework/ContainerBase/JournalData.h"
 #include "Framework/ContainerBase/MergeControl.h"
 #include "Framework/ContainerBase/OverrideLog.h"
 #include "Framework/ContainerBase/Sources.h"
@@ -80,10 +81,22 @@ NodeRef StartOfMerge(TypedDataContainer& object, const WrapperState& source, boo
 }
 
 /// Empties the object as far as the action asks for it. What stays is merged into: an object keeps its own wrapper.
-void Prepare(TypedDataContainer& object, MergeAction action) {
-    if (action == MergeAction::Replace) {
+void Prepare(TypedDataContainer& object, MergeAction action, const XmlTree& tree, NodeRef node) {
+    using Action = MergeJournal::Action;
+    using Outcome = MergeJournal::Outcome;
+    if (action != MergeAction::Replace && action != MergeAction::Clear) {
+        return;
+    }
+    const bool isReplace = action == MergeAction::Replace;
+    if (JournalData* const journal = JournalData::Current()) {
+        journal->Write(tree, node,
+                       {.action = isReplace ? Action::Replace : Action::Clear,
+                        .outcome = isReplace ? Outcome::Replaced : Outcome::Changed,
+                        .isContainer = true});
+    }
+    if (isReplace) {
         MakeEmpty(object);
-    } else if (action == MergeAction::Clear) {
+    } else {
         ResetButAttributes(object);
     }
 }
@@ -139,9 +152,13 @@ bool TypedDataContainer::MergeFromDataPacket(ValueLookupBase* pLookup, zelString
         // The words of a node that a walk hands down were obeyed by that walk.
         const bool isRoot = node != NodeRef::None && (!bNested || !OverridePlace::IsAt(tree, node));
         const OverridePlace place(&tree, node, &sFeatureID);
+        const JournalMerge journal(isRoot ? JournalData::Current() : nullptr, *this, *source, sFeatureID);
+        if (!bNested) {
+            BeginNearSearches();
+        }
         const MergeControl control = isRoot ? ReadControl(tree, node, ControlSite::Root) : MergeControl();
-        if (!control.problem.empty()) {
-            ReportOverride(*this, {tree, node, sFeatureID}, control.problem, __LINE__);
+        if (control.problem.has_value()) {
+            ReportOverride(*this, {tree, node, sFeatureID}, *control.problem, __LINE__);
             return false;
         }
         const NestedScope nested(*this, bNested);
@@ -150,7 +167,7 @@ bool TypedDataContainer::MergeFromDataPacket(ValueLookupBase* pLookup, zelString
             ContainerAccess::SetLookup(*this, pLookup);
         }
         ContainerAccess::SetMergeFeature(*this, sFeatureID);
-        Prepare(*this, control.action);
+        Prepare(*this, control.action, tree, node);
         const bool success = MergeDataMembers(wrapper.Get(), sFeatureID);
         ContainerAccess::SetValid(*this, success || m_bValid);
         return success;

@@ -1,9 +1,12 @@
 #include "Framework/ContainerBase/OverrideLog.h"
 
+#include <atomic>
 #include <cstdio>
 #include <mutex>
 
 #include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/ContainerBase/JournalData.h"
+#include "Framework/NearestNames.h"
 
 namespace Framework {
 
@@ -70,40 +73,116 @@ void OverridePlace::Describe(OverrideIssue& issue) {
     issue.Column = static_cast<unsigned int>(where.column);
 }
 
-void LogLastError(TypedDataContainer& object, unsigned int line) {
-    TypedDataContainer::LogFeatureOverrideIssue(object.GetFeatureID(), object.GetContainerName(), object.GetLastError(),
-                                                line);
+NodeRef OverridePlace::Innermost(const XmlTree*& tree) {
+    tree = innermostPlace == nullptr ? nullptr : innermostPlace->m_tree;
+    return tree == nullptr ? NodeRef::None : innermostPlace->m_node;
 }
 
-void ReportOverride(TypedDataContainer& object, const OverrideNode& where, const std::string& what, unsigned int line) {
-    const OverridePlace place(&where.tree, where.node, &where.feature);
+namespace {
+
+void LogIssue(zelString feature, zelString containerName, zelString error, unsigned int line) {
+    OverrideIssue issue{std::move(feature), std::move(containerName), std::move(error), line, {}, 0, 0};
+    OverridePlace::Describe(issue);
+    Handler handler;
+    {
+        const std::lock_guard lock(HandlerMutex());
+        handler = InstalledHandler();
+    }
+    if (handler.function != nullptr) {
+        handler.function(handler.context, issue);
+    } else {
+        PrintIssue(issue);
+    }
+}
+
+/// "; did you mean A or B?"; nothing where the text lists the words that exist.
+std::string Suggestion(const FoundProblem& problem) {
+    std::string text;
+    if (problem.code != FindingCode::UnknownControlWord) {
+        for (std::size_t i = 0; i < problem.near.size(); ++i) {
+            text += i == 0 ? "; did you mean " : i + 1 == problem.near.size() ? " or " : ", ";
+            text += problem.near[i];
+        }
+    }
+    return text.empty() ? text : text + "?";
+}
+
+std::atomic<bool> isStrict = false;
+thread_local int nearSearches = 0;
+
+} // namespace
+
+void LogLastError(TypedDataContainer& object, unsigned int line) {
+    LogIssue(object.GetFeatureID(), object.GetContainerName(), object.GetLastError(), line);
+}
+
+void ReportOverride(TypedDataContainer& object, const OverrideNode& where, const FoundProblem& problem,
+                    unsigned int line, MergeJournal::Outcome outcome) {
+    if (JournalData* const journal = JournalData::Current()) {
+        journal->WriteProblem(where.tree, where.node, where.field, outcome, problem);
+    }
+    const OverridePlace place(&where.tree, problem.where == NodeRef::None ? where.node : problem.where, &where.feature);
     std::string name(where.tree.Name(where.node));
     if (where.key != nullptr) {
         name += "[" + *where.key + "]";
     }
-    object.SetLastError(-1, "%s of feature \"%s\": %s", name.c_str(), where.feature.c_str(), what.c_str());
+    const std::string text = problem.text + Suggestion(problem);
+    object.SetLastError(-1, "%s of feature \"%s\": %s", name.c_str(), where.feature.c_str(), text.c_str());
     LogLastError(object, line);
+}
+
+bool IsMergeWatched() noexcept {
+    return JournalData::Current() != nullptr || isStrict.load(std::memory_order_relaxed);
+}
+
+void BeginNearSearches() noexcept {
+    nearSearches = 256;
+}
+
+bool MaySearchNear() noexcept {
+    return nearSearches > 0;
+}
+
+std::vector<std::string> NearInMerge(std::string_view name, const std::vector<std::string>& known) {
+    if (!MaySearchNear()) {
+        return {};
+    }
+    --nearSearches;
+    return NearestNames(name, known);
 }
 
 } // namespace Framework
 
 void TypedDataContainer::LogFeatureOverrideIssue(zelString sFeatureID, zelString sContainerName, zelString sError,
                                                  unsigned int uLine) {
-    OverrideIssue issue{std::move(sFeatureID), std::move(sContainerName), std::move(sError), uLine, {}, 0, 0};
-    Framework::OverridePlace::Describe(issue);
-    Framework::Handler handler;
-    {
-        const std::lock_guard lock(Framework::HandlerMutex());
-        handler = Framework::InstalledHandler();
+    using namespace Framework;
+    JournalData* const journal = JournalData::Current();
+    const XmlTree* tree = nullptr;
+    const NodeRef node = OverridePlace::Innermost(tree);
+    if (journal != nullptr && tree != nullptr) {
+        journal->WriteProblem(*tree, node, {}, MergeJournal::Outcome::Refused, {FindingCode::OtherIssue, sError});
     }
-    if (handler.function != nullptr) {
-        handler.function(handler.context, issue);
-    } else {
-        Framework::PrintIssue(issue);
-    }
+    LogIssue(std::move(sFeatureID), std::move(sContainerName), std::move(sError), uLine);
 }
 
 void TypedDataContainer::SetOverrideIssueHandler(OverrideIssueHandler pHandler, void* pContext) {
     const std::lock_guard lock(Framework::HandlerMutex());
     Framework::InstalledHandler() = {pHandler, pContext};
+}
+
+// --- MergeJournal, as far as it is about merges that are to come
+
+MergeJournal::Recording::Recording(MergeJournal& journal) noexcept
+    : m_pOuter(Framework::JournalData::Install(Framework::JournalData::Of(journal))) {}
+
+MergeJournal::Recording::~Recording() {
+    Framework::JournalData::Install(m_pOuter);
+}
+
+void MergeJournal::SetStrict(bool bStrict) noexcept {
+    Framework::isStrict.store(bStrict, std::memory_order_relaxed);
+}
+
+bool MergeJournal::IsStrict() noexcept {
+    return Framework::isStrict.load(std::memory_order_relaxed);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Framework/ContainerBase/FoundProblem.h"
+#include "Framework/MergeJournal.h"
 #include "Framework/TypedDataContainer.h"
 #include "Framework/XMLSupport/XmlTree.h"
 
@@ -23,6 +25,8 @@ public:
     static bool IsAt(const XmlTree& tree, NodeRef node);
     /// The feature that this thread is merging from that tree, null when it is not.
     static const zelString* FeatureIn(const XmlTree& tree);
+    /// The node that this thread is at; None, and no tree, when it is at none.
+    static NodeRef Innermost(const XmlTree*& tree);
 
 private:
     const XmlTree* m_tree;
@@ -31,7 +35,8 @@ private:
     const OverridePlace* m_outer;
 };
 
-/// Logs the object's last error as an override issue.
+/// Logs the object's last error as an override issue. A journal is not told: whoever calls this has told it, or there
+/// is nothing to tell.
 void LogLastError(TypedDataContainer& object, unsigned int line);
 
 /// A node of an override, as messages name it: "State[Idle] of feature "Night"".
@@ -40,9 +45,22 @@ struct OverrideNode {
     NodeRef node;
     const zelString& feature;
     const zelString* key = nullptr; ///< of an entry of a keyed list
+    std::string_view field{};       ///< below where the merge stands; empty when it stands at the node
 };
 
-/// What the node asks for, or part of it, is not done: sets the error and logs it with the node's place.
-void ReportOverride(TypedDataContainer& object, const OverrideNode& where, const std::string& what, unsigned int line);
+/// What the node asks for, or part of it, is not done, or done otherwise than it seems: sets the error and logs it with
+/// the node's place, and tells the journal.
+void ReportOverride(TypedDataContainer& object, const OverrideNode& where, const FoundProblem& problem,
+                    unsigned int line, MergeJournal::Outcome outcome = MergeJournal::Outcome::Refused);
+
+/// Whether merges that begin now in this thread tell all that is wrong with an override.
+bool IsMergeWatched() noexcept;
+
+/// The names near to another one, as long as that costs a merge little: one override with a hundred thousand slips of
+/// the hand must not take the square of the time. BeginNearSearches is called when an outer merge begins.
+void BeginNearSearches() noexcept;
+std::vector<std::string> NearInMerge(std::string_view name, const std::vector<std::string>& known);
+/// Whether NearInMerge still looks, so that nobody need collect what is known.
+bool MaySearchNear() noexcept;
 
 } // namespace Framework

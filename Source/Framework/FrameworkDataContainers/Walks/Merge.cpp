@@ -1,7 +1,10 @@
 #include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/ContainerBase/JournalData.h"
 #include "Framework/ContainerBase/ListEdit.h"
 #include "Framework/ContainerBase/OverrideLog.h"
 #include "Framework/FrameworkDataContainers/Walks/Children.h"
+#include "Framework/FrameworkDataContainers/Walks/ElementFindings.h"
+#include "Framework/FrameworkDataContainers/Walks/JournalScalars.h"
 #include "Framework/FrameworkDataContainers/Walks/Scalars.h"
 #include "Framework/FrameworkDataContainers/Walks/Walks.h"
 #include "Framework/XMLSupport/FaultPoint.h"
@@ -22,7 +25,7 @@ public:
     MergeWalk(TypedDataContainer& object, const FieldTable& table, XMLDataWrapper* pMergeData,
               const zelString& sFeatureID, unsigned int line)
         : m_object(object), m_table(table), m_wrapper(pMergeData), m_source(WrapperAccess::State(*pMergeData)),
-          m_tree(*m_source.Tree()), m_featureID(sFeatureID), m_line(line) {}
+          m_tree(*m_source.Tree()), m_featureID(sFeatureID), m_line(line), m_journal(JournalData::Current()) {}
 
     ~MergeWalk() {
         if (!m_storedQuery.Empty()) {
@@ -32,7 +35,8 @@ public:
     MergeWalk(const MergeWalk&) = delete;
     MergeWalk& operator=(const MergeWalk&) = delete;
 
-    void Run() {
+    /// `isOutermost`: of the walks over the class and those that it inherits from, the one for the class itself.
+    void Run(bool isOutermost) {
         if (ContainerAccess::IsNested(m_object) && m_source.current != NodeRef::None) {
             m_storedQuery = m_source.query;
             m_source.query = m_storedQuery.Below(m_object.GetContainerName());
@@ -44,12 +48,25 @@ public:
         }
         Reposition();
         m_here = m_source.Here();
+        if (isOutermost && IsMergeWatched()) {
+            ReportFindings();
+        }
         for (const FieldRow& row : m_table.rows) {
             TakeField(row);
         }
     }
 
 private:
+    /// Tells what else is wrong with the node: all that the walk passes over, or reads as something else.
+    void ReportFindings() {
+        const auto report = [this](NodeRef node, std::string_view field, const FoundProblem& problem) {
+            ReportOverride(m_object, {m_tree, node, m_featureID, nullptr, field}, problem, m_line,
+                           MergeJournal::Outcome::Skipped);
+        };
+        FindInElement({m_tree, m_here, m_table}, {ElementReader::Merge, IsExactly(m_object, m_table), &NearInMerge},
+                      report);
+    }
+
     void Stand(NodeRef node) {
         const bool isTranslated = m_source.domIsMaster && m_source.document.get() == &m_tree;
         m_source.current = isTranslated ? m_source.Translate(node) : node;
@@ -66,13 +83,12 @@ private:
         switch (row.form) {
         case FieldForm::Attribute:
             if (const NodeRef node = FindAttribute(m_tree, m_here, row.name); node != NodeRef::None) {
-                SetScalar(m_object, row, TextOf(m_tree, node));
+                Take(row, node, TextOf(m_tree, node));
             }
             break;
         case FieldForm::Element:
             if (const NodeRef node = LastChildNamed(m_tree, m_here, row.name); node != NodeRef::None) {
-                SetScalar(m_object, row,
-                          row.cdata ? m_object.GetCDataValue(m_wrapper, row.name.data()) : TextOf(m_tree, node));
+                Take(row, node, row.cdata ? m_object.GetCDataValue(m_wrapper, row.name.data()) : TextOf(m_tree, node));
                 IsPossible(node, ControlSite::Value); // else reported; the value is taken as always
             }
             break;
@@ -91,12 +107,27 @@ private:
         }
     }
 
+    void Take(const FieldRow& row, NodeRef node, std::string_view text) {
+        if (m_journal == nullptr) {
+            SetScalar(m_object, row, text);
+        } else {
+            SetJournalled(*m_journal, m_object, row, {m_tree, node, text}, ScalarIs::Merged);
+        }
+    }
+
+    void Write(NodeRef node, const JournalData::Edit& edit) {
+        if (m_journal != nullptr) {
+            m_journal->Write(m_tree, node, edit);
+        }
+    }
+
     /// Merges into a child that holds data; loads one that does not, or that is not there yet.
     void TakeChild(const FieldRow& row, NodeRef node) {
         const OverridePlace place(m_source.Tree(), m_source.current, &m_featureID);
         TypedDataContainer* child = row.child->get(m_object);
+        const JournalStep step(m_journal, row.name, child);
         const MergeControl control = ReadControl(m_tree, node, ControlSite::Child);
-        if (control.action != MergeAction::Merge || !control.problem.empty()) {
+        if (control.action != MergeAction::Merge || control.problem.has_value()) {
             if (!PrepareChild(row, node, child, control)) {
                 return;
             }
@@ -106,6 +137,9 @@ private:
             child->MergeFromDataPacket(ContainerAccess::Lookup(m_object), m_featureID, m_wrapper, true);
             return;
         }
+        if (child == nullptr) {
+            Write(node, {.outcome = MergeJournal::Outcome::Added, .isContainer = true});
+        }
         TypedDataContainer& loaded = ChildInPlace(m_object, row);
         loaded.SetContainedDataPtr(m_wrapper, m_tree.View(node), ContainerAccess::IsReadOnly(m_object), true);
         ContainerAccess::SetMergeFeature(loaded, m_featureID);
@@ -113,22 +147,27 @@ private:
 
     /// Does what the child's node asks for beyond the usual steps. False when these are not to follow.
     bool PrepareChild(const FieldRow& row, NodeRef node, TypedDataContainer* child, const MergeControl& control) {
-        const std::string problem =
-            control.problem.empty() ? ActionProblem(control.action, child != nullptr, "child") : control.problem;
-        if (!problem.empty()) {
-            Report(node, problem);
+        const std::optional<FoundProblem> problem =
+            control.problem.has_value() ? control.problem : ActionProblem(control.action, child != nullptr, "child");
+        if (problem.has_value()) {
+            Report(node, *problem);
             return false;
         }
+        using Action = MergeJournal::Action;
+        using Outcome = MergeJournal::Outcome;
         switch (control.action) {
         case MergeAction::Remove:
+            Write(node, {.action = Action::Remove, .outcome = Outcome::Removed, .isContainer = true});
             row.child->store(m_object, nullptr);
             DeleteQuietly(child);
             return false;
         case MergeAction::Replace:
+            Write(node, {.action = Action::Replace, .outcome = Outcome::Replaced, .isContainer = true});
             MakeEmpty(*child);
             ContainerAccess::SetValid(*child, false);
             return true;
         case MergeAction::Clear:
+            Write(node, {.action = Action::Clear, .outcome = Outcome::Changed, .isContainer = true});
             ResetButAttributes(*child);
             return true;
         case MergeAction::Merge:
@@ -178,23 +217,40 @@ private:
         } else if (!IsPossible(node, ControlSite::PlainEntry)) {
             return;
         } else if (row.value == FieldValue::Container) {
-            AddContainer(row);
+            AddContainer(row, node);
         } else {
-            row.list->addText(m_object, TextOf(m_tree, node), {});
+            AddText(row, node);
         }
     }
 
-    void AddContainer(const FieldRow& row) {
+    void AddContainer(const FieldRow& row, NodeRef node) {
         EntryVector& entries = m_object.*row.member.entries;
         const std::size_t before = entries.size();
+        const JournalStep step(m_journal, row.name, before + 1);
+        JournalTry attempt(m_journal);
+        Write(node, {.outcome = MergeJournal::Outcome::Added, .isContainer = true});
         row.list->addEntry(m_object, m_wrapper, nullptr, {});
         if (entries.size() > before && entries.back() != nullptr) {
             ContainerAccess::SetMergeFeature(*entries.back(), m_featureID);
+            attempt.Keep();
+        } else if (m_journal != nullptr) {
+            Report(node, {FindingCode::NotLoaded, "the entry cannot be loaded"});
+        }
+    }
+
+    void AddText(const FieldRow& row, NodeRef node) {
+        const std::size_t before = m_journal == nullptr ? 0 : TextCount(m_object, row);
+        row.list->addText(m_object, TextOf(m_tree, node), {});
+        if (m_journal != nullptr) {
+            WriteAddedText(*m_journal, m_object, row, before, m_tree, node);
         }
     }
 
     /// Hands the entry to MergeElement, which decides.
     void MergeKeyed(const FieldRow& row, NodeRef node, std::size_t position) {
+        if (m_journal != nullptr) {
+            m_journal->SetListKey(row.keyAttribute);
+        }
         zelString name(row.name.data());
         zelString key = AttributeOf(m_tree, node, row.keyAttribute);
         if (row.value == FieldValue::Container) {
@@ -209,7 +265,10 @@ private:
         if (row.numberedKeys && key.empty()) {
             key = SupportFunc::GetStrValue(static_cast<long>(position));
         } else if (FindAttribute(m_tree, node, row.keyAttribute) == NodeRef::None) {
-            Report(node, "the entry has no key, expected the attribute " + std::string(row.keyAttribute));
+            Report(node,
+                   {FindingCode::MissingKey,
+                    "the entry has no key, expected the attribute " + std::string(row.keyAttribute)},
+                   row.name);
             return;
         }
         m_object.MergeElement(m_featureID, m_object.*row.map.texts, m_object.*row.member.keyedTexts, m_wrapper,
@@ -219,14 +278,16 @@ private:
     /// Whether what the node asks for can be done at such a site; else that is reported.
     bool IsPossible(NodeRef node, ControlSite site) {
         const MergeControl control = ReadControl(m_tree, node, site);
-        if (!control.problem.empty()) {
-            Report(node, control.problem);
+        if (control.problem.has_value()) {
+            Report(node, *control.problem, m_tree.Name(node),
+                   site == ControlSite::Value ? MergeJournal::Outcome::Skipped : MergeJournal::Outcome::Refused);
         }
-        return control.problem.empty();
+        return !control.problem.has_value();
     }
 
-    void Report(NodeRef node, const std::string& what) {
-        ReportOverride(m_object, {m_tree, node, m_featureID}, what, m_line);
+    void Report(NodeRef node, const FoundProblem& problem, std::string_view field = {},
+                MergeJournal::Outcome outcome = MergeJournal::Outcome::Refused) {
+        ReportOverride(m_object, {m_tree, node, m_featureID, nullptr, field}, problem, m_line, outcome);
     }
 
     TypedDataContainer& m_object;
@@ -236,10 +297,26 @@ private:
     const XmlTree& m_tree;
     zelString m_featureID;
     unsigned int m_line;
+    JournalData* m_journal;         ///< null when there is none
     NodeRef m_node = NodeRef::None; ///< the container's own
     NodeRef m_here = NodeRef::None; ///< what names are relative to
     QueryChain m_storedQuery;       ///< of a nested object, to be put back
 };
+
+/// The walks of a class and of those it inherits from, the base first. An exception ends the walk of its class alone.
+bool MergeClass(TypedDataContainer& object, const FieldTable& table, XMLDataWrapper* pMergeData,
+                const zelString& sFeatureID, unsigned int line, bool isOutermost) {
+    try {
+        if (table.parent != nullptr) {
+            MergeClass(object, *table.parent, pMergeData, sFeatureID, line, false);
+        }
+        MergeWalk(object, table, pMergeData, sFeatureID, line).Run(isOutermost);
+        return true;
+    } catch (...) {
+        ContainerAccess::SetFixedError(object, -1, "Unknown Exception occured in MergeDataMembers");
+        return false;
+    }
+}
 
 } // namespace
 
@@ -251,15 +328,15 @@ bool Merge(TypedDataContainer& object, const FieldTable& table, XMLDataWrapper* 
             LogLastError(object, line);
             return false;
         }
-        if (table.parent != nullptr) {
-            Merge(object, *table.parent, pMergeData, sFeatureID, line);
-        }
-        MergeWalk(object, table, pMergeData, sFeatureID, line).Run();
-        return true;
     } catch (...) {
         ContainerAccess::SetFixedError(object, -1, "Unknown Exception occured in MergeDataMembers");
         return false;
     }
+    // A host that calls the walk by itself has not begun a merge.
+    JournalData* const journal = JournalData::Current();
+    const JournalMerge merge(journal == nullptr || journal->IsMerging() ? nullptr : journal, object,
+                             WrapperAccess::State(*pMergeData), sFeatureID);
+    return MergeClass(object, table, pMergeData, sFeatureID, line, true);
 }
 
 } // namespace Framework

@@ -1,7 +1,10 @@
 #include "Framework/ContainerBase/Guarded.h"
+#include "Framework/ContainerBase/JournalData.h"
 #include "Framework/ContainerBase/MergeControl.h"
 #include "Framework/ContainerBase/OverrideLog.h"
 #include "Framework/FrameworkDataContainers/Walks/Children.h"
+#include "Framework/FrameworkDataContainers/Walks/ElementFindings.h"
+#include "Framework/FrameworkDataContainers/Walks/JournalScalars.h"
 #include "Framework/FrameworkDataContainers/Walks/Lists.h"
 #include "Framework/FrameworkDataContainers/Walks/Scalars.h"
 #include "Framework/FrameworkDataContainers/Walks/Walks.h"
@@ -14,7 +17,8 @@ namespace Framework {
 namespace {
 
 template <typename Tree>
-bool PopulateClass(TypedDataContainer& object, const FieldTable& table, const Tree& tree, NodeRef node, bool isExact);
+bool PopulateClass(TypedDataContainer& object, const FieldTable& table, const Tree& tree, NodeRef node, bool isExact,
+                   bool isOutermost = true);
 
 /// The walk of one class over one element. It is driven by the child nodes: each is given to the field of the class
 /// that bears its name; what no field names is passed over. Attributes are read afterwards, also when they are absent.
@@ -29,9 +33,14 @@ public:
     /// `isExact`: the object is of a generated class itself, its own or one that inherits the table.
     PopulateWalk(TypedDataContainer& object, const FieldTable& table, const Tree& tree, NodeRef node, bool isExact)
         : m_object(object), m_table(table), m_tree(tree), m_node(node), m_isExact(isExact),
-          m_feature(OverridePlace::FeatureIn(tree)) {}
+          m_feature(OverridePlace::FeatureIn(tree)),
+          m_journal(m_feature == nullptr ? nullptr : JournalData::Current()) {}
 
-    void Run() {
+    /// `isOutermost`: of the walks over the class and those that it inherits from, the one for the class itself.
+    void Run(bool isOutermost) {
+        if (isOutermost && m_feature != nullptr && IsMergeWatched()) {
+            ReportFindings();
+        }
         AssignLoadTexts();
         for (NodeRef child = m_tree.FirstChild(m_node); child != NodeRef::None; child = m_tree.NextSibling(child)) {
             if (m_tree.Kind(child) == NodeKind::Element) {
@@ -42,10 +51,36 @@ public:
     }
 
 private:
+    /// Tells what is wrong with the node of an override beyond what the walk itself tells.
+    void ReportFindings() {
+        const auto report = [this](NodeRef node, std::string_view field, const FoundProblem& problem) {
+            const auto outcome = MergeJournal::Outcome::Skipped;
+            if (problem.code != FindingCode::DuplicateKey) {
+                ReportOverride(m_object, {m_tree, node, *m_feature, nullptr, field}, problem, __LINE__, outcome);
+            } else if (m_journal != nullptr) { // the list itself tells the log
+                m_journal->WriteProblem(m_tree, node, field, outcome, problem);
+            }
+        };
+        FindInElement({m_tree, m_node, m_table}, {ElementReader::Part, m_isExact, &NearInMerge}, report);
+    }
+
+    void Set(const FieldRow& row, NodeRef node, std::string_view text) {
+        if (m_journal == nullptr) {
+            SetScalar(m_object, row, text);
+        } else {
+            SetJournalled(*m_journal, m_object, row, {m_tree, node, text}, ScalarIs::New, m_node);
+        }
+    }
+
     /// An enumeration with a load text holds it unless the element is there; a new object does not.
     void AssignLoadTexts() {
         for (const FieldRow& row : m_table.rows) {
-            if (!row.loadText.empty()) {
+            if (row.loadText.empty()) {
+                continue;
+            }
+            if (m_journal != nullptr && LastChildNamed(m_tree, m_node, row.name) == NodeRef::None) {
+                Set(row, NodeRef::None, row.loadText);
+            } else {
                 row.enumeration->get(m_object) = row.loadText.data();
             }
         }
@@ -74,9 +109,9 @@ private:
         switch (row.form) {
         case FieldForm::Element:
             if (row.cdata) {
-                SetScalar(m_object, row, CDataOf(m_tree, child));
+                Set(row, child, CDataOf(m_tree, child));
             } else {
-                SetScalar(m_object, row, TextIn(m_tree, child, m_room));
+                Set(row, child, TextIn(m_tree, child, m_room));
             }
             break;
         case FieldForm::Child:
@@ -93,16 +128,20 @@ private:
 
     bool IsTaken(const FieldRow& row, NodeRef child) {
         const bool isValue = row.form == FieldForm::Element;
-        const std::string problem =
-            ReadControl(m_tree, child, isValue ? ControlSite::Value : ControlSite::NewPart).problem;
-        if (!problem.empty()) {
-            ReportOverride(m_object, {m_tree, child, *m_feature}, problem, __LINE__);
+        const auto problem = ReadControl(m_tree, child, isValue ? ControlSite::Value : ControlSite::NewPart).problem;
+        if (problem.has_value()) {
+            ReportOverride(m_object, {m_tree, child, *m_feature, nullptr, row.name}, *problem, __LINE__,
+                           isValue ? MergeJournal::Outcome::Skipped : MergeJournal::Outcome::Refused);
         }
-        return isValue || problem.empty();
+        return isValue || !problem.has_value();
     }
 
     /// A child that is there is used again: an element that stands twice fills one object twice.
     void TakeChild(const FieldRow& row, NodeRef node) {
+        const JournalStep step(m_journal, row.name, nullptr);
+        if (m_journal != nullptr && row.child->get(m_object) == nullptr) {
+            WriteAdded(node);
+        }
         TypedDataContainer& child = ChildInPlace(m_object, row);
         if (IsExactly(child, *row.child->table) && StandsOnTree()) {
             PopulatePart(child, *row.child->table, node);
@@ -112,12 +151,47 @@ private:
     }
 
     void TakeEntry(const FieldRow& row, NodeRef node) {
-        if (row.value == FieldValue::Container) {
+        if (row.value == FieldValue::Container && m_journal != nullptr) {
+            TakeJournalled(row, node);
+        } else if (row.value == FieldValue::Container) {
             TakeContainer(row, node);
         } else if (row.form == FieldForm::KeyedList) {
             TakeKeyedText(row, node);
         } else {
+            const std::size_t before = m_journal == nullptr ? 0 : TextCount(m_object, row);
             row.list->addText(m_object, TextOf(m_tree, node), {});
+            if (m_journal != nullptr) {
+                WriteAddedText(*m_journal, m_object, row, before, m_tree, node);
+            }
+        }
+    }
+
+    void WriteAdded(NodeRef node, bool isContainer = true, JournalValue after = {}) {
+        m_journal->Write(m_tree, node,
+                         {.outcome = MergeJournal::Outcome::Added, .after = after, .isContainer = isContainer});
+    }
+
+    /// A step into an entry of a list of containers.
+    JournalStep EnterEntry(const FieldRow& row, std::string_view key) {
+        if (row.form == FieldForm::KeyedList) {
+            return {m_journal, row.name, row.keyAttribute, key, nullptr};
+        }
+        return {m_journal, row.name, (m_object.*row.member.entries).size() + 1};
+    }
+
+    /// Writes that the entry was added, when it was.
+    void TakeJournalled(const FieldRow& row, NodeRef node) {
+        std::string room;
+        const bool isKeyed = row.form == FieldForm::KeyedList;
+        const JournalStep step =
+            EnterEntry(row, isKeyed ? AttributeIn(m_tree, node, row.keyAttribute, room) : std::string_view());
+        JournalTry attempt(m_journal);
+        WriteAdded(node);
+        const EntryVector& entries = m_object.*row.member.entries;
+        const std::size_t before = entries.size();
+        TakeContainer(row, node);
+        if (entries.size() > before) {
+            attempt.Keep();
         }
     }
 
@@ -179,6 +253,10 @@ private:
         if (texts.size() > before && ContainerAccess::Wrapper(m_object) != nullptr) {
             ContainerAccess::AttachText(*texts.back(), m_object, node, text);
         }
+        if (texts.size() > before && m_journal != nullptr) {
+            const JournalStep step(m_journal, row.name, row.keyAttribute, texts.back()->ElementName, nullptr);
+            WriteAdded(node, false, m_journal->NodeValue(m_tree, node));
+        }
     }
 
     zelString TextKey(const FieldRow& row, NodeRef node) {
@@ -192,7 +270,8 @@ private:
         for (const FieldRow& row : m_table.rows) {
             if (row.form == FieldForm::Attribute) {
                 FaultPoint("Populate");
-                SetScalar(m_object, row, AttributeIn(m_tree, m_node, row.name, m_room));
+                const NodeRef node = FindAttribute(m_tree, m_node, row.name);
+                Set(row, node, node == NodeRef::None ? std::string_view() : m_tree.Value(node, m_room));
             }
         }
     }
@@ -203,6 +282,7 @@ private:
     NodeRef m_node;
     bool m_isExact;
     const zelString* m_feature;               ///< of the merge that this load is part of, null when it is none
+    JournalData* m_journal;                   ///< of that merge, null when there is none
     std::size_t m_next = 0;                   ///< the row where the search for the next element begins
     std::shared_ptr<Attachment> m_attachment; ///< of the parts; none before the first
     std::string m_room;
@@ -210,12 +290,13 @@ private:
 
 /// The walks of a class and of those it inherits from, the base first. An exception ends the walk of its class alone.
 template <typename Tree>
-bool PopulateClass(TypedDataContainer& object, const FieldTable& table, const Tree& tree, NodeRef node, bool isExact) {
+bool PopulateClass(TypedDataContainer& object, const FieldTable& table, const Tree& tree, NodeRef node, bool isExact,
+                   bool isOutermost) {
     try {
         if (table.parent != nullptr) {
-            PopulateClass(object, *table.parent, tree, node, isExact);
+            PopulateClass(object, *table.parent, tree, node, isExact, false);
         }
-        PopulateWalk<Tree>(object, table, tree, node, isExact).Run();
+        PopulateWalk<Tree>(object, table, tree, node, isExact).Run(isOutermost);
         return true;
     } catch (...) {
         ContainerAccess::SetValid(object, false); // it holds a part only

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/FrameworkDataContainers/Walks/TableIndex.h"
 #include "Framework/XMLSupport/Utf.h"
 
 namespace Framework {
@@ -115,6 +117,17 @@ std::vector<std::string_view> ElementOrder(const FieldTable& table) {
         }
     }
     return order;
+}
+
+zelString AttributeTextOf(TypedDataContainer& object, std::string_view attribute) {
+    for (const FieldTable* table = TableOf(object); table != nullptr; table = table->parent) {
+        for (const FieldRow& row : table->rows) {
+            if (row.form == FieldForm::Attribute && row.name == attribute) {
+                return ScalarText(object, row);
+            }
+        }
+    }
+    return {};
 }
 
 void ResetScalar(TypedDataContainer& object, const FieldRow& row) {

@@ -1,0 +1,153 @@
+#include "Framework/DocumentCheck.h"
+
+#include <algorithm>
+
+#include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/ContainerBase/FieldPath.h"
+#include "Framework/ContainerBase/MergeControl.h"
+#include "Framework/ContainerBase/OverrideLog.h"
+#include "Framework/FrameworkDataContainers/Walks/ElementFindings.h"
+#include "Framework/FrameworkDataContainers/Walks/TableIndex.h"
+#include "Framework/XMLSupport/NodePlace.h"
+#include "Framework/XMLSupport/TreeReading.h"
+
+using namespace Framework;
+
+namespace {
+
+/// The check of one document. Containers are looked at one by one, without recursion, each with the way back to the
+/// container that it stands in.
+class CheckRun {
+public:
+    CheckRun(const XmlTree& tree, DocumentCheck::Kind kind)
+        : m_tree(tree), m_isOverride(kind == DocumentCheck::Kind::Override) {}
+
+    std::vector<Finding> Run(NodeRef node, const FieldTable& table) {
+        BeginNearSearches();
+        m_elements.push_back({node, &table, nullptr, 0, 0, false});
+        if (m_isOverride) {
+            LookAtControl(node, {}, ControlSite::Root);
+        }
+        for (m_at = 0; m_at < m_elements.size(); ++m_at) {
+            LookAt();
+        }
+        std::stable_sort(m_findings.begin(), m_findings.end(), [](const Finding& left, const Finding& right) {
+            return left.Place.Line != right.Place.Line ? left.Place.Line < right.Place.Line
+                                                       : left.Place.Column < right.Place.Column;
+        });
+        return std::move(m_findings);
+    }
+
+private:
+    struct Element {
+        NodeRef node;
+        const FieldTable* table;
+        const FieldRow* row;  ///< by which its parent names it; null at the start
+        std::size_t parent;   ///< among the elements
+        std::size_t position; ///< from 1, in a list
+        bool isNewPart;       ///< loaded as a whole by a merge
+    };
+
+    void LookAt() {
+        const Element element = m_elements[m_at]; // the list grows meanwhile
+        const ElementReader reader = !m_isOverride       ? ElementReader::Load
+                                     : element.isNewPart ? ElementReader::Part
+                                                         : ElementReader::Merge;
+        FindInElement(
+            {m_tree, element.node, *element.table}, {reader, true, &NearInMerge},
+            [this](NodeRef node, std::string_view field, const FoundProblem& problem) { Take(node, field, problem); },
+            [&](NodeRef child, const FieldRow& row, std::size_t position) {
+                TakeChild(element, child, row, position);
+            });
+    }
+
+    void TakeChild(const Element& element, NodeRef child, const FieldRow& row, std::size_t position) {
+        bool isNewPart = element.isNewPart;
+        if (m_isOverride) {
+            isNewPart =
+                LookAtControl(child, row.name, SiteOf(element, row)) || row.form == FieldForm::PlainList || isNewPart;
+            if (!element.isNewPart && row.form == FieldForm::KeyedList && !row.numberedKeys &&
+                FindAttribute(m_tree, child, row.keyAttribute) == NodeRef::None) {
+                Take(child, row.name,
+                     {FindingCode::MissingKey,
+                      "the entry has no key, expected the attribute " + std::string(row.keyAttribute)});
+            }
+        }
+        if (row.value == FieldValue::Container) {
+            const FieldTable* const table = row.child != nullptr ? row.child->table : row.list->table;
+            m_elements.push_back({child, table, &row, m_at, position, isNewPart});
+        }
+    }
+
+    static ControlSite SiteOf(const Element& element, const FieldRow& row) {
+        if (row.form == FieldForm::Element) {
+            return ControlSite::Value;
+        }
+        if (element.isNewPart) {
+            return ControlSite::NewPart;
+        }
+        return row.form == FieldForm::KeyedList   ? ControlSite::KeyedEntry
+               : row.form == FieldForm::PlainList ? ControlSite::PlainEntry
+                                                  : ControlSite::Child;
+    }
+
+    /// Whether the node is loaded as a whole: what stands below it has nothing to act on.
+    bool LookAtControl(NodeRef node, std::string_view field, ControlSite site) {
+        const MergeControl control = ReadControl(m_tree, node, site);
+        if (control.problem.has_value()) {
+            Take(node, field, *control.problem);
+        }
+        return site != ControlSite::Root &&
+               (control.action == MergeAction::Add || control.action == MergeAction::Replace);
+    }
+
+    void Take(NodeRef node, std::string_view field, const FoundProblem& problem) {
+        Finding finding;
+        finding.Code = problem.code;
+        finding.Place = PlaceOfNode(m_tree, problem.where == NodeRef::None ? node : problem.where);
+        finding.Path = JoinPath(PathOf(m_at), field);
+        finding.Text = problem.text;
+        finding.Near.assign(problem.near.begin(), problem.near.end());
+        if (problem.noteAt != NodeRef::None) {
+            finding.Notes.push_back({PlaceOfNode(m_tree, problem.noteAt), problem.note});
+        }
+        m_findings.push_back(std::move(finding));
+    }
+
+    std::string PathOf(std::size_t position) const {
+        std::vector<std::size_t> chain;
+        for (; m_elements[position].row != nullptr; position = m_elements[position].parent) {
+            chain.push_back(position);
+        }
+        std::string path;
+        for (auto at = chain.rbegin(); at != chain.rend(); ++at) {
+            path = JoinPath(path, StepOf(m_elements[*at]));
+        }
+        return path;
+    }
+
+    std::string StepOf(const Element& element) const {
+        const FieldRow& row = *element.row;
+        if (row.form == FieldForm::KeyedList) {
+            return KeyStep(row.name, row.keyAttribute, AttributeOf(m_tree, element.node, row.keyAttribute));
+        }
+        return row.form == FieldForm::PlainList ? PositionStep(row.name, element.position) : std::string(row.name);
+    }
+
+    const XmlTree& m_tree;
+    bool m_isOverride;
+    std::vector<Element> m_elements;
+    std::size_t m_at = 0;
+    std::vector<Finding> m_findings;
+};
+
+} // namespace
+
+std::vector<Finding> DocumentCheck::Run(XMLDataWrapper& document, CatalogClass container, Kind kind) {
+    const WrapperState* const state = LoadedState(&document);
+    const FieldTable* const table = container ? FindTable(container.Name()) : nullptr;
+    if (state == nullptr || table == nullptr || state->Here() == NodeRef::None) {
+        return {};
+    }
+    return CheckRun(*state->Tree(), kind).Run(state->Here(), *table);
+}

@@ -1,0 +1,327 @@
+#include "Framework/FrameworkDataContainers/Walks/ElementFindings.h"
+
+#include <algorithm>
+#include <array>
+
+#include "Framework/ContainerBase/FieldPath.h"
+#include "Framework/ContainerBase/MergeControl.h"
+#include "Framework/FrameworkDataContainers/Walks/ValueProblem.h"
+#include "Framework/XMLSupport/TextHash.h"
+#include "Framework/XMLSupport/TreeReading.h"
+
+namespace Framework {
+
+namespace {
+
+/// A field of the class and of those that it inherits from, and what was found for it.
+struct SeenField {
+    const FieldRow* row;
+    NodeRef first = NodeRef::None;
+    std::size_t count = 0;
+    HashedMap<std::string, NodeRef> keys{};
+};
+
+void AppendFields(const FieldTable& table, std::vector<SeenField>& fields) {
+    if (table.parent != nullptr) {
+        AppendFields(*table.parent, fields);
+    }
+    for (const FieldRow& row : table.rows) {
+        fields.push_back({&row});
+    }
+}
+
+bool HoldsContainers(const FieldRow& row) {
+    return row.value == FieldValue::Container;
+}
+
+bool IsControlWord(std::string_view name) {
+    constexpr std::array<std::string_view, 4> words = {actionAttribute, placementOrderAttribute,
+                                                       placementIndexAttribute, placementFeatureAttribute};
+    return std::find(words.begin(), words.end(), name) != words.end();
+}
+
+/// What tells other programs about an element, or who made it, and is no field anywhere.
+bool IsAside(std::string_view name) {
+    return name == featureAttribute || name.starts_with("xmlns") || name.starts_with("xsi:") ||
+           name.starts_with("xml:") || name.starts_with("prov:");
+}
+
+bool IsBlank(std::string_view text) {
+    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
+
+std::string Quoted(std::string_view name) {
+    return std::string("\"").append(name).append("\"");
+}
+
+class ElementFinder {
+public:
+    ElementFinder(const ReadElement& element, const FindingRules& rules, const FindingReport& report,
+                  const FoundChild& child)
+        : m_tree(element.tree), m_node(element.node), m_rules(rules), m_report(report), m_child(child),
+          m_owner(m_tree.Name(m_node)) {
+        AppendFields(element.table, m_fields);
+    }
+
+    void Run() {
+        LookAtAttributes();
+        for (NodeRef child = m_tree.FirstChild(m_node); child != NodeRef::None; child = m_tree.NextSibling(child)) {
+            const NodeKind kind = m_tree.Kind(child);
+            if (kind == NodeKind::Element) {
+                LookAtElement(child);
+            } else if (IsText(kind)) {
+                LookAtText(child);
+            }
+        }
+    }
+
+private:
+    void Report(NodeRef node, std::string_view field, FoundProblem problem) { m_report(node, field, problem); }
+
+    // --- the element's own attributes
+
+    void LookAtAttributes() {
+        for (NodeRef attribute = m_tree.FirstAttribute(m_node); attribute != NodeRef::None;
+             attribute = m_tree.NextSibling(attribute)) {
+            const std::string_view name = m_tree.Name(attribute);
+            const auto field = std::find_if(m_fields.begin(), m_fields.end(), [name](const SeenField& seen) {
+                return seen.row->form == FieldForm::Attribute && seen.row->name == name;
+            });
+            if (field != m_fields.end()) {
+                LookAtValue(*field->row, attribute, attribute);
+            } else if (IsControlWord(name)) {
+                LookAtControlWord(attribute);
+            } else if (m_rules.knowsAllNames && !IsAside(name)) {
+                ReportUnknownAttribute(attribute);
+            }
+        }
+    }
+
+    void LookAtControlWord(NodeRef attribute) {
+        if (m_rules.reader == ElementReader::Load) {
+            Report(m_node, {},
+                   {FindingCode::MisplacedControlWord,
+                    std::string(m_tree.Name(attribute)) + " acts in overrides only; a load passes over it", attribute});
+        }
+    }
+
+    void ReportUnknownAttribute(NodeRef attribute) {
+        const std::string_view name = m_tree.Name(attribute);
+        const bool isElement = std::any_of(m_fields.begin(), m_fields.end(), [name](const SeenField& seen) {
+            return seen.row->form != FieldForm::Attribute && seen.row->name == name;
+        });
+        FoundProblem problem{
+            FindingCode::UnknownAttribute,
+            isElement ? std::string(name) + " is an element of " + m_owner + ", not an attribute; it is passed over"
+                      : "no attribute of " + m_owner + " is named " + Quoted(name) + "; it is passed over",
+            attribute};
+        if (!isElement) {
+            problem.near = Near(name, true);
+        }
+        Report(m_node, name, std::move(problem));
+    }
+
+    std::vector<std::string> Near(std::string_view name, bool isAttribute) const {
+        std::vector<std::string> known;
+        for (const SeenField& seen : m_fields) {
+            if ((seen.row->form == FieldForm::Attribute) == isAttribute) {
+                known.emplace_back(seen.row->name);
+            }
+        }
+        if (isAttribute && m_rules.reader != ElementReader::Load) {
+            known.insert(known.end(), {featureAttribute, actionAttribute, placementOrderAttribute,
+                                       placementIndexAttribute, placementFeatureAttribute});
+        }
+        return m_rules.near(name, known);
+    }
+
+    // --- its text
+
+    void LookAtText(NodeRef text) {
+        std::string room;
+        if (!m_sawText && !IsBlank(m_tree.Value(text, room))) {
+            m_sawText = true;
+            Report(m_node, {},
+                   {FindingCode::StrayText,
+                    "text stands directly in " + m_owner + ", which holds elements only; it is passed over", text});
+        }
+    }
+
+    // --- its elements
+
+    /// A document has its elements mostly in the order of the fields, and those of a list in a row.
+    SeenField* FieldNamed(std::string_view name) {
+        for (std::size_t tried = 0; tried < m_fields.size(); ++tried) {
+            SeenField& seen = m_fields[m_next];
+            if (seen.row->form != FieldForm::Attribute && seen.row->name == name) {
+                return &seen;
+            }
+            m_next = m_next + 1 == m_fields.size() ? 0 : m_next + 1;
+        }
+        return nullptr;
+    }
+
+    void LookAtElement(NodeRef child) {
+        SeenField* const seen = FieldNamed(m_tree.Name(child));
+        if (seen == nullptr) {
+            if (m_rules.knowsAllNames) {
+                ReportUnknownElement(child);
+            }
+            return;
+        }
+        ++seen->count;
+        LookAtField(*seen, child);
+        if (m_child) {
+            m_child(child, *seen->row, seen->count);
+        }
+    }
+
+    void ReportUnknownElement(NodeRef child) {
+        const std::string_view name = m_tree.Name(child);
+        const bool isAttribute = std::any_of(m_fields.begin(), m_fields.end(), [name](const SeenField& seen) {
+            return seen.row->form == FieldForm::Attribute && seen.row->name == name;
+        });
+        FoundProblem problem{
+            FindingCode::UnknownElement,
+            isAttribute ? std::string(name) + " is an attribute of " + m_owner + ", not an element; it is passed over"
+                        : "no element of " + m_owner + " is named " + Quoted(name) + "; it is passed over"};
+        if (!isAttribute) {
+            problem.near = Near(name, false);
+        }
+        Report(child, name, std::move(problem));
+    }
+
+    void LookAtField(SeenField& seen, NodeRef child) {
+        const FieldRow& row = *seen.row;
+        switch (row.form) {
+        case FieldForm::Element:
+        case FieldForm::Child:
+            LookAtRepetition(seen, child);
+            break;
+        case FieldForm::KeyedList:
+            LookAtKey(seen, child);
+            break;
+        case FieldForm::PlainList:
+        case FieldForm::Attribute:
+            break;
+        }
+        if (!HoldsContainers(row)) {
+            LookAtInside(row, child);
+            LookAtValue(row, child, NodeRef::None);
+        }
+    }
+
+    /// Told once for a field, where it stands for the second time.
+    void LookAtRepetition(SeenField& seen, NodeRef child) {
+        if (seen.count == 1) {
+            seen.first = child;
+        } else if (seen.count == 2) {
+            const bool isRead = HoldsContainers(*seen.row) && m_rules.reader != ElementReader::Merge;
+            Report(child, seen.row->name,
+                   {FindingCode::RepeatedValue,
+                    std::string(seen.row->name) + " stands more than once in " + m_owner +
+                        (isRead ? ", all are read into one object" : ", only the last counts"),
+                    NodeRef::None,
+                    {},
+                    seen.first,
+                    "the first one is here"});
+        }
+    }
+
+    void LookAtKey(SeenField& seen, NodeRef child) {
+        const FieldRow& row = *seen.row;
+        const NodeRef attribute = FindAttribute(m_tree, child, row.keyAttribute);
+        if (attribute == NodeRef::None && !row.numberedKeys) {
+            if (m_rules.reader != ElementReader::Merge) {
+                Report(child, row.name,
+                       {FindingCode::MissingKey, std::string(row.name) + " has no key, expected the attribute " +
+                                                     std::string(row.keyAttribute)});
+            }
+            return;
+        }
+        if (row.numberedKeys && m_rules.reader != ElementReader::Merge) {
+            return; // numbered on load, whatever stands there
+        }
+        std::string key = attribute == NodeRef::None ? std::to_string(seen.count) : TextOf(m_tree, attribute);
+        const auto [known, isNew] = seen.keys.try_emplace(std::move(key), child);
+        if (isNew) {
+            return;
+        }
+        const NodeRef first = known->second;
+        const bool isMerge = m_rules.reader == ElementReader::Merge;
+        known->second = child;
+        if (isMerge && AttributeOf(m_tree, first, actionAttribute) == "Remove") {
+            return; // taken out, and brought anew
+        }
+        Report(child, KeyStep(row.name, row.keyAttribute, known->first),
+               {FindingCode::DuplicateKey,
+                "a second " + std::string(row.name) + " with " + std::string(row.keyAttribute) + "=" +
+                    Quoted(known->first) + (isMerge ? ", merged after the first" : "; it is dropped"),
+                NodeRef::None,
+                {},
+                first,
+                "the first one is here"});
+    }
+
+    /// An element with one value has no elements, and no attributes but the key.
+    void LookAtInside(const FieldRow& row, NodeRef child) {
+        for (NodeRef attribute = m_tree.FirstAttribute(child); attribute != NodeRef::None;
+             attribute = m_tree.NextSibling(attribute)) {
+            const std::string_view name = m_tree.Name(attribute);
+            if (IsAside(name) || (!row.keyAttribute.empty() && name == row.keyAttribute)) {
+                continue;
+            }
+            if (!IsControlWord(name)) {
+                Report(child, row.name,
+                       {FindingCode::UnknownAttribute,
+                        std::string(row.name) + " holds one value and has no attribute " + Quoted(name) +
+                            "; it is passed over",
+                        attribute});
+            } else if (m_rules.reader == ElementReader::Load) {
+                Report(child, row.name,
+                       {FindingCode::MisplacedControlWord,
+                        std::string(name) + " acts in overrides only; a load passes over it", attribute});
+            }
+        }
+        for (NodeRef inner = m_tree.FirstChild(child); inner != NodeRef::None; inner = m_tree.NextSibling(inner)) {
+            if (m_tree.Kind(inner) == NodeKind::Element) {
+                Report(inner, row.name,
+                       {FindingCode::UnknownElement, std::string(row.name) + " holds one value and no element " +
+                                                         Quoted(m_tree.Name(inner)) + "; it is passed over"});
+            }
+        }
+    }
+
+    /// `attribute` is the node itself when it is one.
+    void LookAtValue(const FieldRow& row, NodeRef node, NodeRef attribute) {
+        if (row.value == FieldValue::String) {
+            return;
+        }
+        const std::string_view text = TextIn(m_tree, node, m_room);
+        std::optional<FoundProblem> problem = ValueProblem(row, text, m_rules.near);
+        if (problem.has_value()) {
+            problem->where = attribute;
+            Report(attribute == NodeRef::None ? node : m_node, row.name, std::move(*problem));
+        }
+    }
+
+    const XmlTree& m_tree;
+    NodeRef m_node;
+    const FindingRules& m_rules;
+    const FindingReport& m_report;
+    const FoundChild& m_child;
+    std::string m_owner;
+    std::vector<SeenField> m_fields;
+    std::size_t m_next = 0; ///< the field where the search for the next element begins
+    bool m_sawText = false;
+    std::string m_room;
+};
+
+} // namespace
+
+void FindInElement(const ReadElement& element, const FindingRules& rules, const FindingReport& report,
+                   const FoundChild& child) {
+    ElementFinder(element, rules, report, child).Run();
+}
+
+} // namespace Framework

@@ -1,0 +1,29 @@
+#include "Framework/XMLSupport/NodePlace.h"
+
+#include <algorithm>
+
+namespace Framework {
+
+DocumentPlace PlaceOfNode(const Document& document, NodeRef node) {
+    if (node == NodeRef::None) {
+        return {};
+    }
+    const ByteRange range = document.Kind(node) == NodeKind::Element ? document.StartTag(node) : document.Range(node);
+    const Place place = document.PlaceAt(range.begin);
+    std::string_view line = std::string_view(document.Source()).substr(range.begin, range.Size());
+    line = line.substr(0, line.find_first_of("\r\n"));
+    const auto isBegin = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; };
+    DocumentPlace found;
+    found.File = document.SourceName();
+    found.Line = static_cast<unsigned int>(place.line);
+    found.Column = static_cast<unsigned int>(place.column);
+    found.Length = static_cast<unsigned int>(std::count_if(line.begin(), line.end(), isBegin));
+    return found;
+}
+
+DocumentPlace PlaceOfNode(const XmlTree& tree, NodeRef node) {
+    const auto* const document = dynamic_cast<const Document*>(&tree);
+    return document == nullptr ? DocumentPlace() : PlaceOfNode(*document, node);
+}
+
+} // namespace Framework
