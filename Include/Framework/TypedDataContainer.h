@@ -29,7 +29,8 @@ struct OverrideIssue {
     zelString ErrorText;         ///< what is wrong
     unsigned int SourceLine = 0; ///< line of the report in the source of the class
     zelString File;              ///< document in which the entry stands; empty when not known
-    unsigned int Line = 0;       ///< line of the entry in that document, from 1; 0 when not known
+    unsigned int Line = 0;       ///< line of the entry in that document, of the very word where a merge is watched (see
+                                 ///< MergeJournal), from 1; 0 when not known
     unsigned int Column = 0;     ///< column of the entry in code points, from 1; 0 when not known
 };
 

@@ -121,7 +121,9 @@ void ReportOverride(TypedDataContainer& object, const OverrideNode& where, const
     if (JournalData* const journal = JournalData::Current()) {
         journal->WriteProblem(where.tree, where.node, where.field, outcome, problem);
     }
-    const OverridePlace place(&where.tree, problem.where == NodeRef::None ? where.node : problem.where, &where.feature);
+    // The log tells of the node; who watches is told of the very word.
+    const bool isExact = problem.where != NodeRef::None && IsMergeWatched();
+    const OverridePlace place(&where.tree, isExact ? problem.where : where.node, &where.feature);
     std::string name(where.tree.Name(where.node));
     if (where.key != nullptr) {
         name += "[" + *where.key + "]";
