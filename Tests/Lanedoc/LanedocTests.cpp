@@ -83,7 +83,7 @@ TEST_F(Lanedoc, AnswersEveryUseWithItsCodeAndWord) {
         {"merge base.xml wide.xml", 3, "wide.xml:2:1: error: the root element is CommConfig, expected"},
         {"merge base.xml fine.xml broken.xml", 3, "broken.xml:3:3: error: "},
         {"merge base.xml nokey.xml", 4, "nokey.xml:2:3: error: "},
-        {"merge base.xml - <word.xml", 4, "<stdin>:2:3: error: "},
+        {"merge base.xml - <word.xml", 4, "<stdin>:2:22: error: "},
         {"merge twice.xml fine.xml", 0, "twice.xml:3:3: warning: "},
         {"merge base.xml fine.xml >/dev/full", 5, "cannot write"},
         {"get base.xml Version >&-", 5, "cannot write"},

@@ -64,7 +64,8 @@ std::vector<std::string> RefusalsOf(const MergedOverride& merged) {
         if (message.severity == Severity::Error) {
             DocumentPlace place = message.place;
             place.File.clear();
-            texts.push_back(place.IsKnown() ? PlaceName(place) + ": " + message.text : message.text);
+            const std::string at = place.IsKnown() ? PlaceName(place) + ": " : "";
+            texts.push_back(at + (message.path.empty() ? "" : message.path + ": ") + message.text);
         }
     }
     return texts;

@@ -1,5 +1,6 @@
 #include "ReportJson.h"
 
+#include "LostEdits.h"
 #include "Place.h"
 
 namespace Lanedoc {
@@ -70,7 +71,7 @@ std::string ReportAsJson(const MergeRun& run, ReportScope scope) {
     }
     if (scope == ReportScope::Everything) {
         json["withoutEffect"] = Json::array();
-        for (const MergeJournal::Lost& lost : run.Journal().WithoutEffect()) {
+        for (const MergeJournal::Lost& lost : LostEdits(run.Journal())) {
             json["withoutEffect"].push_back(LostAsJson(lost));
         }
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "LostEdits.h"
 #include "Place.h"
 
 namespace Lanedoc {
@@ -88,7 +89,7 @@ private:
     }
 
     void PrintWithoutEffect() {
-        const std::vector<MergeJournal::Lost> all = m_run.Journal().WithoutEffect();
+        const std::vector<MergeJournal::Lost> all = LostEdits(m_run.Journal());
         if (all.empty()) {
             return;
         }
@@ -139,7 +140,7 @@ std::string ValuesOf(const Entry& entry, std::size_t limit) {
         return "to " + Printable(entry.NewValue);
     }
     if (entry.IsContainer) {
-        return {};
+        return entry.Asked == MergeJournal::Action::Clear && entry.Result == Outcome::Changed ? "by Clear" : "";
     }
     const std::string before = Quoted(entry.OldValue, limit);
     const std::string after = Quoted(entry.NewValue, limit);
