@@ -31,7 +31,8 @@ std::string CodesHelp() {
 
 std::string HelpOn(const std::string& topic, const CLI::App& tool) {
     if (topic.empty()) {
-        return tool.help();
+        // Its own help function would give that of the command that is being run.
+        return tool.get_formatter()->make_help(&tool, tool.get_name(), CLI::AppFormatMode::Normal);
     }
     if (topic == codesTopic) {
         return CodesHelp();
