@@ -32,7 +32,8 @@ class JournalData;
 /// quote stands in double quotes, doubled inside. The empty path is the object itself.
 ///
 /// **Memory.** An entry takes about 50 bytes and the text of the old value; new values are read from the documents,
-/// which the journal shares and keeps. The first edit of a document that it keeps copies the document.
+/// which the journal shares and keeps. The first edit of a document that it keeps copies the document. A DOM that is
+/// merged has no places.
 ///
 /// **Threads.** One thread at a time uses a journal; a recording belongs to its thread. **Failures.** A merge never
 /// fails for its journal: where memory for an entry runs out, IsComplete turns false. Queries may throw std::bad_alloc.
@@ -73,15 +74,16 @@ public:
     /// Somebody who gave a value what it has, or had.
     struct Writer {
         enum class Kind {
-            Default, ///< nobody: it has what a new object has
+            Default, ///< nobody: it has what a new object has, or what its absence is read as
             Base,    ///< the document that the tree was loaded from
             Feature, ///< an entry of the journal
         };
 
         Kind Who = Kind::Default;
-        zelString FeatureID;              ///< of a feature
-        DocumentPlace Place;              ///< where the value stands; for Default that of nothing
-        zelString Value;                  ///< what it gave; empty for what removed it
+        zelString FeatureID; ///< of a feature; of a default, of the feature that made the object that holds it, if any
+        DocumentPlace
+            Place;       ///< where the value stands, or what reset it; of a default, what made the object that holds it
+        zelString Value; ///< what it gave; empty for what removed it
         std::optional<std::size_t> Entry; ///< number of the entry, of a feature
         bool IsRemoval = false;           ///< it took the value, or what holds it, away
         bool IsReset = false;             ///< it gave the value back its default by a Replace or Clear of what holds it

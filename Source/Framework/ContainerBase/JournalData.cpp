@@ -154,6 +154,10 @@ void JournalData::Write(const XmlTree& tree, NodeRef node, const Edit& edit) noe
         Record record;
         record.scope = m_scope;
         record.field = NumberOfName(edit.field);
+        if (edit.outcome == MergeJournal::Outcome::Unchanged && edit.isAttribute &&
+            record.field == m_scopes[m_scope].keyName) {
+            return; // by its key the entry was found: an address, and no edit
+        }
         record.node = IsSource(tree) ? NumberOf(node) : 0;
         record.oldContent = edit.before.content;
         record.newContent = edit.after.content;

@@ -109,9 +109,13 @@ public:
     /// Whether a merge is going on.
     bool IsMerging() const noexcept { return m_scope != 0; }
     bool HasLostScope() const noexcept { return m_scope == kLost; }
-    /// The key attribute of the list that the walk is in; empty outside of one.
-    void SetListKey(std::string_view name) noexcept { m_listKey = name; }
+    /// The key attribute of the list that the walk is in, and whether it is a number.
+    void SetListKey(std::string_view name, bool isNumber) noexcept {
+        m_listKey = name;
+        m_hasNumberKey = isNumber;
+    }
     std::string_view ListKey() const noexcept { return m_listKey; }
+    bool HasNumberKey() const noexcept { return m_hasNumberKey; }
 
     JournalValue TextValue(std::string_view text) noexcept;
     /// The text of a node, read later when it stands in the document of the merge, else now.
@@ -197,9 +201,16 @@ private:
     const XmlTree* m_source = nullptr; ///< that the merge reads
     Number m_lastDocument = 0;         ///< of the last object whose base was noted
     std::string_view m_listKey;
+    bool m_hasNumberKey = false;
     bool m_isComplete = true;
     mutable std::unique_ptr<JournalIndex> m_index;
 };
+
+/// A key as its attribute has it in the tree, and so as paths have it: of "007" and of "x" what is read as a number.
+inline std::string KeyInPath(std::string_view key, bool isNumber) {
+    return isNumber ? std::string(SupportFunc::GetStrValue(static_cast<long>(SupportFunc::GetIntValue(zelString(key)))))
+                    : std::string(key);
+}
 
 /// The outer merge of an object: what is written meanwhile belongs to the feature, with paths below the object. Does
 /// nothing when there is no journal.

@@ -181,7 +181,8 @@ private:
     JournalStep EnterEntry() {
         const std::string_view keyName = m_keyName.empty() ? m_journal->ListKey() : std::string_view(m_keyName);
         if constexpr (Entries::areContainers) {
-            return {m_journal, m_node.name, keyName, m_node.key, m_present};
+            const bool isNumber = m_journal->HasNumberKey() && m_journal->ListKey() == keyName;
+            return {m_journal, m_node.name, keyName, KeyInPath(m_node.key, isNumber), m_present};
         } else {
             return {m_journal, m_node.name, keyName, m_node.key, nullptr};
         }

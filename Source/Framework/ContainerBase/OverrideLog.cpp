@@ -7,6 +7,7 @@
 #include "Framework/ContainerBase/ContainerAccess.h"
 #include "Framework/ContainerBase/JournalData.h"
 #include "Framework/NearestNames.h"
+#include "Framework/XMLSupport/NodePlace.h"
 
 namespace Framework {
 
@@ -64,13 +65,12 @@ const zelString* OverridePlace::FeatureIn(const XmlTree& tree) {
 void OverridePlace::Describe(OverrideIssue& issue) {
     const OverridePlace* const place = innermostPlace;
     const auto* const document = place == nullptr ? nullptr : dynamic_cast<const Document*>(place->m_tree);
-    if (document == nullptr || place->m_node == NodeRef::None) {
-        return;
+    if (document != nullptr) {
+        const DocumentPlace where = PlaceOfNode(*document, place->m_node);
+        issue.File = where.File;
+        issue.Line = where.Line;
+        issue.Column = where.Column;
     }
-    const Place where = document->PlaceOf(place->m_node);
-    issue.File = document->SourceName();
-    issue.Line = static_cast<unsigned int>(where.line);
-    issue.Column = static_cast<unsigned int>(where.column);
 }
 
 NodeRef OverridePlace::Innermost(const XmlTree*& tree) {

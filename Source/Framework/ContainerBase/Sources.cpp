@@ -3,6 +3,9 @@
 #include <xercesc/dom/DOM.hpp>
 
 #include "Framework/ContainerBase/Templates.h"
+#include "Framework/XMLSupport/DocumentParser.h"
+#include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/NodePlace.h"
 #include "Framework/XMLSupport/TreeReading.h"
 #include "Framework/XMLSupport/XmlWriter.h"
 
@@ -51,10 +54,13 @@ std::unique_ptr<XMLDataWrapper> OpenDomNode(TypedDataContainer& object, DOMNode*
         return nullptr;
     }
     const DomTree tree(node->getOwnerDocument());
-    const std::string text = WriteXml(tree, tree.Ref(node), {.declaration = false, .indent = false});
+    std::string text = WriteXml(tree, tree.Ref(node), {.declaration = false, .indent = false});
+    FaultPoint("LoadXMLText");
+    const LoadLimits limits = LoadLimits::Current();
+    CheckDocumentSize(text.size(), writtenDomName, limits);
     auto wrapper = std::make_unique<XMLDataWrapper>();
-    const bool success = wrapper->LoadXMLText(text, readOnly);
-    return Loaded(object, std::move(wrapper), success);
+    WrapperAccess::State(*wrapper).Load(Document::Parse(std::move(text), writtenDomName, limits), readOnly);
+    return wrapper;
 }
 
 std::unique_ptr<XMLDataWrapper> OpenTemplate(TypedDataContainer& object, const char* store, const char* xmlName,

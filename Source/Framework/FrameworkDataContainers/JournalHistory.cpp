@@ -132,6 +132,19 @@ private:
         return (last.row->list == nullptr) == (last.parts.keyName.empty() && last.parts.position == 0);
     }
 
+    /// Keys that are numbers may be written in several ways in the map.
+    static TypedDataContainer* EntryOf(TypedDataContainer& object, const FieldRow& row, const FieldStep& step) {
+        TypedDataContainer* const found = (object.*row.map.entries).findValue(step.key, true);
+        if (found != nullptr || !row.intKey) {
+            return found;
+        }
+        const EntryVector& entries = object.*row.member.entries;
+        const auto entry = std::find_if(entries.begin(), entries.end(), [&](TypedDataContainer* candidate) {
+            return AttributeTextOf(*candidate, row.keyAttribute) == step.key;
+        });
+        return entry == entries.end() ? nullptr : *entry;
+    }
+
     static TypedDataContainer* ObjectAt(TypedDataContainer& object, const FieldRow& row, const FieldStep& step) {
         if (row.child != nullptr) {
             return row.child->get(object);
@@ -140,7 +153,7 @@ private:
             return nullptr;
         }
         if (row.form == FieldForm::KeyedList && !step.keyName.empty()) {
-            return (object.*row.map.entries).findValue(step.key, true);
+            return EntryOf(object, row, step);
         }
         const EntryVector& entries = object.*row.member.entries;
         return step.position == 0 || step.position > entries.size() ? nullptr : entries[step.position - 1];

@@ -38,7 +38,9 @@ std::vector<std::string> NearestNames(std::string_view name, const std::vector<s
         if (name.size() > longest || candidate.size() > longest) {
             continue;
         }
-        const std::size_t distance = Distance(name, candidate);
+        const bool isSameButCase = std::equal(name.begin(), name.end(), candidate.begin(), candidate.end(),
+                                              [](char left, char right) { return Lower(left) == Lower(right); });
+        const std::size_t distance = isSameButCase ? 1 : Distance(name, candidate);
         // Of a short name nothing may be left when all of it is changed.
         if (distance <= tolerated && distance < 2 * std::max(name.size(), candidate.size())) {
             near.emplace_back(distance, candidate);

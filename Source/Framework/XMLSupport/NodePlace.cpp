@@ -5,7 +5,7 @@
 namespace Framework {
 
 DocumentPlace PlaceOfNode(const Document& document, NodeRef node) {
-    if (node == NodeRef::None) {
+    if (node == NodeRef::None || document.SourceName() == writtenDomName) {
         return {};
     }
     const ByteRange range = document.Kind(node) == NodeKind::Element ? document.StartTag(node) : document.Range(node);

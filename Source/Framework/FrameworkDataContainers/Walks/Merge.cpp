@@ -249,7 +249,7 @@ private:
     /// Hands the entry to MergeElement, which decides.
     void MergeKeyed(const FieldRow& row, NodeRef node, std::size_t position) {
         if (m_journal != nullptr) {
-            m_journal->SetListKey(row.keyAttribute);
+            m_journal->SetListKey(row.keyAttribute, row.intKey);
         }
         zelString name(row.name.data());
         zelString key = AttributeOf(m_tree, node, row.keyAttribute);

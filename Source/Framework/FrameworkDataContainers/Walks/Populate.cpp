@@ -78,11 +78,11 @@ private:
             if (row.loadText.empty()) {
                 continue;
             }
-            if (m_journal != nullptr && LastChildNamed(m_tree, m_node, row.name) == NodeRef::None) {
-                Set(row, NodeRef::None, row.loadText);
-            } else {
+            if (m_journal == nullptr) {
                 row.enumeration->get(m_object) = row.loadText.data();
-            }
+            } else if (LastChildNamed(m_tree, m_node, row.name) == NodeRef::None) {
+                Set(row, NodeRef::None, row.loadText);
+            } // else its element gives it another one in a moment, and the journal tells of that alone
         }
     }
 
@@ -174,7 +174,7 @@ private:
     /// A step into an entry of a list of containers.
     JournalStep EnterEntry(const FieldRow& row, std::string_view key) {
         if (row.form == FieldForm::KeyedList) {
-            return {m_journal, row.name, row.keyAttribute, key, nullptr};
+            return {m_journal, row.name, row.keyAttribute, KeyInPath(key, row.intKey), nullptr};
         }
         return {m_journal, row.name, (m_object.*row.member.entries).size() + 1};
     }
