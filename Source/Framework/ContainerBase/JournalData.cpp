@@ -167,6 +167,7 @@ void JournalData::Write(const XmlTree& tree, NodeRef node, const Edit& edit) noe
         record.outcome = edit.outcome;
         record.isContainer = edit.isContainer;
         record.isAttribute = edit.isAttribute;
+        record.isImplied = edit.isImplied;
         m_records.push_back(record);
     } catch (...) {
         m_isComplete = false;
@@ -281,6 +282,8 @@ MergeJournal::Entry JournalData::EntryAt(std::size_t position) const {
         entry.NewValue = NewValue(record);
         if (record.outcome == MergeJournal::Outcome::Unchanged) {
             entry.Cause = "it is so already";
+        } else if (record.isImplied) {
+            entry.Cause = "what it is where the override does not name it";
         }
         return entry;
     }

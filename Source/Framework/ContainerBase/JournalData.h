@@ -82,6 +82,7 @@ public:
         MergeJournal::Outcome outcome = MergeJournal::Outcome::Changed;
         bool isContainer = false;
         bool isAttribute = false; ///< the field
+        bool isImplied = false;   ///< the override does not name it: it follows from something new
     };
 
     struct MergeRecord {
@@ -129,6 +130,7 @@ public:
         JournalValue after{};
         bool isContainer = false;
         bool isAttribute = false;
+        bool isImplied = false;
     };
     void Write(const XmlTree& tree, NodeRef node, const Edit& edit) noexcept;
     /// `field` is empty where the scope stands for the node.

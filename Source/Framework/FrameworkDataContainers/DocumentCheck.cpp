@@ -54,7 +54,7 @@ private:
                                      : element.isNewPart ? ElementReader::Part
                                                          : ElementReader::Merge;
         FindInElement(
-            {m_tree, element.node, *element.table}, {reader, true, &NearInMerge},
+            {m_tree, element.node, *element.table}, {reader, true, true, &NearInMerge},
             [this](NodeRef node, std::string_view field, const FoundProblem& problem) { Take(node, field, problem); },
             [&](NodeRef child, const FieldRow& row, std::size_t position) {
                 TakeChild(element, child, row, position);
@@ -65,7 +65,8 @@ private:
         bool isNewPart = element.isNewPart;
         if (m_isOverride) {
             isNewPart =
-                LookAtControl(child, row.name, SiteOf(element, row)) || row.form == FieldForm::PlainList || isNewPart;
+                LookAtControl(child, StepOf({child, nullptr, &row, m_at, position, false}), SiteOf(element, row)) ||
+                row.form == FieldForm::PlainList || isNewPart;
             if (!element.isNewPart && row.form == FieldForm::KeyedList && !row.numberedKeys &&
                 FindAttribute(m_tree, child, row.keyAttribute) == NodeRef::None) {
                 Take(child, row.name,
@@ -128,7 +129,8 @@ private:
 
     std::string StepOf(const Element& element) const {
         const FieldRow& row = *element.row;
-        if (row.form == FieldForm::KeyedList) {
+        if (row.form == FieldForm::KeyedList &&
+            FindAttribute(m_tree, element.node, row.keyAttribute) != NodeRef::None) {
             return KeyStep(row.name, row.keyAttribute, AttributeOf(m_tree, element.node, row.keyAttribute));
         }
         return row.form == FieldForm::PlainList ? PositionStep(row.name, element.position) : std::string(row.name);

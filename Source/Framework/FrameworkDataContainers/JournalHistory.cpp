@@ -239,7 +239,7 @@ private:
     }
 
     void TakeOwn(const Event& event) {
-        Writer writer = ByFeature(event);
+        Writer writer = event.record->isImplied ? ByDefault(event) : ByFeature(event);
         writer.IsRemoval = event.record->outcome == Outcome::Removed;
         writer.Value = writer.IsRemoval ? zelString() : m_journal.NewValue(*event.record);
         if (event.record->outcome != Outcome::Unchanged) {
@@ -250,38 +250,56 @@ private:
     }
 
     void TakeAbove(const Event& event, std::size_t position) {
-        if (event.record->outcome == Outcome::Removed) {
+        const bool isAdded = event.record->outcome == Outcome::Added;
+        if (!isAdded && TakesAway(event)) {
             Writer writer = ByFeature(event);
             writer.IsRemoval = true;
             Win(std::move(writer));
+            m_removedBy = MergeOf(event);
             return;
         }
-        if (IsSetAtOnce(event, position)) {
+        if (Row().list != nullptr || IsSetAtOnce(event, position)) {
             return;
         }
-        const zelString text = event.record->action == Action::Clear ? DefaultText(Row()) : TextWhenAbsent(Row());
-        Writer writer = ByFeature(event);
-        writer.Value = text;
-        if (Row().list != nullptr) {
-            if (event.record->outcome != Outcome::Added) { // the list is empty again
-                writer.IsRemoval = true;
-                Win(std::move(writer));
-            }
-            return;
-        }
-        writer.IsReset = event.record->outcome != Outcome::Added && m_value != text;
-        if (writer.IsReset) {
+        // A Clear resets, and a root that is replaced is emptied; all else is loaded anew.
+        const bool isLoaded = event.record->action != Action::Clear && event.depth > 0;
+        const zelString text = isLoaded ? TextWhenAbsent(Row()) : DefaultText(Row());
+        const bool isBackAtOnce = isAdded && m_removedBy == MergeOf(event);
+        if ((!isAdded || isBackAtOnce) && m_value != text) {
+            Writer writer = ByFeature(event);
+            writer.IsReset = true;
+            writer.Value = text;
             Win(std::move(writer));
         } else if (event.record->action != Action::Clear) { // something new, which has its default
-            writer.Who = Writer::Kind::Default;
-            writer.Entry.reset();
+            Writer writer = ByDefault(event);
+            writer.Value = text;
             Win(std::move(writer));
         }
     }
 
+    /// Whether what the entry did to an object above left no value here: the entries of its lists go with a Clear, its
+    /// children too with a Replace.
+    bool TakesAway(const Event& event) const {
+        if (event.record->outcome == Outcome::Removed) {
+            return true;
+        }
+        const bool isReplaced = event.record->outcome == Outcome::Replaced;
+        for (std::size_t step = event.depth; step < m_steps.size(); ++step) {
+            const FieldRow& row = *m_steps[step].row;
+            if (row.list != nullptr || (isReplaced && row.child != nullptr)) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    /// What was removed keeps its value here: it may come anew.
     void Win(Writer writer) {
         m_winner = m_writers.size();
-        m_value = writer.Value;
+        if (!writer.IsRemoval) {
+            m_value = writer.Value;
+            m_removedBy.reset();
+        }
         m_writers.push_back(std::move(writer));
     }
 
@@ -291,12 +309,19 @@ private:
             return false;
         }
         const Event& next = m_events[position + 1];
-        return next.depth > event.depth && next.record->outcome != Outcome::Removed &&
-               MergeOf(next) == MergeOf(event) &&
-               (next.depth == m_steps.size() || next.record->outcome == Outcome::Added);
+        const bool isGiven = next.record->outcome != Outcome::Removed && next.record->outcome != Outcome::Unchanged;
+        return next.depth == m_steps.size() && isGiven && MergeOf(next) == MergeOf(event);
     }
 
     JournalData::Number MergeOf(const Event& event) const { return m_journal.ScopeAt(event.record->scope).merge; }
+
+    /// Nobody gave it the value; the feature made what holds it.
+    Writer ByDefault(const Event& event) const {
+        Writer writer = ByFeature(event);
+        writer.Who = Writer::Kind::Default;
+        writer.Entry.reset();
+        return writer;
+    }
 
     Writer ByFeature(const Event& event) const {
         Writer writer;
@@ -426,7 +451,8 @@ private:
     std::vector<Event> m_events;
     std::vector<Writer> m_writers;
     std::size_t m_winner = ~std::size_t{0};
-    zelString m_value; ///< after the writers so far
+    zelString m_value;                              ///< after the writers so far
+    std::optional<JournalData::Number> m_removedBy; ///< the merge that took it away, while it is gone
 };
 
 } // namespace

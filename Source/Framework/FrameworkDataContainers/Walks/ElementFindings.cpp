@@ -2,11 +2,15 @@
 
 #include <algorithm>
 #include <array>
+#include <memory_resource>
+#include <typeinfo>
+#include <utility>
 
 #include "Framework/ContainerBase/FieldPath.h"
 #include "Framework/ContainerBase/MergeControl.h"
 #include "Framework/FrameworkDataContainers/Walks/ValueProblem.h"
-#include "Framework/XMLSupport/TextHash.h"
+#include "Framework/PointersByText.h"
+#include "Framework/XMLSupport/Document.h"
 #include "Framework/XMLSupport/TreeReading.h"
 
 namespace Framework {
@@ -18,12 +22,15 @@ struct SeenField {
     const FieldRow* row;
     NodeRef first = NodeRef::None;
     std::size_t count = 0;
-    HashedMap<std::string, NodeRef> keys{};
+    std::unique_ptr<Zelvon::PointersByText> keys{}; ///< to the last node of each; none before the second entry
 };
 
-void AppendFields(const FieldTable& table, std::vector<SeenField>& fields) {
+void AppendFields(const FieldTable& table, std::pmr::vector<SeenField>& fields, std::size_t count = 0) {
+    count += table.rows.size();
     if (table.parent != nullptr) {
-        AppendFields(*table.parent, fields);
+        AppendFields(*table.parent, fields, count);
+    } else {
+        fields.reserve(count);
     }
     for (const FieldRow& row : table.rows) {
         fields.push_back({&row});
@@ -47,21 +54,26 @@ bool IsAside(std::string_view name) {
 }
 
 bool IsBlank(std::string_view text) {
-    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+    return std::all_of(text.begin(), text.end(),
+                       [](char c) { return c == ' ' || c == '\n' || c == '\t' || c == '\r'; });
 }
 
 std::string Quoted(std::string_view name) {
     return std::string("\"").append(name).append("\"");
 }
 
-class ElementFinder {
+/// Every element of an override comes here, so the tree is read as what it is, and the fields of all but the largest
+/// classes find room in the finder.
+template <typename Tree> class ElementFinder {
 public:
-    ElementFinder(const ReadElement& element, const FindingRules& rules, const FindingReport& report,
+    ElementFinder(const Tree& tree, const ReadElement& element, const FindingRules& rules, const FindingReport& report,
                   const FoundChild& child)
-        : m_tree(element.tree), m_node(element.node), m_rules(rules), m_report(report), m_child(child),
-          m_owner(m_tree.Name(m_node)) {
+        : m_tree(tree), m_node(element.node), m_rules(rules), m_report(report), m_child(child),
+          m_owner(m_tree.Name(m_node)), m_memory(m_fieldRoom.data(), m_fieldRoom.size()), m_fields(&m_memory) {
         AppendFields(element.table, m_fields);
     }
+    ElementFinder(const ElementFinder&) = delete;
+    ElementFinder& operator=(const ElementFinder&) = delete;
 
     void Run() {
         LookAtAttributes();
@@ -76,6 +88,7 @@ public:
     }
 
 private:
+    std::string Owner() const { return std::string(m_owner); }
     void Report(NodeRef node, std::string_view field, FoundProblem problem) { m_report(node, field, problem); }
 
     // --- the element's own attributes
@@ -88,7 +101,7 @@ private:
                 return seen.row->form == FieldForm::Attribute && seen.row->name == name;
             });
             if (field != m_fields.end()) {
-                LookAtValue(*field->row, attribute, attribute);
+                LookAtValue(*field, attribute, attribute);
             } else if (IsControlWord(name)) {
                 LookAtControlWord(attribute);
             } else if (m_rules.knowsAllNames && !IsAside(name)) {
@@ -112,8 +125,8 @@ private:
         });
         FoundProblem problem{
             FindingCode::UnknownAttribute,
-            isElement ? std::string(name) + " is an element of " + m_owner + ", not an attribute; it is passed over"
-                      : "no attribute of " + m_owner + " is named " + Quoted(name) + "; it is passed over",
+            isElement ? std::string(name) + " is an element of " + Owner() + ", not an attribute; it is passed over"
+                      : "no attribute of " + Owner() + " is named " + Quoted(name) + "; it is passed over",
             attribute};
         if (!isElement) {
             problem.near = Near(name, true);
@@ -143,7 +156,7 @@ private:
             m_sawText = true;
             Report(m_node, {},
                    {FindingCode::StrayText,
-                    "text stands directly in " + m_owner + ", which holds elements only; it is passed over", text});
+                    "text stands directly in " + Owner() + ", which holds elements only; it is passed over", text});
         }
     }
 
@@ -183,16 +196,28 @@ private:
         });
         FoundProblem problem{
             FindingCode::UnknownElement,
-            isAttribute ? std::string(name) + " is an attribute of " + m_owner + ", not an element; it is passed over"
-                        : "no element of " + m_owner + " is named " + Quoted(name) + "; it is passed over"};
+            isAttribute ? std::string(name) + " is an attribute of " + Owner() + ", not an element; it is passed over"
+                        : "no element of " + Owner() + " is named " + Quoted(name) + "; it is passed over"};
         if (!isAttribute) {
             problem.near = Near(name, false);
         }
         Report(child, name, std::move(problem));
     }
 
+    /// The step to a child that a field names.
+    std::string StepTo(const SeenField& seen, NodeRef child) const {
+        const FieldRow& row = *seen.row;
+        const NodeRef key = row.keyAttribute.empty() ? NodeRef::None : FindAttribute(m_tree, child, row.keyAttribute);
+        return key != NodeRef::None               ? KeyStep(row.name, row.keyAttribute, TextOf(m_tree, key))
+               : row.form == FieldForm::PlainList ? PositionStep(row.name, seen.count)
+                                                  : std::string(row.name);
+    }
+
     void LookAtField(SeenField& seen, NodeRef child) {
         const FieldRow& row = *seen.row;
+        if (IsLeftOut(row, child)) {
+            return;
+        }
         switch (row.form) {
         case FieldForm::Element:
         case FieldForm::Child:
@@ -206,9 +231,15 @@ private:
             break;
         }
         if (!HoldsContainers(row)) {
-            LookAtInside(row, child);
-            LookAtValue(row, child, NodeRef::None);
+            LookAtInside(seen, child);
+            LookAtValue(seen, child, NodeRef::None);
         }
+    }
+
+    /// Something new leaves out what asks for more than to be added. That is told elsewhere.
+    bool IsLeftOut(const FieldRow& row, NodeRef child) const {
+        return m_rules.reader == ElementReader::Part && row.form != FieldForm::Element &&
+               ReadControl(m_tree, child, ControlSite::NewPart).problem.has_value();
     }
 
     /// Told once for a field, where it stands for the second time.
@@ -219,7 +250,7 @@ private:
             const bool isRead = HoldsContainers(*seen.row) && m_rules.reader != ElementReader::Merge;
             Report(child, seen.row->name,
                    {FindingCode::RepeatedValue,
-                    std::string(seen.row->name) + " stands more than once in " + m_owner +
+                    std::string(seen.row->name) + " stands more than once in " + Owner() +
                         (isRead ? ", all are read into one object" : ", only the last counts"),
                     NodeRef::None,
                     {},
@@ -239,24 +270,47 @@ private:
             }
             return;
         }
-        if (row.numberedKeys && m_rules.reader != ElementReader::Merge) {
-            return; // numbered on load, whatever stands there
+        if (!m_rules.findsSecondKeys || (row.numberedKeys && m_rules.reader != ElementReader::Merge)) {
+            return; // keys that are numbered on load are so whatever stands there
         }
-        std::string key = attribute == NodeRef::None ? std::to_string(seen.count) : TextOf(m_tree, attribute);
-        const auto [known, isNew] = seen.keys.try_emplace(std::move(key), child);
-        if (isNew) {
+        if (seen.count == 1) {
+            seen.first = child;
             return;
         }
-        const NodeRef first = known->second;
+        if (seen.keys == nullptr) {
+            seen.keys = std::make_unique<Zelvon::PointersByText>();
+            NoteKey(seen, seen.first, 1);
+        }
+        if (const NodeRef first = NoteKey(seen, child, seen.count); first != NodeRef::None) {
+            ReportSecond(row, first, child);
+        }
+    }
+
+    /// The node before it that has the same key, None when there is none.
+    NodeRef NoteKey(SeenField& seen, NodeRef child, std::size_t position) {
+        const NodeRef attribute = FindAttribute(m_tree, child, seen.row->keyAttribute);
+        const std::string_view key = attribute != NodeRef::None ? m_tree.Value(attribute, m_room)
+                                     : seen.row->numberedKeys   ? m_room = std::to_string(position)
+                                                                : std::string_view();
+        if (attribute == NodeRef::None && !seen.row->numberedKeys) {
+            return NodeRef::None;
+        }
+        void* const node = reinterpret_cast<void*>(child);
+        void** const known = seen.keys->AddOrFind(key, node);
+        return known == nullptr ? NodeRef::None
+                                : NodeRef{reinterpret_cast<std::uintptr_t>(std::exchange(*known, node))};
+    }
+
+    void ReportSecond(const FieldRow& row, NodeRef first, NodeRef child) {
         const bool isMerge = m_rules.reader == ElementReader::Merge;
-        known->second = child;
         if (isMerge && AttributeOf(m_tree, first, actionAttribute) == "Remove") {
             return; // taken out, and brought anew
         }
-        Report(child, KeyStep(row.name, row.keyAttribute, known->first),
+        const std::string key = AttributeOf(m_tree, child, row.keyAttribute);
+        Report(child, KeyStep(row.name, row.keyAttribute, key),
                {FindingCode::DuplicateKey,
-                "a second " + std::string(row.name) + " with " + std::string(row.keyAttribute) + "=" +
-                    Quoted(known->first) + (isMerge ? ", merged after the first" : "; it is dropped"),
+                "a second " + std::string(row.name) + " with " + std::string(row.keyAttribute) + "=" + Quoted(key) +
+                    (isMerge ? ", merged after the first" : "; it is dropped"),
                 NodeRef::None,
                 {},
                 first,
@@ -264,7 +318,8 @@ private:
     }
 
     /// An element with one value has no elements, and no attributes but the key.
-    void LookAtInside(const FieldRow& row, NodeRef child) {
+    void LookAtInside(const SeenField& seen, NodeRef child) {
+        const FieldRow& row = *seen.row;
         for (NodeRef attribute = m_tree.FirstAttribute(child); attribute != NodeRef::None;
              attribute = m_tree.NextSibling(attribute)) {
             const std::string_view name = m_tree.Name(attribute);
@@ -272,20 +327,20 @@ private:
                 continue;
             }
             if (!IsControlWord(name)) {
-                Report(child, row.name,
+                Report(child, StepTo(seen, child),
                        {FindingCode::UnknownAttribute,
                         std::string(row.name) + " holds one value and has no attribute " + Quoted(name) +
                             "; it is passed over",
                         attribute});
             } else if (m_rules.reader == ElementReader::Load) {
-                Report(child, row.name,
+                Report(child, StepTo(seen, child),
                        {FindingCode::MisplacedControlWord,
                         std::string(name) + " acts in overrides only; a load passes over it", attribute});
             }
         }
         for (NodeRef inner = m_tree.FirstChild(child); inner != NodeRef::None; inner = m_tree.NextSibling(inner)) {
             if (m_tree.Kind(inner) == NodeKind::Element) {
-                Report(inner, row.name,
+                Report(inner, StepTo(seen, child),
                        {FindingCode::UnknownElement, std::string(row.name) + " holds one value and no element " +
                                                          Quoted(m_tree.Name(inner)) + "; it is passed over"});
             }
@@ -293,7 +348,8 @@ private:
     }
 
     /// `attribute` is the node itself when it is one.
-    void LookAtValue(const FieldRow& row, NodeRef node, NodeRef attribute) {
+    void LookAtValue(const SeenField& seen, NodeRef node, NodeRef attribute) {
+        const FieldRow& row = *seen.row;
         if (row.value == FieldValue::String) {
             return;
         }
@@ -301,17 +357,23 @@ private:
         std::optional<FoundProblem> problem = ValueProblem(row, text, m_rules.near);
         if (problem.has_value()) {
             problem->where = attribute;
-            Report(attribute == NodeRef::None ? node : m_node, row.name, std::move(*problem));
+            if (attribute == NodeRef::None) {
+                Report(node, StepTo(seen, node), std::move(*problem));
+            } else {
+                Report(m_node, row.name, std::move(*problem));
+            }
         }
     }
 
-    const XmlTree& m_tree;
+    const Tree& m_tree;
     NodeRef m_node;
     const FindingRules& m_rules;
     const FindingReport& m_report;
     const FoundChild& m_child;
-    std::string m_owner;
-    std::vector<SeenField> m_fields;
+    std::string_view m_owner;
+    std::array<std::byte, 2048> m_fieldRoom; ///< for the fields
+    std::pmr::monotonic_buffer_resource m_memory;
+    std::pmr::vector<SeenField> m_fields;
     std::size_t m_next = 0; ///< the field where the search for the next element begins
     bool m_sawText = false;
     std::string m_room;
@@ -321,7 +383,11 @@ private:
 
 void FindInElement(const ReadElement& element, const FindingRules& rules, const FindingReport& report,
                    const FoundChild& child) {
-    ElementFinder(element, rules, report, child).Run();
+    if (typeid(element.tree) == typeid(Document)) {
+        ElementFinder(static_cast<const Document&>(element.tree), element, rules, report, child).Run();
+    } else {
+        ElementFinder(element.tree, element, rules, report, child).Run();
+    }
 }
 
 } // namespace Framework

@@ -23,7 +23,8 @@ struct ReadElement {
 
 struct FindingRules {
     ElementReader reader;
-    bool knowsAllNames; ///< false where a host's class may read more than its table says
+    bool knowsAllNames;   ///< false where a host's class may read more than its table says
+    bool findsSecondKeys; ///< false where the lists tell of them themselves
     std::vector<std::string> (*near)(std::string_view name, const std::vector<std::string>& known);
 };
 

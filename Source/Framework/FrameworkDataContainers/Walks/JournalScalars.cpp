@@ -84,7 +84,8 @@ void SetJournalled(JournalData& journal, TypedDataContainer& object, const Field
                    .outcome = outcome,
                    .before = change.before,
                    .after = change.after,
-                   .isAttribute = row.form == FieldForm::Attribute});
+                   .isAttribute = row.form == FieldForm::Attribute,
+                   .isImplied = !isThere});
 }
 
 std::size_t TextCount(TypedDataContainer& object, const FieldRow& row) {

@@ -4,6 +4,8 @@
 #include <unordered_set>
 
 #include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/ContainerBase/FieldPath.h"
+#include "Framework/ContainerBase/JournalData.h"
 #include "Framework/ContainerBase/ListEdit.h"
 #include "Framework/ContainerBase/OverrideLog.h"
 #include "Framework/XMLSupport/NodeViews.h"
@@ -69,6 +71,32 @@ std::unique_ptr<TypedDataContainer> MakeEntry(TypedDataContainer& object, const 
     return entry;
 }
 
+/// A merge that has brought something new so far has its journal told, with the place of the entry that stays.
+void TellJournal(const FieldRow& row, const zelString& sName, std::string_view field, NodeRef first) {
+    JournalData* const journal = JournalData::Current();
+    const XmlTree* tree = nullptr;
+    const NodeRef node = OverridePlace::Innermost(tree);
+    if (journal == nullptr || tree == nullptr) {
+        return;
+    }
+    const std::string key = std::string(row.keyAttribute) + "=\"" + sName + "\"";
+    journal->WriteProblem(*tree, node, field, MergeJournal::Outcome::Skipped,
+                          {FindingCode::DuplicateKey,
+                           "a second " + std::string(row.name) + " with " + key + "; it is dropped",
+                           NodeRef::None,
+                           {},
+                           first,
+                           "the first one is here"});
+}
+
+/// The node of the entry that stays, where that is one of the document that is read.
+NodeRef NodeInSource(const TypedDataContainer& entry) {
+    const XmlTree* tree = nullptr;
+    OverridePlace::Innermost(tree);
+    const WrapperState* const state = LoadedState(ContainerAccess::Wrapper(entry));
+    return state != nullptr && state->Tree() == tree ? ContainerAccess::Node(entry) : NodeRef::None;
+}
+
 void ReportDuplicate(TypedDataContainer& object, const FieldRow& row, const zelString& sName, unsigned int line) {
     const zelString format = "Duplicate Index for " + zelString(row.name.data()) + ", Index = %s";
     object.SetLastError(-2, format, sName.c_str());
@@ -101,11 +129,12 @@ void AddKeyed(TypedDataContainer& object, const FieldRow& row, XMLDataWrapper* p
     }
     EntryMap& map = object.*row.map.entries;
     ListEdit<TypedDataContainer>::Settle(object.*row.member.entries);
-    if (EntryByKey(map, sName) != nullptr) {
+    if (const TypedDataContainer* const first = EntryByKey(map, sName)) {
         DeleteQuietly(entry.release());
         const XmlTree* tree = nullptr;
         const NodeRef node = NodeViews::Find(spNode, tree);
         const OverridePlace place(tree, node);
+        TellJournal(row, sName, {}, NodeInSource(*first)); // which stands at the entry
         ReportDuplicate(object, row, sName, line);
         return;
     }
@@ -187,6 +216,8 @@ void AddKeyedText(TypedDataContainer& object, const FieldRow& row, const zelStri
     ListEdit<TypedDataContainer::SimpleDataContainer>::Settle(object.*row.member.keyedTexts);
     TypedDataContainer::SimpleDataContainer* present = nullptr;
     if (map.getValue(sName, present, true)) {
+        TellJournal(row, sName, KeyStep(row.name, row.keyAttribute, sName),
+                    ContainerAccess::TextNode(*present, object));
         ReportDuplicate(object, row, sName, line);
         return;
     }

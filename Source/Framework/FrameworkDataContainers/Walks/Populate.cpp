@@ -54,14 +54,10 @@ private:
     /// Tells what is wrong with the node of an override beyond what the walk itself tells.
     void ReportFindings() {
         const auto report = [this](NodeRef node, std::string_view field, const FoundProblem& problem) {
-            const auto outcome = MergeJournal::Outcome::Skipped;
-            if (problem.code != FindingCode::DuplicateKey) {
-                ReportOverride(m_object, {m_tree, node, *m_feature, nullptr, field}, problem, __LINE__, outcome);
-            } else if (m_journal != nullptr) { // the list itself tells the log
-                m_journal->WriteProblem(m_tree, node, field, outcome, problem);
-            }
+            ReportOverride(m_object, {m_tree, node, *m_feature, nullptr, field}, problem, __LINE__,
+                           MergeJournal::Outcome::Skipped);
         };
-        FindInElement({m_tree, m_node, m_table}, {ElementReader::Part, m_isExact, &NearInMerge}, report);
+        FindInElement({m_tree, m_node, m_table}, {ElementReader::Part, m_isExact, false, &NearInMerge}, report);
     }
 
     void Set(const FieldRow& row, NodeRef node, std::string_view text) {
@@ -249,6 +245,7 @@ private:
         const TextVector& texts = m_object.*row.member.keyedTexts;
         const std::size_t before = texts.size();
         const zelString text = TextOf(m_tree, node);
+        const OverridePlace place(&m_tree, node, m_feature); // of a key that stands twice
         row.list->addText(m_object, text, TextKey(row, node));
         if (texts.size() > before && ContainerAccess::Wrapper(m_object) != nullptr) {
             ContainerAccess::AttachText(*texts.back(), m_object, node, text);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -60,14 +61,24 @@ std::optional<FoundProblem> IntProblem(std::string_view text) {
     return {};
 }
 
+/// Whether a text that is read as 0 is a number all the same, one too close to it.
+bool IsUnderflow(std::string_view text) {
+    text = WithoutBlanks(text);
+    text.remove_prefix(text.starts_with('+') || text.starts_with('-') ? 1 : 0);
+    double value = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    return result.ec == std::errc::result_out_of_range && result.ptr == text.data() + text.size();
+}
+
 std::optional<FoundProblem> DoubleProblem(std::string_view text) {
     const double value = SupportFunc::GetDoubleValue(zelString(text));
     const bool hasDigits = text.find_first_of("123456789") != std::string_view::npos;
     const bool isWritten = text.find_first_not_of("0123456789.+-eE \t\r\n") == std::string_view::npos;
-    if (value == 0.0 && (!isWritten || hasDigits || text.find('0') == std::string_view::npos)) {
+    const bool isTooSmall = value == 0.0 && isWritten && IsUnderflow(text);
+    if (value == 0.0 && !isTooSmall && (!isWritten || hasDigits || text.find('0') == std::string_view::npos)) {
         return FoundProblem{FindingCode::NotANumber, Number(text, "number", "0")};
     }
-    if (std::fabs(value) == std::numeric_limits<double>::max()) {
+    if (isTooSmall || std::fabs(value) == std::numeric_limits<double>::max()) {
         return FoundProblem{FindingCode::NumberOutOfRange, Quoted(text) + " is beyond what the field can hold and is "
                                                                           "read as the nearest limit"};
     }
@@ -75,7 +86,7 @@ std::optional<FoundProblem> DoubleProblem(std::string_view text) {
 }
 
 std::optional<FoundProblem> BoolProblem(std::string_view text) {
-    constexpr std::array<std::string_view, 7> falseWords = {"", "false", "0", "no", "n", "off", "f"};
+    constexpr std::array<std::string_view, 6> falseWords = {"false", "0", "no", "n", "off", "f"};
     std::string word(WithoutBlanks(text));
     std::transform(word.begin(), word.end(), word.begin(),
                    [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
