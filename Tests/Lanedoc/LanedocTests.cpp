@@ -150,6 +150,12 @@ TEST_F(Lanedoc, ShowsTheTreeWithPathsThatLeadBack) {
     EXPECT_FALSE(Holds(Run("show base.xml --no-defaults").out, "(default)"));
     EXPECT_TRUE(Holds(Run("--color=always show base.xml").out, "\x1b[1mStateProcessingRoot\x1b[0m"));
     EXPECT_TRUE(Holds(Run("show base.xml --color always").out, "\x1b["));
+    ::setenv("CLICOLOR_FORCE", "1", 1);
+    EXPECT_TRUE(Holds(Run("show base.xml").out, "\x1b["));
+    ::setenv("NO_COLOR", "1", 1);
+    EXPECT_FALSE(Holds(Run("show base.xml").out, "\x1b["));
+    ::unsetenv("CLICOLOR_FORCE");
+    ::unsetenv("NO_COLOR");
 }
 
 TEST_F(Lanedoc, MergesIntoAFileAndToStandardOutput) {

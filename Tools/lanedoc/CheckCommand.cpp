@@ -46,6 +46,7 @@ public:
         for (const Message& message : messages) {
             m_messages.Tell(message);
         }
+        m_messages.RemoveSource(source != nullptr ? source->Name() : file);
     }
     void End() override { m_messages.TellCount(); }
 

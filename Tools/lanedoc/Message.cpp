@@ -19,6 +19,7 @@ std::string HelpOf(const Finding& finding) {
 
 std::string HelpWith(const std::vector<std::string>& names) {
     std::vector<std::string> quoted;
+    quoted.reserve(names.size());
     for (const std::string& name : names) {
         quoted.push_back(Quoted(name));
     }

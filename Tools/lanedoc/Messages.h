@@ -31,11 +31,13 @@ public:
     /// lines go to standard error, unless there is another writer.
     explicit Messages(const Style& style, std::size_t most = mostMessages, Writer write = {});
 
-    /// Lets messages quote the lines of this document, as it was loaded. It must live while they are told; another one
-    /// of that name takes its place.
+    /// Lets messages quote the lines of this document, as it was loaded. It must live until it is removed; another
+    /// one of that name takes its place.
     void AddSource(Source& source);
     /// The same for a file that does not load. Its lines are read when they are asked for.
     void AddFile(const std::string& path);
+    /// Forgets the lines of a document.
+    void RemoveSource(const std::string& name) { m_sources.erase(name); }
     void Tell(const Message& message);
     /// Tells how many there were, and how many of them were not shown; nothing when there was none.
     void TellCount();

@@ -34,11 +34,12 @@ LocatedText ReadPlace(const std::string& refusal, const std::string& name) {
     if (named.starts_with(name + ":")) {
         rest.remove_prefix(name.size() + 1);
         for (unsigned int* const number : {&located.place.Line, &located.place.Column}) {
-            const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), *number);
+            unsigned int read = 0;
+            const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), read);
             if (error != std::errc() || end == rest.data() + rest.size() || *end != ':') {
-                *number = 0;
                 break;
             }
+            *number = read;
             rest.remove_prefix(static_cast<std::size_t>(end - rest.data()) + 1);
         }
         rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
