@@ -45,9 +45,9 @@ public:
     std::string AsText() {
         std::string text;
         ForEachAsked([&](const TreeValue& value, const Writer& origin) {
-            const std::string place = PlaceName(AsNamed(origin.Place));
-            text += (place.empty() ? "-" : place) + '\t' + Printable(FeatureOf(origin)) + '\t' + Printable(value.path) +
-                    '\t' + Printable(value.text) + '\n';
+            const bool isGiven = origin.Who != Writer::Kind::Default;
+            text += (isGiven ? PlaceName(AsNamed(origin.Place)) : "-") + '\t' + Printable(FeatureOf(origin)) + '\t' +
+                    Printable(value.path) + '\t' + Printable(value.text) + '\n';
         });
         return text;
     }
@@ -59,10 +59,9 @@ public:
             json["path"] = value.path;
             json["value"] = value.text;
             json["who"] = WhoName(origin.Who);
-            if (origin.Who == Writer::Kind::Feature) {
-                json["feature"] = std::string(origin.FeatureID);
-            }
-            json["place"] = origin.Who == Writer::Kind::Default ? Json() : JsonOf(AsNamed(origin.Place));
+            json["feature"] = origin.FeatureID.empty() ? Json() : Json(std::string(origin.FeatureID));
+            json["place"] = origin.Place.IsKnown() ? JsonOf(AsNamed(origin.Place)) : Json();
+            json["isReset"] = origin.IsReset;
         });
         return WriteJson(
             {{"format", jsonFormat}, {"root", m_run.Input().base->RootName()}, {"values", std::move(values)}});

@@ -11,7 +11,7 @@ namespace Lanedoc {
 /// One who gave a value, added or removed a part, or tried to.
 struct HistoryStep {
     MergeJournal::Writer::Kind who = MergeJournal::Writer::Kind::Feature;
-    std::string feature; ///< empty for the base and for nobody
+    std::string feature; ///< empty for the base; for nobody: that made what holds the value, if any
     DocumentPlace place;
     std::string path;                 ///< of the part, which is an entry where the history is that of a list
     std::optional<std::string> value; ///< that it gave

@@ -23,7 +23,9 @@ std::string PlaceOf(const HistoryStep& step) {
 
 std::string DeedOf(const HistoryStep& step, const std::string& historyPath) {
     if (step.value.has_value()) {
-        return Quoted(*step.value) + (step.isReset ? "  (reset)" : "");
+        const bool isMade = step.who == MergeJournal::Writer::Kind::Default && !step.feature.empty();
+        return Quoted(*step.value) + (step.isReset ? "  (reset)" : "") +
+               (isMade ? "  (in what " + Printable(step.feature) + " made)" : "");
     }
     if (!step.entry.has_value()) {
         return "removed";
@@ -46,10 +48,8 @@ std::string Padded(const std::string& text, std::size_t width) {
 
 Json StepAsJson(const HistoryStep& step) {
     Json json = {{"who", WhoName(step.who)}};
-    if (step.who == MergeJournal::Writer::Kind::Feature) {
-        json["feature"] = step.feature;
-    }
-    json["place"] = step.who == MergeJournal::Writer::Kind::Default ? Json() : JsonOf(step.place);
+    json["feature"] = step.feature.empty() ? Json() : Json(step.feature);
+    json["place"] = step.place.IsKnown() ? JsonOf(step.place) : Json();
     if (step.entry.has_value()) {
         json["outcome"] = std::string(OutcomeName(step.entry->Result));
         json["path"] = std::string(step.entry->Path);

@@ -23,7 +23,6 @@ std::vector<MessageCode> AllMessageCodes() {
              "A processing instruction of the base will not be in the merged document."},
             {Codes::conflict, Severity::Warning,
              "Two features give one value differently, or one removes what another edits."},
-            {Codes::noEffect, Severity::Warning, "An edit changes nothing, or a later feature undoes it."},
         });
     return codes;
 }
