@@ -121,7 +121,7 @@ protected:
     }
 };
 
-/// Number of the override that a place is in, 0 for the base.
+/// Number of the override that a place is in, 0 for the base and for no place.
 std::size_t MergeOf(const Json& place, const Example& example) {
     const auto found =
         std::find(example.overrides.begin(), example.overrides.end(), place.at("file").get<std::string>());
@@ -142,7 +142,7 @@ TEST_F(LanedocExplain, BlamesWhoeverMadeAValueWhatItIs) {
             const Course& course = courses.at(path);
             ASSERT_EQ(course.back(), value.at("value").get<std::string>());
             const std::size_t last = LastChange(course);
-            const std::size_t merge = value.at("place").is_null() ? 0 : MergeOf(value.at("place"), example);
+            const std::size_t merge = MergeOf(value, example);
             EXPECT_EQ(merge > 0, !value.at("feature").is_null());
             // A later one that wrote the same had a reason to: what holds the value was replaced.
             EXPECT_GE(merge, last);
@@ -154,7 +154,7 @@ TEST_F(LanedocExplain, BlamesWhoeverMadeAValueWhatItIs) {
             if (!value.at("isReset")) {
                 const std::string step = path.substr(path.rfind('/') + 1);
                 const std::string name = step.substr(0, step.find('['));
-                const std::string text = TextAt(value.at("place"));
+                const std::string text = TextAt(value);
                 EXPECT_TRUE(text.starts_with("<" + name) || text.starts_with(name + "=") ||
                             path.ends_with("]")) // the key may hold a stroke
                     << text;
@@ -187,7 +187,7 @@ TEST_F(LanedocExplain, TellsAllWhoWroteAValueInTheirOrder) {
             Course told(course.size());
             std::size_t winners = 0;
             for (const Json& step : json.at("history")) {
-                const std::size_t merge = step.at("place").is_null() ? 0 : MergeOf(step.at("place"), example);
+                const std::size_t merge = MergeOf(step, example);
                 const Json& value = step.at("value");
                 std::fill(told.begin() + static_cast<std::ptrdiff_t>(merge), told.end(),
                           value.is_null() ? std::nullopt : std::optional<std::string>(value));
@@ -267,7 +267,7 @@ TEST_F(LanedocExplain, ReportsEveryEdit) {
     for (const Json& change : report.at("overrides")) {
         for (const Json& entry : change.at("entries")) {
             EXPECT_EQ(entry.at("entry"), entries.size());
-            EXPECT_EQ(entry.at("place").at("file"), change.at("document"));
+            EXPECT_EQ(entry.at("file"), change.at("document"));
             entries.push_back(entry);
         }
     }
@@ -277,7 +277,7 @@ TEST_F(LanedocExplain, ReportsEveryEdit) {
     EXPECT_EQ(edit->at("outcome"), "changed");
     EXPECT_EQ(edit->at("old"), "X");
     EXPECT_EQ(edit->at("new"), "Y");
-    EXPECT_EQ(edit->at("place").at("column"), 17);
+    EXPECT_EQ(edit->at("column"), 17);
     EXPECT_EQ(entries.back().at("problem").at("code"), "missing-target");
     ASSERT_EQ(report.at("conflicts").size(), 2U);
     EXPECT_EQ(report.at("conflicts")[0].at("kind"), "values");

@@ -60,7 +60,7 @@ public:
             json["value"] = value.text;
             json["who"] = WhoName(origin.Who);
             json["feature"] = origin.FeatureID.empty() ? Json() : Json(std::string(origin.FeatureID));
-            json["place"] = origin.Place.IsKnown() ? JsonOf(AsNamed(origin.Place)) : Json();
+            json.update(JsonOf(AsNamed(origin.Place)));
             json["isReset"] = origin.IsReset;
         });
         return WriteJson(

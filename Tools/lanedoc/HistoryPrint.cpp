@@ -49,7 +49,7 @@ std::string Padded(const std::string& text, std::size_t width) {
 Json StepAsJson(const HistoryStep& step) {
     Json json = {{"who", WhoName(step.who)}};
     json["feature"] = step.feature.empty() ? Json() : Json(step.feature);
-    json["place"] = step.place.IsKnown() ? JsonOf(step.place) : Json();
+    json.update(JsonOf(step.place));
     if (step.entry.has_value()) {
         json["outcome"] = std::string(OutcomeName(step.entry->Result));
         json["path"] = std::string(step.entry->Path);

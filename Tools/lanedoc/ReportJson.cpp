@@ -13,10 +13,10 @@ using Outcome = MergeJournal::Outcome;
 Json EntryAsJson(const Entry& entry, std::size_t number) {
     Json json = {{"entry", number},
                  {"outcome", std::string(OutcomeName(entry.Result))},
-                 {"action", std::string(ActionName(entry.Asked))},
-                 {"place", JsonOf(AsNamed(entry.Place))},
-                 {"path", std::string(entry.Path)},
-                 {"isContainer", entry.IsContainer}};
+                 {"action", std::string(ActionName(entry.Asked))}};
+    json.update(JsonOf(AsNamed(entry.Place)));
+    json["path"] = std::string(entry.Path);
+    json["isContainer"] = entry.IsContainer;
     if (entry.Problem.has_value()) {
         const Severity severity = entry.Result == Outcome::Refused ? Severity::Error : Severity::Warning;
         json["problem"] = JsonOf(MessageOf(*entry.Problem, severity));
