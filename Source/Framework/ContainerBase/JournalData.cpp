@@ -310,6 +310,17 @@ JournalIndex& JournalData::Index() const {
     return *m_index;
 }
 
+std::string_view KeyInPath(std::string_view key, bool isNumber, std::string& room) noexcept {
+    try {
+        if (isNumber) {
+            room = SupportFunc::GetStrValue(static_cast<long>(SupportFunc::GetIntValue(zelString(key))));
+        }
+        return isNumber ? std::string_view(room) : key;
+    } catch (...) { // a key so long is no number
+        return "0";
+    }
+}
+
 // --- scopes
 
 JournalMerge::JournalMerge(JournalData* journal, TypedDataContainer& object, const WrapperState& source,

@@ -119,6 +119,17 @@ public:
     bool HasNumberKey() const noexcept { return m_hasNumberKey; }
 
     JournalValue TextValue(std::string_view text) noexcept;
+    /// The same of a text that `make` makes.
+    template <typename Make> JournalValue MadeTextValue(Make make) noexcept {
+        try {
+            return TextValue(make());
+        } catch (...) {
+            m_isComplete = false;
+            return {};
+        }
+    }
+    /// Something could not be written.
+    void MissEntry() noexcept { m_isComplete = false; }
     /// The text of a node, read later when it stands in the document of the merge, else now.
     JournalValue NodeValue(const XmlTree& tree, NodeRef node) noexcept;
 
@@ -208,11 +219,9 @@ private:
     mutable std::unique_ptr<JournalIndex> m_index;
 };
 
-/// A key as its attribute has it in the tree, and so as paths have it: of "007" and of "x" what is read as a number.
-inline std::string KeyInPath(std::string_view key, bool isNumber) {
-    return isNumber ? std::string(SupportFunc::GetStrValue(static_cast<long>(SupportFunc::GetIntValue(zelString(key)))))
-                    : std::string(key);
-}
+/// A key as its attribute has it in the tree, and so as paths have it: of "007" and of "x" what is read as a number,
+/// which stands in `room`.
+std::string_view KeyInPath(std::string_view key, bool isNumber, std::string& room) noexcept;
 
 /// The outer merge of an object: what is written meanwhile belongs to the feature, with paths below the object. Does
 /// nothing when there is no journal.

@@ -39,7 +39,7 @@ public:
     static constexpr bool areContainers = true;
 
     static zelString FeatureOf(TypedDataContainer& entry) { return entry.GetFeatureID(); }
-    static zelString TextOf(TypedDataContainer&) { return {}; }
+    static std::string_view TextOf(TypedDataContainer&) { return {}; }
     static zelString KeyOf(TypedDataContainer& entry, const zelString& keyName) {
         return AttributeTextOf(entry, keyName);
     }
@@ -77,7 +77,7 @@ public:
     static constexpr bool areContainers = false;
 
     static zelString FeatureOf(const SimpleDataContainer& entry) { return entry.FeatureID; }
-    static zelString TextOf(const SimpleDataContainer& entry) { return entry.strValue; }
+    static std::string_view TextOf(const SimpleDataContainer& entry) { return entry.strValue; }
     static zelString KeyOf(const SimpleDataContainer& entry, const zelString&) { return entry.ElementName; }
 
     std::unique_ptr<SimpleDataContainer> Make() {
@@ -182,7 +182,8 @@ private:
         const std::string_view keyName = m_keyName.empty() ? m_journal->ListKey() : std::string_view(m_keyName);
         if constexpr (Entries::areContainers) {
             const bool isNumber = m_journal->HasNumberKey() && m_journal->ListKey() == keyName;
-            return {m_journal, m_node.name, keyName, KeyInPath(m_node.key, isNumber), m_present};
+            std::string room;
+            return {m_journal, m_node.name, keyName, KeyInPath(m_node.key, isNumber, room), m_present};
         } else {
             return {m_journal, m_node.name, keyName, m_node.key, nullptr};
         }
@@ -222,7 +223,7 @@ private:
         const bool isMoved = m_list.Place(m_present, control.order, neighbour);
         if (m_journal != nullptr && control.order != PlacementOrder::Unsaid && (isMoved || !isNew)) {
             Write(Action::Place, isMoved ? Outcome::Moved : Outcome::Unchanged, {},
-                  m_journal->TextValue(PlacementText(control)));
+                  m_journal->MadeTextValue([&] { return PlacementText(control); }));
         }
         return success;
     }
@@ -255,13 +256,23 @@ private:
         }
         if constexpr (!Entries::areContainers) {
             if (m_journal != nullptr) {
-                const bool isSame = Entries::TextOf(*m_present) == TextOf(m_node.tree, m_node.node);
+                const bool isSame = HasText(Entries::TextOf(*m_present));
                 Write(control.action == MergeAction::Clear ? Action::Clear : Action::Merge,
                       isSame ? Outcome::Unchanged : Outcome::Changed, isSame ? JournalValue::OfOld() : TextBefore(),
                       TextAfter());
             }
         }
         return m_entries.MergeInto(*m_present);
+    }
+
+    bool HasText(std::string_view text) const noexcept {
+        try {
+            std::string room;
+            return TextIn(m_node.tree, m_node.node, room) == text;
+        } catch (...) {
+            m_journal->MissEntry();
+            return false;
+        }
     }
 
     JournalValue TextBefore() const {

@@ -133,6 +133,12 @@ void ReportOverride(TypedDataContainer& object, const OverrideNode& where, const
     LogLastError(object, line);
 }
 
+void MissJournalEntry() noexcept {
+    if (JournalData* const journal = JournalData::Current()) {
+        journal->MissEntry();
+    }
+}
+
 bool IsMergeWatched() noexcept {
     return JournalData::Current() != nullptr || isStrict.load(std::memory_order_relaxed);
 }

@@ -53,6 +53,19 @@ struct OverrideNode {
 void ReportOverride(TypedDataContainer& object, const OverrideNode& where, const FoundProblem& problem,
                     unsigned int line, MergeJournal::Outcome outcome = MergeJournal::Outcome::Refused);
 
+/// The journal of this thread, if any, is not complete.
+void MissJournalEntry() noexcept;
+
+/// What a merge does for those who watch it alone: it must not fail for that. Where memory runs out, the journal says
+/// that it is not complete.
+template <typename Work> void WhileMemoryLasts(Work work) {
+    try {
+        work();
+    } catch (const std::bad_alloc&) {
+        MissJournalEntry();
+    }
+}
+
 /// Whether merges that begin now in this thread tell all that is wrong with an override.
 bool IsMergeWatched() noexcept;
 

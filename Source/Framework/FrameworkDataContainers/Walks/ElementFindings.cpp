@@ -9,20 +9,66 @@
 #include "Framework/ContainerBase/FieldPath.h"
 #include "Framework/ContainerBase/MergeControl.h"
 #include "Framework/FrameworkDataContainers/Walks/ValueProblem.h"
-#include "Framework/PointersByText.h"
 #include "Framework/XMLSupport/Document.h"
+#include "Framework/XMLSupport/TextHash.h"
 #include "Framework/XMLSupport/TreeReading.h"
 
 namespace Framework {
 
 namespace {
 
+/// Nodes by a key that stands in the document: a flat table that keeps no texts, for there may be as many as a list is
+/// long.
+class KeyedNodes {
+public:
+    /// Puts the node in the place of the one of the same key, which is returned; None when it is the first.
+    template <typename Equals> NodeRef AddOrExchange(std::string_view key, NodeRef node, Equals hasKey) {
+        if (2 * (m_used + 1) > m_slots.size()) {
+            Grow();
+        }
+        const std::size_t hash = TextHash()(key);
+        std::size_t place = hash & (m_slots.size() - 1);
+        while (m_slots[place].node != NodeRef::None) {
+            if (m_slots[place].hash == hash && hasKey(m_slots[place].node)) {
+                return std::exchange(m_slots[place].node, node);
+            }
+            place = (place + 1) & (m_slots.size() - 1);
+        }
+        m_slots[place] = {hash, node};
+        ++m_used;
+        return NodeRef::None;
+    }
+
+private:
+    struct Slot {
+        std::size_t hash = 0;
+        NodeRef node = NodeRef::None;
+    };
+
+    void Grow() {
+        std::vector<Slot> larger(std::max<std::size_t>(16, 2 * m_slots.size()));
+        for (const Slot& slot : m_slots) {
+            if (slot.node != NodeRef::None) {
+                std::size_t place = slot.hash & (larger.size() - 1);
+                while (larger[place].node != NodeRef::None) {
+                    place = (place + 1) & (larger.size() - 1);
+                }
+                larger[place] = slot;
+            }
+        }
+        m_slots.swap(larger);
+    }
+
+    std::vector<Slot> m_slots;
+    std::size_t m_used = 0;
+};
+
 /// A field of the class and of those that it inherits from, and what was found for it.
 struct SeenField {
     const FieldRow* row;
     NodeRef first = NodeRef::None;
     std::size_t count = 0;
-    std::unique_ptr<Zelvon::PointersByText> keys{}; ///< to the last node of each; none before the second entry
+    std::unique_ptr<KeyedNodes> keys{}; ///< the last node of each; none before the second entry
 };
 
 void AppendFields(const FieldTable& table, std::pmr::vector<SeenField>& fields, std::size_t count = 0) {
@@ -54,8 +100,8 @@ bool IsAside(std::string_view name) {
 }
 
 bool IsBlank(std::string_view text) {
-    return std::all_of(text.begin(), text.end(),
-                       [](char c) { return c == ' ' || c == '\n' || c == '\t' || c == '\r'; });
+    // No other character below the blank is allowed in XML.
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) <= ' '; });
 }
 
 std::string Quoted(std::string_view name) {
@@ -162,6 +208,19 @@ private:
 
     // --- its elements
 
+    /// The entries of a list stand in a row, and a document numbers its names.
+    SeenField* FieldOf(NodeRef child) {
+        if constexpr (std::is_same_v<Tree, Document>) {
+            if (const std::uint32_t number = m_tree.NameNumber(child); number != m_lastName) {
+                m_lastName = number;
+                m_lastField = FieldNamed(m_tree.Name(child));
+            }
+            return m_lastField;
+        } else {
+            return FieldNamed(m_tree.Name(child));
+        }
+    }
+
     /// A document has its elements mostly in the order of the fields, and those of a list in a row.
     SeenField* FieldNamed(std::string_view name) {
         for (std::size_t tried = 0; tried < m_fields.size(); ++tried) {
@@ -175,7 +234,7 @@ private:
     }
 
     void LookAtElement(NodeRef child) {
-        SeenField* const seen = FieldNamed(m_tree.Name(child));
+        SeenField* const seen = FieldOf(child);
         if (seen == nullptr) {
             if (m_rules.knowsAllNames) {
                 ReportUnknownElement(child);
@@ -273,13 +332,13 @@ private:
         if (!m_rules.findsSecondKeys || (row.numberedKeys && m_rules.reader != ElementReader::Merge)) {
             return; // keys that are numbered on load are so whatever stands there
         }
-        if (seen.count == 1) {
+        if (seen.first == NodeRef::None) {
             seen.first = child;
             return;
         }
         if (seen.keys == nullptr) {
-            seen.keys = std::make_unique<Zelvon::PointersByText>();
-            NoteKey(seen, seen.first, 1);
+            seen.keys = std::make_unique<KeyedNodes>();
+            NoteKey(seen, seen.first, 0);
         }
         if (const NodeRef first = NoteKey(seen, child, seen.count); first != NodeRef::None) {
             ReportSecond(row, first, child);
@@ -288,17 +347,26 @@ private:
 
     /// The node before it that has the same key, None when there is none.
     NodeRef NoteKey(SeenField& seen, NodeRef child, std::size_t position) {
-        const NodeRef attribute = FindAttribute(m_tree, child, seen.row->keyAttribute);
-        const std::string_view key = attribute != NodeRef::None ? m_tree.Value(attribute, m_room)
-                                     : seen.row->numberedKeys   ? m_room = std::to_string(position)
-                                                                : std::string_view();
-        if (attribute == NodeRef::None && !seen.row->numberedKeys) {
-            return NodeRef::None;
+        const std::string_view key = KeyIn(*seen.row, child, position, m_room);
+        return seen.keys->AddOrExchange(key, child, [&](NodeRef other) {
+            std::string room;
+            return KeyIn(*seen.row, other, 0, room) == key;
+        });
+    }
+
+    /// The key of an entry; where it is the position among its namesakes, 0 has that counted.
+    std::string_view KeyIn(const FieldRow& row, NodeRef child, std::size_t position, std::string& room) const {
+        const NodeRef attribute = FindAttribute(m_tree, child, row.keyAttribute);
+        if (attribute != NodeRef::None || !row.numberedKeys) {
+            return attribute == NodeRef::None ? std::string_view() : m_tree.Value(attribute, room);
         }
-        void* const node = reinterpret_cast<void*>(child);
-        void** const known = seen.keys->AddOrFind(key, node);
-        return known == nullptr ? NodeRef::None
-                                : NodeRef{reinterpret_cast<std::uintptr_t>(std::exchange(*known, node))};
+        for (NodeRef other = position == 0 ? child : NodeRef::None; other != NodeRef::None;
+             other = m_tree.PreviousSibling(other)) {
+            const bool isNamesake = m_tree.Kind(other) == NodeKind::Element && m_tree.Name(other) == row.name;
+            position += isNamesake ? 1U : 0U;
+        }
+        room = std::to_string(position);
+        return room;
     }
 
     void ReportSecond(const FieldRow& row, NodeRef first, NodeRef child) {
@@ -306,7 +374,8 @@ private:
         if (isMerge && AttributeOf(m_tree, first, actionAttribute) == "Remove") {
             return; // taken out, and brought anew
         }
-        const std::string key = AttributeOf(m_tree, child, row.keyAttribute);
+        std::string room;
+        const std::string key(KeyIn(row, child, 0, room));
         Report(child, KeyStep(row.name, row.keyAttribute, key),
                {FindingCode::DuplicateKey,
                 "a second " + std::string(row.name) + " with " + std::string(row.keyAttribute) + "=" + Quoted(key) +
@@ -374,7 +443,9 @@ private:
     std::array<std::byte, 2048> m_fieldRoom; ///< for the fields
     std::pmr::monotonic_buffer_resource m_memory;
     std::pmr::vector<SeenField> m_fields;
-    std::size_t m_next = 0; ///< the field where the search for the next element begins
+    std::size_t m_next = 0;       ///< the field where the search for the next element begins
+    std::uint32_t m_lastName = 0; ///< the number of the name that was looked at last
+    SeenField* m_lastField = nullptr;
     bool m_sawText = false;
     std::string m_room;
 };

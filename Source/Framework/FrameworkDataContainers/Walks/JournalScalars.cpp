@@ -13,7 +13,7 @@ public:
         : m_journal(journal), m_object(object), m_row(row) {
         switch (row.value) {
         case FieldValue::String:
-            Set(source, m_object.*row.member.text == source.text, [&] { return m_object.*row.member.text; });
+            SetText(source, m_object.*row.member.text);
             break;
         case FieldValue::Bool:
             Set(source, object.*row.member.flag, &JournalValue::OfFlag, row.member.flag);
@@ -26,11 +26,11 @@ public:
             break;
         case FieldValue::Enumeration: {
             const int number = row.enumeration->number(object);
-            const zelString word = ScalarText(object, row);
             SetScalar(object, row, source.text);
-            isChanged = row.enumeration->number(object) != number;
-            after = m_journal.TextValue(ScalarText(object, row));
-            before = isChanged ? m_journal.TextValue(word) : JournalValue::OfOld();
+            const int now = row.enumeration->number(object);
+            isChanged = now != number && (HasWord(number) || HasWord(now));
+            after = WordValue(now);
+            before = isChanged ? WordValue(number) : JournalValue::OfOld();
             break;
         }
         case FieldValue::Container:
@@ -43,13 +43,25 @@ public:
     JournalValue after;
 
 private:
-    template <typename Text> void Set(const ScalarSource& source, bool isSame, Text old) {
-        isChanged = !isSame;
-        before = isSame ? JournalValue::OfOld() : m_journal.TextValue(old());
+    void SetText(const ScalarSource& source, std::string_view old) {
+        isChanged = old != source.text;
+        before = isChanged ? m_journal.TextValue(old) : JournalValue::OfOld();
         SetScalar(m_object, m_row, source.text);
         after = source.node == NodeRef::None ? JournalValue()
                 : m_row.cdata                ? m_journal.TextValue(source.text)
                                              : m_journal.NodeValue(source.tree, source.node);
+    }
+
+    JournalValue WordValue(int number) {
+        return m_journal.MadeTextValue([&] { return m_row.enumeration->word(number); });
+    }
+    bool HasWord(int number) noexcept {
+        try {
+            return !m_row.enumeration->word(number).empty();
+        } catch (...) {
+            m_journal.MissEntry();
+            return true;
+        }
     }
 
     template <typename Type>
@@ -101,9 +113,10 @@ void WriteAddedText(JournalData& journal, TypedDataContainer& object, const Fiel
         return;
     }
     const JournalStep step(&journal, row.name, before + 1);
-    const JournalValue after = row.value == FieldValue::Enumeration
-                                   ? journal.TextValue((object.*row.member.words).back()->StringOf())
-                                   : journal.NodeValue(tree, node);
+    const JournalValue after =
+        row.value == FieldValue::Enumeration
+            ? journal.MadeTextValue([&] { return (object.*row.member.words).back()->StringOf(); })
+            : journal.NodeValue(tree, node);
     journal.Write(tree, node, {.outcome = MergeJournal::Outcome::Added, .after = after});
 }
 

@@ -71,22 +71,26 @@ std::unique_ptr<TypedDataContainer> MakeEntry(TypedDataContainer& object, const 
     return entry;
 }
 
-/// A merge that has brought something new so far has its journal told, with the place of the entry that stays.
-void TellJournal(const FieldRow& row, const zelString& sName, std::string_view field, NodeRef first) {
+/// A merge that brings something new has its journal told, with the place of the entry that stays. `isInEntry`: the
+/// merge stands at the entry already.
+void TellJournal(const FieldRow& row, const zelString& sName, bool isInEntry, NodeRef first) {
     JournalData* const journal = JournalData::Current();
     const XmlTree* tree = nullptr;
     const NodeRef node = OverridePlace::Innermost(tree);
     if (journal == nullptr || tree == nullptr) {
         return;
     }
-    const std::string key = std::string(row.keyAttribute) + "=\"" + sName + "\"";
-    journal->WriteProblem(*tree, node, field, MergeJournal::Outcome::Skipped,
-                          {FindingCode::DuplicateKey,
-                           "a second " + std::string(row.name) + " with " + key + "; it is dropped",
-                           NodeRef::None,
-                           {},
-                           first,
-                           "the first one is here"});
+    WhileMemoryLasts([&] {
+        const std::string key = std::string(row.keyAttribute) + "=\"" + sName + "\"";
+        journal->WriteProblem(*tree, node, isInEntry ? std::string() : KeyStep(row.name, row.keyAttribute, sName),
+                              MergeJournal::Outcome::Skipped,
+                              {FindingCode::DuplicateKey,
+                               "a second " + std::string(row.name) + " with " + key + "; it is dropped",
+                               NodeRef::None,
+                               {},
+                               first,
+                               "the first one is here"});
+    });
 }
 
 /// The node of the entry that stays, where that is one of the document that is read.
@@ -134,7 +138,7 @@ void AddKeyed(TypedDataContainer& object, const FieldRow& row, XMLDataWrapper* p
         const XmlTree* tree = nullptr;
         const NodeRef node = NodeViews::Find(spNode, tree);
         const OverridePlace place(tree, node);
-        TellJournal(row, sName, {}, NodeInSource(*first)); // which stands at the entry
+        TellJournal(row, sName, true, NodeInSource(*first));
         ReportDuplicate(object, row, sName, line);
         return;
     }
@@ -216,8 +220,7 @@ void AddKeyedText(TypedDataContainer& object, const FieldRow& row, const zelStri
     ListEdit<TypedDataContainer::SimpleDataContainer>::Settle(object.*row.member.keyedTexts);
     TypedDataContainer::SimpleDataContainer* present = nullptr;
     if (map.getValue(sName, present, true)) {
-        TellJournal(row, sName, KeyStep(row.name, row.keyAttribute, sName),
-                    ContainerAccess::TextNode(*present, object));
+        TellJournal(row, sName, false, ContainerAccess::TextNode(*present, object));
         ReportDuplicate(object, row, sName, line);
         return;
     }

@@ -59,12 +59,14 @@ public:
 private:
     /// Tells what else is wrong with the node: all that the walk passes over, or reads as something else.
     void ReportFindings() {
-        const auto report = [this](NodeRef node, std::string_view field, const FoundProblem& problem) {
-            ReportOverride(m_object, {m_tree, node, m_featureID, nullptr, field}, problem, m_line,
-                           MergeJournal::Outcome::Skipped);
-        };
-        FindInElement({m_tree, m_here, m_table},
-                      {ElementReader::Merge, IsExactly(m_object, m_table), true, &NearInMerge}, report);
+        WhileMemoryLasts([this] {
+            const auto report = [this](NodeRef node, std::string_view field, const FoundProblem& problem) {
+                ReportOverride(m_object, {m_tree, node, m_featureID, nullptr, field}, problem, m_line,
+                               MergeJournal::Outcome::Skipped);
+            };
+            FindInElement({m_tree, m_here, m_table},
+                          {ElementReader::Merge, IsExactly(m_object, m_table), true, &NearInMerge}, report);
+        });
     }
 
     void Stand(NodeRef node) {
@@ -234,7 +236,7 @@ private:
             ContainerAccess::SetMergeFeature(*entries.back(), m_featureID);
             attempt.Keep();
         } else if (m_journal != nullptr) {
-            Report(node, {FindingCode::NotLoaded, "the entry cannot be loaded"});
+            WhileMemoryLasts([&] { Report(node, {FindingCode::NotLoaded, "the entry cannot be loaded"}); });
         }
     }
 

@@ -53,11 +53,13 @@ public:
 private:
     /// Tells what is wrong with the node of an override beyond what the walk itself tells.
     void ReportFindings() {
-        const auto report = [this](NodeRef node, std::string_view field, const FoundProblem& problem) {
-            ReportOverride(m_object, {m_tree, node, *m_feature, nullptr, field}, problem, __LINE__,
-                           MergeJournal::Outcome::Skipped);
-        };
-        FindInElement({m_tree, m_node, m_table}, {ElementReader::Part, m_isExact, false, &NearInMerge}, report);
+        WhileMemoryLasts([this] {
+            const auto report = [this](NodeRef node, std::string_view field, const FoundProblem& problem) {
+                ReportOverride(m_object, {m_tree, node, *m_feature, nullptr, field}, problem, __LINE__,
+                               MergeJournal::Outcome::Skipped);
+            };
+            FindInElement({m_tree, m_node, m_table}, {ElementReader::Part, m_isExact, false, &NearInMerge}, report);
+        });
     }
 
     void Set(const FieldRow& row, NodeRef node, std::string_view text) {
@@ -170,7 +172,8 @@ private:
     /// A step into an entry of a list of containers.
     JournalStep EnterEntry(const FieldRow& row, std::string_view key) {
         if (row.form == FieldForm::KeyedList) {
-            return {m_journal, row.name, row.keyAttribute, KeyInPath(key, row.intKey), nullptr};
+            std::string room;
+            return {m_journal, row.name, row.keyAttribute, KeyInPath(key, row.intKey, room), nullptr};
         }
         return {m_journal, row.name, (m_object.*row.member.entries).size() + 1};
     }
