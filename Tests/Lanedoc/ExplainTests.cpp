@@ -123,8 +123,8 @@ protected:
 
 /// Number of the override that a place is in, 0 for the base and for no place.
 std::size_t MergeOf(const Json& place, const Example& example) {
-    const auto found =
-        std::find(example.overrides.begin(), example.overrides.end(), place.at("file").get<std::string>());
+    const auto found = std::find_if(example.overrides.begin(), example.overrides.end(),
+                                    [&](const auto& change) { return place.at("file") == Json(change.string()); });
     return found == example.overrides.end() ? 0 : static_cast<std::size_t>(found - example.overrides.begin()) + 1;
 }
 
