@@ -26,20 +26,6 @@ Sample Without(const Sample& sample) {
     return {sample.type, sample.name, {}};
 }
 
-/// What a reset leaves: defaults, no entries, children in place.
-void Reset(Sample& sample, bool keepAttributes) {
-    for (FieldSample& field : sample.fields) {
-        if (!keepAttributes || field.field.GetForm() != CatalogField::Attribute) {
-            field.present = true; // with the constructor's text, which a load may not give
-            field.text = field.field.IsScalar() ? field.field.DefaultText() : "";
-        }
-        field.entries.clear();
-        if (field.child != nullptr) {
-            Reset(*field.child, false);
-        }
-    }
-}
-
 /// Makes overrides with control words and does to a sample what they ask for, as literally as can be.
 class Model {
 public:
@@ -92,7 +78,7 @@ private:
         if (action == "Replace" || action == "Remove") {
             into.child.reset();
         } else if (action == "Clear") {
-            Reset(*into.child, true);
+            Samples::Reset(*into.child, true);
         }
         if (action != "Remove") {
             MergeField(into, std::move(from), over);
@@ -138,7 +124,7 @@ private:
         if (action == "Remove" || action == "Replace") {
             into.entries.erase(present);
         } else if (action == "Clear" && present->object != nullptr) {
-            Reset(*present->object, true);
+            Samples::Reset(*present->object, true);
         }
         if (action != "Remove") {
             MergeField(into, std::move(one), m_tree);
@@ -212,7 +198,7 @@ TEST(MergeControl, RootIsClearedOrReplacedAndKeepsItsOwnWrapper) {
             const XMLDataWrapper* const own = object->GetContainedDataPtr();
             ASSERT_TRUE(MergeText(*object, "F", Element(over, " MergeAction='" + action + "'", random)));
             if (action != "Merge") {
-                Reset(tree, action == "Clear");
+                Samples::Reset(tree, action == "Clear");
             }
             for (FieldSample& field : tree.fields) {
                 field.child = action == "Replace" ? nullptr : std::move(field.child);

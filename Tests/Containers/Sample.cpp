@@ -197,26 +197,6 @@ void AppendLines(const Sample& sample, const std::string& path, std::vector<std:
     }
 }
 
-void AppendLines(TypedDataContainer& object, const std::string& path, std::vector<std::string>& lines) {
-    lines.push_back(path + " is " + object.GetContainerName());
-    for (const CatalogField& field : ContainerCatalog::ClassOf(object).Fields()) {
-        const std::string here = path + "/" + std::string(field.Name());
-        if (field.IsScalar()) {
-            lines.push_back(here + "=" + field.GetText(object));
-        } else if (TypedDataContainer* const child = field.GetChild(object)) {
-            AppendLines(*child, here, lines);
-        }
-        for (std::size_t i = 0; i < field.Length(object); ++i) {
-            const std::string entryPath = here + "[" + std::to_string(i) + "|" + field.EntryKey(object, i) + "]";
-            if (TypedDataContainer* const entry = field.Entry(object, i)) {
-                AppendLines(*entry, entryPath, lines);
-            } else {
-                lines.push_back(entryPath + "=" + field.EntryText(object, i));
-            }
-        }
-    }
-}
-
 /// What a load makes of a sample: numbered lists are numbered anew.
 std::unique_ptr<Sample> LoadedCopy(const Sample& sample) {
     auto copy = std::make_unique<Sample>(Sample{sample.type, sample.name, {}});
@@ -261,6 +241,37 @@ Sample Make(CatalogClass type, const std::string& name, Random& random, int firs
         sample.fields.push_back(std::move(made));
     }
     return sample;
+}
+
+Sample Read(TypedDataContainer& object) {
+    Sample sample{ContainerCatalog::ClassOf(object), object.GetContainerName(), {}};
+    for (const CatalogField& field : sample.type.Fields()) {
+        FieldSample& read = sample.fields.emplace_back(field);
+        read.present = true;
+        read.text = field.GetText(object);
+        if (TypedDataContainer* const child = field.GetChild(object)) {
+            read.child = std::make_unique<Sample>(Read(*child));
+        }
+        for (std::size_t i = 0; i < field.Length(object); ++i) {
+            TypedDataContainer* const entry = field.Entry(object, i);
+            read.entries.push_back({field.EntryKey(object, i), field.EntryText(object, i),
+                                    entry == nullptr ? nullptr : std::make_unique<Sample>(Read(*entry))});
+        }
+    }
+    return sample;
+}
+
+void Reset(Sample& sample, bool keepAttributes) {
+    for (FieldSample& field : sample.fields) {
+        if (!keepAttributes || field.field.GetForm() != CatalogField::Attribute) {
+            field.present = true; // with the constructor's text, which a load may not give
+            field.text = field.field.IsScalar() ? field.field.DefaultText() : "";
+        }
+        field.entries.clear();
+        if (field.child != nullptr) {
+            Reset(*field.child, false);
+        }
+    }
 }
 
 void Merge(Sample& base, const Sample& over) {
@@ -309,9 +320,7 @@ std::vector<std::string> Lines(const Sample& sample) {
 }
 
 std::vector<std::string> Lines(TypedDataContainer& object) {
-    std::vector<std::string> lines;
-    AppendLines(object, "", lines);
-    return lines;
+    return Lines(Read(object));
 }
 
 } // namespace Samples

@@ -41,6 +41,12 @@ using Random = std::mt19937;
 /// so that two samples overlap as wanted. With `everything` no field is left out.
 Sample Make(CatalogClass type, const std::string& name, Random& random, int firstKey = 1, bool everything = false);
 
+/// What an object holds.
+Sample Read(TypedDataContainer& object);
+
+/// What a reset leaves: defaults, no entries, children in place.
+void Reset(Sample& sample, bool keepAttributes);
+
 /// What an object holds when `over` was merged into `base`.
 void Merge(Sample& base, const Sample& over);
 

@@ -1,7 +1,8 @@
 // Does one work of the library on a small document, for CheckCounts.sh to count the instructions of.
-//   CountedWork load|update|merge|dump FOLDER
+//   CountedWork load|update|merge|journal|dump FOLDER
 #include <FrameworkDataContainers/FrameworkDataContainers.h>
 
+#include <Framework/MergeJournal.h>
 #include <Framework/XMLDataWrapper.h>
 
 #include <functional>
@@ -30,6 +31,12 @@ bool Merge(Documents& all) {
     return all.tree.MergeFromFile(nullptr, all.override.c_str());
 }
 
+bool MergeWithJournal(Documents& all) {
+    MergeJournal journal;
+    const MergeJournal::Recording recording(journal);
+    return Merge(all) && journal.IsComplete() && journal.Size() > 0;
+}
+
 bool Dump(Documents& all) {
     FullFunctionXMLDataWrapper output;
     DOMNode* passed = nullptr;
@@ -46,10 +53,10 @@ extern "C" [[gnu::noinline, gnu::visibility("default")]] bool CountedWork(const 
 
 int main(int argc, char* argv[]) {
     const std::map<std::string, bool (*)(Documents&)> works = {
-        {"load", Load}, {"update", Update}, {"merge", Merge}, {"dump", Dump}};
+        {"load", Load}, {"update", Update}, {"merge", Merge}, {"journal", MergeWithJournal}, {"dump", Dump}};
     const auto work = works.find(argc == 3 ? argv[1] : "");
     if (work == works.end()) {
-        std::cerr << "usage: CountedWork load|update|merge|dump FOLDER\n";
+        std::cerr << "usage: CountedWork load|update|merge|journal|dump FOLDER\n";
         return 2;
     }
     const std::string folder = std::string(argv[2]) + "/StateProcessingRoot";

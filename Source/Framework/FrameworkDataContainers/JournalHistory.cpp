@@ -73,6 +73,7 @@ struct Step {
 struct BaseNode {
     std::shared_ptr<const Document> document;
     NodeRef node = NodeRef::None;
+    bool hasHolder = false; ///< what holds it was there
 };
 
 class History {
@@ -239,33 +240,38 @@ private:
     }
 
     void TakeOwn(const Event& event) {
+        const bool isRemoved = event.record->outcome == Outcome::Removed;
         Writer writer = event.record->isImplied ? ByDefault(event) : ByFeature(event);
-        writer.IsRemoval = event.record->outcome == Outcome::Removed;
-        writer.Value = writer.IsRemoval ? zelString() : m_journal.NewValue(*event.record);
-        if (event.record->outcome != Outcome::Unchanged) {
-            m_winner = m_writers.size();
-            m_value = writer.Value;
+        writer.IsRemoval = isRemoved;
+        writer.Value = isRemoved ? zelString() : m_journal.NewValue(*event.record);
+        if (event.record->outcome == Outcome::Unchanged) {
+            m_writers.push_back(std::move(writer));
+        } else if (!event.record->isImplied || writer.Value != m_value) {
+            Win(std::move(writer));
         }
-        m_writers.push_back(std::move(writer));
     }
 
+    /// What an edit of something above did to the value.
     void TakeAbove(const Event& event, std::size_t position) {
         const bool isAdded = event.record->outcome == Outcome::Added;
         if (!isAdded && TakesAway(event)) {
-            Writer writer = ByFeature(event);
-            writer.IsRemoval = true;
-            Win(std::move(writer));
-            m_removedBy = MergeOf(event);
+            if (m_isPresent) {
+                Writer writer = ByFeature(event);
+                writer.IsRemoval = true;
+                Win(std::move(writer));
+                m_removedBy = MergeOf(event);
+            }
             return;
         }
-        if (Row().list != nullptr || IsSetAtOnce(event, position)) {
+        const bool isOfHolder = event.depth + 1 == m_steps.size(); // what holds it comes by an edit of its own
+        if (Row().list != nullptr || (isAdded && !isOfHolder) || IsSetAtOnce(event, position)) {
             return;
         }
         // A Clear resets, and a root that is replaced is emptied; all else is loaded anew.
         const bool isLoaded = event.record->action != Action::Clear && event.depth > 0;
         const zelString text = isLoaded ? TextWhenAbsent(Row()) : DefaultText(Row());
-        const bool isBackAtOnce = isAdded && m_removedBy == MergeOf(event);
-        if ((!isAdded || isBackAtOnce) && m_value != text) {
+        const bool wasPresent = m_isPresent || m_removedBy == MergeOf(event);
+        if (wasPresent && m_value != text) {
             Writer writer = ByFeature(event);
             writer.IsReset = true;
             writer.Value = text;
@@ -296,7 +302,8 @@ private:
     /// What was removed keeps its value here: it may come anew.
     void Win(Writer writer) {
         m_winner = m_writers.size();
-        if (!writer.IsRemoval) {
+        m_isPresent = !writer.IsRemoval;
+        if (m_isPresent) {
             m_value = writer.Value;
             m_removedBy.reset();
         }
@@ -309,7 +316,8 @@ private:
             return false;
         }
         const Event& next = m_events[position + 1];
-        const bool isGiven = next.record->outcome != Outcome::Removed && next.record->outcome != Outcome::Unchanged;
+        const bool isGiven = next.record->outcome != Outcome::Removed && next.record->outcome != Outcome::Unchanged &&
+                             !next.record->isImplied;
         return next.depth == m_steps.size() && isGiven && MergeOf(next) == MergeOf(event);
     }
 
@@ -347,8 +355,8 @@ private:
                     Row().cdata ? CDataOf(*found.document, found.node) : TextOf(*found.document, found.node);
                 writer.Value = TakenText(Row(), text);
             }
-        } else if (isText && isTouched) {
-            return; // nothing stood there
+        } else if (isTouched && (isText || !found.hasHolder)) {
+            return; // nothing was there
         } else {
             writer.Value = TextWhenAbsent(Row());
         }
@@ -363,17 +371,19 @@ private:
     /// Where the value stood in the document that the first entry found.
     BaseNode BaseBefore(const Event& first) {
         const JournalData::Scope& scope = m_journal.ScopeAt(first.record->scope);
-        if (scope.document == 0) {
-            return {};
+        if (scope.document == 0) { // an object that stands on none was there all the same
+            return {nullptr, NodeRef::None, first.depth + 1 >= m_steps.size()};
         }
         const std::shared_ptr<const Document>& document = m_journal.SharedDocument(scope.document);
         NodeRef node{scope.node};
         ChildIndex& children = m_index.ChildrenIn(document);
         const std::size_t begin = first.record->field != 0 ? m_steps.size() - 1 : first.depth;
+        bool hasHolder = false;
         for (std::size_t step = begin; step < m_steps.size() && node != NodeRef::None; ++step) {
+            hasHolder = step + 1 == m_steps.size();
             node = NodeOfStep(*document, children, node, m_steps[step]);
         }
-        return {document, node};
+        return {document, node, hasHolder};
     }
 
     static NodeRef NodeOfStep(const XmlTree& tree, ChildIndex& children, NodeRef node, const Step& step) {
@@ -452,6 +462,7 @@ private:
     std::vector<Writer> m_writers;
     std::size_t m_winner = ~std::size_t{0};
     zelString m_value;                              ///< after the writers so far
+    bool m_isPresent = false;                       ///< after the writers so far
     std::optional<JournalData::Number> m_removedBy; ///< the merge that took it away, while it is gone
 };
 

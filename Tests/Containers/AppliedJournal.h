@@ -1,0 +1,290 @@
+#pragma once
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <set>
+#include <utility>
+
+#include "Containers/EveryClass.h"
+
+#include "Framework/MergeJournal.h"
+
+/// The tree that the entries of a journal make of a base, and who set each of its values. Made from what the entries
+/// say and from the catalogue alone, as literally as can be.
+class AppliedJournal {
+public:
+    /// `made` says which values stand in the document that the object was loaded from.
+    AppliedJournal(TypedDataContainer& object, const Samples::Sample& made) : tree(Samples::Read(object)) {
+        ForEachValue(made, "", [this](const std::string& path, const Samples::FieldSample& field, const std::string&) {
+            if (field.present || field.field.IsList()) {
+                inBase.insert(path);
+            }
+        });
+        ForEachValue(tree, "", [this](const std::string& path, const Samples::FieldSample&, const std::string& text) {
+            base[path] = {inBase.contains(path), text};
+        });
+    }
+
+    void Apply(std::size_t number, const MergeJournal::Entry& edit) {
+        SCOPED_TRACE("entry " + std::to_string(number) + " of " + edit.FeatureID + ": " +
+                     std::string(ActionName(edit.Asked)) + " " + edit.Path + " " +
+                     std::string(OutcomeName(edit.Result)));
+        const Values before = ObjectValues(edit);
+        if (edit.Path.empty()) {
+            ApplyToRoot(edit);
+        } else {
+            ApplyToField(edit);
+        }
+        if (edit.IsContainer) {
+            NoteObject(number, edit, before);
+        } else if (edit.Result != Outcome::Unchanged && edit.Result != Outcome::Moved) {
+            NoteValue(number, edit);
+        }
+    }
+
+    using ValueVisit =
+        std::function<void(const std::string& path, const Samples::FieldSample& field, const std::string& text)>;
+    /// Every scalar and text, with its path.
+    static void ForEachValue(const Samples::Sample& sample, const std::string& above, const ValueVisit& visit) {
+        for (const Samples::FieldSample& field : sample.fields) {
+            const std::string path = above + std::string(field.field.Name());
+            if (field.field.IsScalar()) {
+                visit(path, field, field.text);
+            } else if (field.child != nullptr) {
+                ForEachValue(*field.child, path + "/", visit);
+            }
+            for (std::size_t i = 0; i < field.entries.size(); ++i) {
+                if (const Samples::EntrySample& entry = field.entries[i]; entry.object == nullptr) {
+                    visit(above + Step(field, i), field, entry.text);
+                } else {
+                    ForEachValue(*entry.object, above + Step(field, i) + "/", visit);
+                }
+            }
+        }
+    }
+
+    Samples::Sample tree;
+    std::map<std::string, std::pair<bool, std::string>>
+        base;                                   ///< by path, whether the base document gave it, and its text
+    std::set<std::string> inBase;               ///< paths of values that are as the base document gave them
+    std::map<std::string, std::size_t> writers; ///< by path, the entry that changed it last
+    /// By path, all entries that changed it, removed it or gave it its default back.
+    std::map<std::string, std::vector<std::size_t>> history;
+
+private:
+    using Outcome = MergeJournal::Outcome;
+    using Action = MergeJournal::Action;
+    using Values = std::map<std::string, std::string>;
+
+    static std::string Step(const Samples::FieldSample& field, std::size_t position) {
+        const std::string name(field.field.Name()), keyName(field.field.KeyAttribute());
+        if (field.field.GetForm() != CatalogField::KeyedList) {
+            return name + "[" + std::to_string(position + 1) + "]";
+        }
+        std::string key = field.entries[position].key;
+        if (key.find_first_of("]/\"") != std::string::npos) {
+            for (std::size_t at = key.find('"'); at != std::string::npos; at = key.find('"', at + 2)) {
+                key.insert(at, 1, '"');
+            }
+            key = "\"" + key + "\"";
+        }
+        return name + "[" + keyName + "=" + key + "]";
+    }
+
+    /// What a path leads to. Of an entry that is not there the list, and the step by which it would be found.
+    struct Target {
+        Samples::FieldSample* field = nullptr;
+        std::size_t position = 0;
+        std::string step;
+
+        bool IsThere() const {
+            return field->field.IsList() ? position < field->entries.size()
+                                         : field->field.IsScalar() || field->child != nullptr;
+        }
+        std::string& Text() const { return field->field.IsList() ? field->entries[position].text : field->text; }
+        std::unique_ptr<Samples::Sample>& Object() const {
+            return field->field.IsList() ? field->entries[position].object : field->child;
+        }
+    };
+
+    static Target Find(Samples::Sample& owner, const std::string& path) {
+        for (Samples::FieldSample& field : owner.fields) {
+            const std::string name(field.field.Name());
+            const std::size_t count = field.field.IsList() ? field.entries.size() : 1;
+            for (Target target{&field, 0, name}; target.position < count; ++target.position) {
+                target.step = field.field.IsList() ? Step(field, target.position) : name;
+                if (path == target.step) {
+                    return target;
+                }
+                if (path.starts_with(target.step + "/") && target.Object() != nullptr) {
+                    return Find(*target.Object(), path.substr(target.step.size() + 1));
+                }
+            }
+            if (field.field.IsList() && path.starts_with(name + "[") && path.ends_with(']')) {
+                return {&field, count, path};
+            }
+        }
+        return {};
+    }
+
+    void ApplyToRoot(const MergeJournal::Entry& edit) {
+        EXPECT_TRUE(edit.IsContainer && edit.Field.empty());
+        ASSERT_TRUE((edit.Result == Outcome::Changed && edit.Asked == Action::Clear) ||
+                    (edit.Result == Outcome::Replaced && edit.Asked == Action::Replace));
+        Samples::Reset(tree, edit.Asked == Action::Clear);
+        for (Samples::FieldSample& field : tree.fields) {
+            field.child = edit.Asked == Action::Replace ? nullptr : std::move(field.child);
+        }
+    }
+
+    void ApplyToField(const MergeJournal::Entry& edit) {
+        const Target target = Find(tree, edit.Path);
+        ASSERT_NE(target.field, nullptr) << "there is no such place";
+        EXPECT_EQ(edit.Field, target.field->field.Name());
+        EXPECT_EQ(edit.IsContainer, target.field->field.GetValue() == CatalogField::Container);
+        ASSERT_EQ(target.IsThere(), target.field->field.IsScalar() || edit.Result != Outcome::Added);
+        const bool hadText = !edit.IsContainer && target.IsThere() && edit.Asked != Action::Place;
+        EXPECT_EQ(edit.OldValue, hadText ? target.Text() : std::string());
+        switch (edit.Result) {
+        case Outcome::Added:
+            AddEntry(target);
+            [[fallthrough]];
+        case Outcome::Changed:
+        case Outcome::Replaced:
+            Change(target, edit);
+            break;
+        case Outcome::Removed:
+            EXPECT_EQ(edit.NewValue, "");
+            Remove(target);
+            break;
+        case Outcome::Moved:
+            EXPECT_TRUE(Move(target, edit.NewValue));
+            break;
+        case Outcome::Unchanged:
+            EXPECT_FALSE(edit.Asked == Action::Place ? Move(target, edit.NewValue) : edit.NewValue != edit.OldValue);
+            break;
+        default:
+            ADD_FAILURE() << "there is no problem that would tell why";
+        }
+    }
+
+    static void AddEntry(const Target& target) {
+        if (!target.IsThere() && target.field->field.IsList()) {
+            std::string key = target.step.substr(target.step.find('=') + 1);
+            key.pop_back();
+            for (std::size_t at = key.starts_with('"') ? 0 : std::string::npos; at < key.size();
+                 at = key.find('"', at + 1)) {
+                key.erase(at, 1);
+            }
+            target.field->entries.push_back({target.field->field.KeyAttribute().empty() ? "" : key, {}, nullptr});
+            EXPECT_EQ(Step(*target.field, target.position), target.step);
+        }
+    }
+
+    static void Change(const Target& target, const MergeJournal::Entry& edit) {
+        if (!edit.IsContainer) {
+            EXPECT_TRUE(edit.Result != Outcome::Changed || edit.NewValue != edit.OldValue);
+            target.Text() = edit.NewValue;
+        } else if (edit.Result == Outcome::Changed) {
+            EXPECT_EQ(edit.Asked, Action::Clear);
+            Samples::Reset(*target.Object(), true);
+        } else {
+            target.Object() = NewObject(target.field->field);
+        }
+    }
+
+    static std::unique_ptr<Samples::Sample> NewObject(const CatalogField& field) {
+        const auto object = ContainerCatalog::FindClass(field.ClassName()).Create(false);
+        auto made = std::make_unique<Samples::Sample>(Samples::Read(*object));
+        made->name = field.Name();
+        return made;
+    }
+
+    static void Remove(const Target& target) {
+        if (target.field->field.IsList()) {
+            target.field->entries.erase(target.field->entries.begin() + static_cast<std::ptrdiff_t>(target.position));
+        } else {
+            target.field->child.reset();
+        }
+    }
+
+    /// Whether the entry stands elsewhere now.
+    static bool Move(const Target& target, const std::string& where) {
+        std::vector<Samples::EntrySample>& entries = target.field->entries;
+        Samples::EntrySample entry = std::move(entries[target.position]);
+        Remove(target);
+        const std::string neighbour = where.substr(where.find(' ') + 1);
+        auto to = std::find_if(entries.begin(), entries.end(),
+                               [&](const Samples::EntrySample& each) { return each.key == neighbour; });
+        if (where.starts_with("Before ") || where.starts_with("After ")) {
+            EXPECT_NE(to, entries.end()) << where;
+            to += where.starts_with("After ") && to != entries.end() ? 1 : 0;
+        } else {
+            EXPECT_TRUE(where == "First" || where == "Last") << where;
+            to = where == "First" ? entries.begin() : entries.end();
+        }
+        const std::ptrdiff_t position = to - entries.begin();
+        entries.insert(to, std::move(entry));
+        return position != static_cast<std::ptrdiff_t>(target.position);
+    }
+
+    /// All values that an edit of an object may touch.
+    Values ObjectValues(const MergeJournal::Entry& edit) const {
+        Values values;
+        if (edit.IsContainer && edit.Asked != Action::Place) {
+            ForEachValue(tree, "", [&](const std::string& path, const Samples::FieldSample&, const std::string& text) {
+                if (edit.Path.empty() || path.starts_with(edit.Path + "/")) {
+                    values[path] = text;
+                }
+            });
+        }
+        return values;
+    }
+
+    void NoteValue(std::size_t number, const MergeJournal::Entry& edit) {
+        Forget(edit.Path);
+        if (edit.Result == Outcome::Removed) {
+            history[edit.Path].push_back(number);
+        } else if (edit.Cause.empty()) { // else the override does not name it: it follows from something new
+            NoteWriter(edit.Path, number);
+        }
+    }
+
+    void NoteObject(std::size_t number, const MergeJournal::Entry& edit, const Values& before) {
+        const Values after = ObjectValues(edit);
+        for (const auto& [path, text] : before) {
+            const auto now = after.find(path);
+            if (now == after.end()) {
+                Forget(path);
+                history[path].push_back(number);
+                m_gone[path] = {edit.FeatureID, text};
+            } else if (now->second != text) {
+                NoteWriter(path, number);
+            } else if (edit.Result == Outcome::Replaced) { // in something new, where nobody gave it
+                Forget(path);
+            }
+        }
+        for (const auto& [path, text] : after) {
+            const auto gone = m_gone.find(path);
+            const bool isBack = edit.Result == Outcome::Added && gone != m_gone.end();
+            if (isBack && gone->second.first == edit.FeatureID && gone->second.second != text) {
+                NoteWriter(path, number); // what one feature takes away and brings back without the value is reset
+            }
+        }
+    }
+
+    void Forget(const std::string& path) {
+        inBase.erase(path);
+        writers.erase(path);
+    }
+
+    void NoteWriter(const std::string& path, std::size_t number) {
+        Forget(path);
+        writers[path] = number;
+        history[path].push_back(number);
+    }
+
+    std::map<std::string, std::pair<std::string, std::string>>
+        m_gone; ///< by path, who took the value away, and its text
+};

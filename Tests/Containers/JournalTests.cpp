@@ -1,0 +1,337 @@
+// The journal of merges: its entries alone make the merged tree of the base, and they know who set each value.
+
+#include "Containers/AppliedJournal.h"
+#include "Containers/OverrideWriter.h"
+
+#include "FrameworkDataContainers/FrameworkDataContainers.h"
+
+namespace {
+
+using Action = MergeJournal::Action;
+using Conflict = MergeJournal::Conflict;
+using Entry = MergeJournal::Entry;
+using Outcome = MergeJournal::Outcome;
+using Writer = MergeJournal::Writer;
+
+/// What stands in a text at a place.
+std::string_view At(std::string_view text, const DocumentPlace& place) {
+    for (unsigned int line = 1; line < place.Line && !text.empty(); ++line) {
+        text.remove_prefix(std::min(text.find('\n'), text.size() - 1) + 1);
+    }
+    unsigned int column = 1;
+    while (column < place.Column && !text.empty()) {
+        text.remove_prefix(1);
+        const bool isInside = !text.empty() && (text[0] & 0xC0) == 0x80; // of a code point
+        column += isInside ? 0 : 1;
+    }
+    return text;
+}
+
+/// An edit stands at the element or the attribute of its name; that an attribute is absent stands at the element.
+void ExpectStandsAtItsName(const DocumentPlace& place, const std::string& name, std::string_view text,
+                           bool mayBeAbsent) {
+    const std::string_view there = At(text, place);
+    const bool isElement = there.starts_with("<" + name) && there.find_first_of(" >/", 1) == name.size() + 1;
+    EXPECT_TRUE(place.IsKnown() && (isElement || there.starts_with(name + "=\"") || (mayBeAbsent && there[0] == '<')))
+        << name << " at " << place.Line << ":" << place.Column << " stands " << there.substr(0, 40);
+}
+
+/// A tree into which the overrides of several features are merged, one after the other.
+struct Merges {
+    Merges(CatalogClass which, const std::string& xml) : type(which), object(type.Create(false)), base(xml) {
+        EXPECT_TRUE(LoadText(*object, base)) << object->GetLastError();
+    }
+
+    void Merge(const std::string& feature, const std::string& xml) {
+        overrides[feature] = xml;
+        const MergeJournal::Recording recording(journal);
+        MergeText(*object, feature, xml);
+    }
+
+    CatalogClass type;
+    std::unique_ptr<TypedDataContainer> object;
+    std::string base;
+    std::map<std::string, std::string> overrides;
+    MergeJournal journal;
+};
+
+/// Of one value against what the edits say one after the other.
+void CheckWriters(const Merges& merges, const AppliedJournal& applied, const std::string& path,
+                  const Samples::FieldSample& field, const std::string& text) {
+    SCOPED_TRACE(path);
+    const std::vector<Writer> writers = merges.journal.WritersOf(*merges.object, path);
+    const Writer origin = merges.journal.OriginOf(*merges.object, path);
+    std::vector<std::size_t> entries;
+    for (const Writer& writer : writers) {
+        EXPECT_EQ(writer.Who == Writer::Kind::Feature, writer.Entry.has_value());
+        EXPECT_TRUE(writer.Who == Writer::Kind::Default || writer.Place.IsKnown());
+        if (writer.Entry.has_value()) {
+            const Entry entry = merges.journal.At(*writer.Entry);
+            EXPECT_EQ(writer.FeatureID, entry.FeatureID);
+            EXPECT_TRUE(writer.IsReset || writer.IsRemoval || entry.Path == path) << entry.Path;
+            if (entry.Result != Outcome::Unchanged) {
+                entries.push_back(*writer.Entry);
+            }
+        }
+    }
+    ASSERT_FALSE(writers.empty());
+    const auto base = applied.base.find(path);
+    const bool isOfBase = base != applied.base.end() && base->second.first;
+    EXPECT_EQ(writers[0].Who == Writer::Kind::Base, isOfBase);
+    if (isOfBase) {
+        EXPECT_EQ(writers[0].Value, base->second.second);
+        ExpectStandsAtItsName(writers[0].Place, std::string(field.field.Name()), merges.base, false);
+    }
+    const auto history = applied.history.find(path);
+    EXPECT_EQ(entries, history == applied.history.end() ? std::vector<std::size_t>() : history->second);
+    EXPECT_LE(std::count_if(writers.begin(), writers.end(), [](const Writer& each) { return each.Wins; }), 1);
+    const auto writer = applied.writers.find(path);
+    EXPECT_EQ(origin.Who, writer != applied.writers.end() ? Writer::Kind::Feature
+                          : applied.inBase.contains(path) ? Writer::Kind::Base
+                                                          : Writer::Kind::Default);
+    EXPECT_EQ(origin.Value, text);
+    if (writer != applied.writers.end()) {
+        EXPECT_EQ(origin.Entry, writer->second);
+    }
+}
+
+/// As a text, of which a failure shows what differs.
+std::string Text(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        text += line + "\n";
+    }
+    return text;
+}
+
+TEST(Journal, EntriesMakeTheMergedTreeOfTheBaseAndKnowWhoSetEachValue) {
+    const IssueRecorder quiet;
+    std::set<Outcome> outcomes;
+    std::set<Action> actions;
+    ForEveryClass([&](CatalogClass type) {
+        const std::string name(type.ElementName());
+        for (unsigned seed = 1; seed <= 12 && !testing::Test::HasFailure(); ++seed) {
+            Samples::Random random(seed);
+            const Samples::Sample base = Samples::Make(type, name, random);
+            const bool hasRepeats = seed % 4 == 3;
+            Merges merges(type, hasRepeats ? Samples::ToXmlWithRepeats(base, random)
+                                           : Samples::ToXml(base, random, seed % 2 == 0));
+            for (const CatalogField& field : type.Fields()) {
+                if (seed % 3 == 0 && field.GetForm() == CatalogField::Child) {
+                    field.MakeChild(*merges.object); // one that no document holds
+                }
+            }
+            AppliedJournal applied(*merges.object, base);
+            std::size_t number = 0;
+            for (const std::string feature : {"Night", "Coupons", "Loyalty"}) {
+                SCOPED_TRACE("seed " + std::to_string(seed) + ", feature " + feature);
+                const int firstKey = 1 + static_cast<int>(random() % 3);
+                merges.Merge(feature, OverrideWriter(random).Write(Samples::Make(type, name, random, firstKey)));
+                for (; number < merges.journal.Size(); ++number) {
+                    const Entry entry = merges.journal.At(number);
+                    EXPECT_EQ(entry.FeatureID, feature);
+                    outcomes.insert(entry.Result);
+                    actions.insert(entry.Asked);
+                    if (!entry.Problem.has_value()) {
+                        ExpectStandsAtItsName(entry.Place, entry.Path.empty() ? name : std::string(entry.Field),
+                                              merges.overrides[feature], entry.Result == Outcome::Changed);
+                        applied.Apply(number, entry);
+                    }
+                }
+                ASSERT_EQ(Text(Samples::Lines(applied.tree)), Text(Samples::Lines(*merges.object)));
+                ASSERT_FALSE(testing::Test::HasFailure()) << merges.base << merges.overrides[feature];
+            }
+            EXPECT_TRUE(merges.journal.IsComplete());
+            std::size_t turn = seed;
+            AppliedJournal::ForEachValue(applied.tree, "", [&](const auto& path, const auto& field, const auto& text) {
+                if (!hasRepeats && turn++ % 8 == 0) {
+                    CheckWriters(merges, applied, path, field, text);
+                }
+            });
+        }
+    });
+    EXPECT_EQ(outcomes.size(), 8U); // all there are
+    EXPECT_EQ(actions.size(), 6U);
+}
+
+/// Everything about the entries but their places and their order: a DOM has attributes in an order of its own.
+std::vector<std::string> Described(const MergeJournal& journal) {
+    std::vector<std::string> entries;
+    for (std::size_t i = 0; i < journal.Size(); ++i) {
+        const Entry entry = journal.At(i);
+        entries.push_back(entry.FeatureID + "|" + std::string(ActionName(entry.Asked)) + "|" + entry.Path + "|" +
+                          entry.Field + "|" + std::string(OutcomeName(entry.Result)) + "|" + entry.OldValue + "|" +
+                          entry.NewValue + "|" + entry.Cause);
+        if (entry.Problem.has_value()) {
+            entries.back() += "|" + std::string(FindingName(entry.Problem->Code)) + "|" + entry.Problem->Text;
+        }
+    }
+    std::sort(entries.begin(), entries.end());
+    return entries;
+}
+
+TEST(Journal, OfADomHasTheSameEntriesWithoutPlaces) {
+    ForEveryClass([](CatalogClass type) {
+        Samples::Random random(7);
+        const std::string name(type.ElementName());
+        const std::string base = SampleText(type, 7);
+        const std::string text = OverrideWriter(random).Write(Samples::Make(type, name, random, 2));
+        Merges fromText(type, base), fromDom(type, base);
+        fromText.Merge("Night", text);
+        {
+            XMLDataWrapper dom;
+            ASSERT_TRUE(dom.LoadXMLText(text, false));
+            const IssueRecorder quiet;
+            const MergeJournal::Recording recording(fromDom.journal);
+            fromDom.object->MergeFromDOMNode(nullptr, "Night", dom.GetDOMNode(true, false));
+        }
+        EXPECT_EQ(Text(Described(fromDom.journal)), Text(Described(fromText.journal)));
+        for (std::size_t i = 0; i < fromDom.journal.Size(); ++i) {
+            EXPECT_FALSE(fromDom.journal.At(i).Place.IsKnown());
+        }
+    });
+}
+
+/// Of values that stand twice the last counts.
+const char* const threads =
+    "<LoadConfig>\n<ThreadChildList UniqueName='L'>\n<ChildThread UniqueName='A'><LibraryPath>x</LibraryPath>"
+    "<LibraryPath>a</LibraryPath></ChildThread>\n<ChildThread UniqueName='B'/></ThreadChildList></LoadConfig>";
+
+std::string Thread(const std::string& words, const std::string& path = "") {
+    const std::string inside = path.empty() ? "" : "<LibraryPath>" + path + "</LibraryPath>";
+    return "<LoadConfig><ThreadChildList UniqueName='L'>\n<ChildThread UniqueName=" + words + ">" + inside +
+           "</ChildThread></ThreadChildList></LoadConfig>";
+}
+
+/// "Day LibraryPath", with the key for an object: "Day A".
+std::string Named(const MergeJournal& journal, std::size_t number) {
+    const Entry entry = journal.At(number);
+    const std::string path = entry.Path, key = path.substr(path.find_last_of('=') + 1);
+    return entry.FeatureID + " " + (path.ends_with(']') ? key.substr(0, key.size() - 1) : std::string(entry.Field));
+}
+
+std::set<std::string> DisputesIn(const MergeJournal& journal) {
+    std::set<std::string> disputes;
+    for (const Conflict& conflict : journal.Conflicts()) {
+        const char* const kinds[] = {"both give: ", "gone: ", "back: "};
+        disputes.insert(kinds[static_cast<int>(conflict.What)] + Named(journal, conflict.First) + ", " +
+                        Named(journal, conflict.Second));
+    }
+    for (const MergeJournal::Lost& edit : journal.WithoutEffect()) {
+        disputes.insert("lost: " + Named(journal, edit.Entry) +
+                        (edit.By.has_value() ? ", " + Named(journal, *edit.By) : std::string()));
+    }
+    return disputes;
+}
+
+TEST(Journal, TellsConflictsAndEditsWithoutEffect) {
+    using Override = std::pair<const char*, std::string>;
+    const auto edit = [](const char* feature, const char* value) { return Override(feature, Thread("'A'", value)); };
+    const auto order = [](const char* feature, const std::string& words) {
+        return Override(feature, Thread("'A' " + words));
+    };
+    const struct {
+        std::vector<Override> overrides;
+        std::set<std::string> disputes;
+    } cases[] = {
+        {{edit("Day", "d"), edit("Night", "n"), edit("Late", "l")},
+         {"both give: Day LibraryPath, Night LibraryPath", "lost: Day LibraryPath, Night LibraryPath",
+          "both give: Night LibraryPath, Late LibraryPath", "lost: Night LibraryPath, Late LibraryPath"}},
+        {{edit("Day", "d"), edit("Day", "n")}, {}},
+        {{edit("Day", "d"), edit("Night", "d")}, {"lost: Night LibraryPath"}},
+        {{edit("Day", "a")}, {"lost: Day LibraryPath"}}, // the base has it
+        {{edit("Day", "d"), {"Night", Thread("'B'", "n")}}, {}},
+        {{edit("Day", "d"), order("Night", "MergeAction='Remove'")},
+         {"gone: Day LibraryPath, Night A", "lost: Day LibraryPath, Night A"}},
+        {{edit("Day", "d"), order("Night", "MergeAction='Replace'")},
+         {"gone: Day LibraryPath, Night A", "lost: Day LibraryPath, Night A"}},
+        {{edit("Day", "d"), order("Night", "MergeAction='Clear'")},
+         {"gone: Day LibraryPath, Night A", "lost: Day LibraryPath, Night A"}},
+        {{order("Day", "ConfigValue='c'"), order("Night", "MergeAction='Clear'")}, {}}, // attributes stay
+        {{order("Day", "MergeAction='Remove'"), order("Night", "")}, {"back: Day A, Night A", "lost: Day A, Night A"}},
+        {{order("Day", "PlacementOrder='Last'"), order("Night", "PlacementOrder='First'")},
+         {"both give: Day A, Night A", "lost: Day A, Night A"}},
+        {{order("Day", "MergeAction='Add'"), {"Night", Thread("'X' MergeAction='Clear'")}},
+         {"lost: Day A", "lost: Night X"}}, // refused
+    };
+    for (const auto& each : cases) {
+        Merges merges(ContainerCatalog::FindRoot("LoadConfig"), threads);
+        for (const auto& [feature, xml] : each.overrides) {
+            merges.Merge(feature, xml);
+        }
+        EXPECT_EQ(DisputesIn(merges.journal), each.disputes) << each.overrides.back().second;
+    }
+}
+
+TEST(Journal, PathsQuoteKeysThatWouldNotReadBack) {
+    for (const auto& [key, step] : std::map<std::string, std::string>{
+             {"a b=c", "a b=c"}, {"a/b", "\"a/b\""}, {"a]b", "\"a]b\""}, {"\"", "\"\"\"\""}, {"", ""}}) {
+        Merges merges(ContainerCatalog::FindRoot("LoadConfig"), threads);
+        merges.Merge("Day", Thread("\"" + Samples::Escaped(key) + "\"", "d"));
+        const std::string path = "ThreadChildList[UniqueName=L]/ChildThread[UniqueName=" + step + "]";
+        EXPECT_EQ(merges.journal.At(0).Path, path);
+        EXPECT_EQ(merges.journal.OriginOf(*merges.object, path + "/LibraryPath").FeatureID, "Day") << path;
+    }
+}
+
+TEST(Journal, WritersOfAValueTellItsWholeStory) {
+    Merges merges(ContainerCatalog::FindRoot("LoadConfig"), threads);
+    const zelString path = "ThreadChildList[UniqueName=L]/ChildThread[UniqueName=A]/LibraryPath";
+    merges.Merge("Day", Thread("'A'", "d"));
+    merges.Merge("Night", Thread("'A' MergeAction='Remove'"));
+    merges.Merge("Late", Thread("'A'", "l"));
+    merges.Merge("Last", Thread("'A' MergeAction='Clear'"));
+    const std::vector<Writer> writers = merges.journal.WritersOf(*merges.object, path);
+    ASSERT_EQ(writers.size(), 5U);
+    EXPECT_EQ(writers[0].Who, Writer::Kind::Base);
+    EXPECT_EQ(writers[0].Value, "a");
+    EXPECT_TRUE(At(threads, writers[0].Place).starts_with("<LibraryPath>a"));
+    EXPECT_EQ(writers[1].FeatureID, "Day");
+    EXPECT_EQ(writers[1].Value, "d");
+    EXPECT_TRUE(writers[2].IsRemoval && !writers[1].IsRemoval);
+    EXPECT_EQ(writers[3].Value, "l");
+    EXPECT_TRUE(writers[4].IsReset && writers[4].Wins && !writers[3].Wins && !writers[3].IsReset);
+    EXPECT_EQ(writers[4].Place.Line, 2U);
+    merges.Merge("End", Thread("'A' MergeAction='Remove'"));
+    const std::vector<Writer> gone = merges.journal.WritersOf(*merges.object, path);
+    ASSERT_EQ(gone.size(), 6U); // it was in the tree
+    EXPECT_TRUE(gone[5].IsRemoval);
+    for (const char* const none :
+         {"", "ThreadChildList[UniqueName=L]", "Nothing", "ThreadChildList[UniqueName=X]/UniqueName",
+          "ThreadChildList[UniqueName=", "ThreadChildList[1]/UniqueName/"}) {
+        EXPECT_TRUE(merges.journal.WritersOf(*merges.object, none).empty()) << none;
+    }
+}
+
+TEST(Journal, RecordsWhatIsMergedWhileItIsInstalledAndOnlyThat) {
+    Merges merges(ContainerCatalog::FindRoot("LoadConfig"), threads);
+    merges.Merge("Day", Thread("'A'", "d"));
+    const std::size_t size = merges.journal.Size();
+    ASSERT_GT(size, 0U);
+    MergeJournal inner;
+    {
+        const MergeJournal::Recording outer(merges.journal);
+        {
+            const MergeJournal::Recording recording(inner);
+            ASSERT_TRUE(MergeText(*merges.object, "Night", Thread("'A'", "n")));
+        }
+        EXPECT_EQ(merges.journal.Size(), size);
+        ASSERT_TRUE(MergeText(*merges.object, "Night", Thread("'C'", "c")));
+    }
+    ASSERT_TRUE(MergeText(*merges.object, "Late", Thread("'A'", "l")));
+    const std::vector<std::size_t> added = merges.journal.EntriesOf("Night");
+    EXPECT_EQ(added.size(), merges.journal.Size() - size);
+    ASSERT_FALSE(added.empty());
+    EXPECT_EQ(added[0], size);
+    EXPECT_EQ(merges.journal.EntriesOf("Day").size(), size);
+    EXPECT_TRUE(merges.journal.EntriesOf("Late").empty());
+    ASSERT_GT(inner.Size(), 0U);
+    EXPECT_EQ(inner.EntriesOf("Night").size(), inner.Size());
+    EXPECT_EQ(inner.At(inner.Size()).Path, "");
+    inner.Clear();
+    EXPECT_EQ(inner.Size(), 0U);
+    EXPECT_EQ(inner.At(0).NewValue, "");
+    EXPECT_TRUE(inner.IsComplete());
+}
+
+} // namespace
