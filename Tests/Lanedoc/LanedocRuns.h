@@ -1,5 +1,7 @@
 #pragma once
 
+#include <regex>
+
 #include "Commands.h"
 
 /// Runs the tool in a folder of its own, by shell, so that cases can redirect as people do.
@@ -33,6 +35,11 @@ protected:
     }
 
     static bool Holds(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
+
+    /// Messages without the lines that they quote.
+    static std::string WithoutExcerpts(const std::string& messages) {
+        return std::regex_replace(messages, std::regex("(^|\n) +[0-9]* \\| [^\n]*(?=\n)"), "");
+    }
 
 private:
     const Framework::TemporaryFolder m_folder;

@@ -17,6 +17,9 @@ struct Request {
 
 // Each adds its command to the tool; chosen, the command leaves its work in `request.run`.
 void AddMergeCommand(CLI::App& tool, Request& request);
+void AddPlanCommand(CLI::App& tool, Request& request);
+void AddExplainCommand(CLI::App& tool, Request& request);
+void AddBlameCommand(CLI::App& tool, Request& request);
 void AddShowCommand(CLI::App& tool, Request& request);
 void AddGetCommand(CLI::App& tool, Request& request);
 void AddSetCommand(CLI::App& tool, Request& request);

@@ -1,9 +1,23 @@
 #include "IssueLog.h"
 
-#include "Output.h"
-#include "Source.h"
+#include <utility>
 
 namespace Lanedoc {
+
+namespace {
+
+Message MessageOfIssue(const OverrideIssue& issue, Severity severity, const std::string& documentName) {
+    Message message;
+    message.severity = severity;
+    message.code = FindingName(FindingCode::OtherIssue);
+    message.place.File = documentName;
+    message.place.Line = issue.Line;
+    message.place.Column = issue.Column;
+    message.text = "in " + issue.ContainerName + ": " + issue.ErrorText;
+    return message;
+}
+
+} // namespace
 
 IssueLog::IssueLog() {
     const auto keep = [](void* context, const OverrideIssue& issue) {
@@ -16,32 +30,12 @@ IssueLog::~IssueLog() {
     TypedDataContainer::SetOverrideIssueHandler(nullptr, nullptr);
 }
 
-std::vector<std::string> IssueLog::Texts() const {
-    std::vector<std::string> texts;
-    for (const OverrideIssue& issue : m_issues) {
-        const std::string place =
-            issue.Line == 0 ? "" : std::to_string(issue.Line) + ":" + std::to_string(issue.Column) + ": ";
-        texts.push_back(place + issue.ErrorText);
+std::vector<Message> IssueLog::TakeMessages(Severity severity, const std::string& documentName) {
+    std::vector<Message> messages;
+    for (const OverrideIssue& issue : std::exchange(m_issues, {})) {
+        messages.push_back(MessageOfIssue(issue, severity, documentName));
     }
-    return texts;
-}
-
-void IssueLog::Report(const std::string& severity, const std::string& documentName, std::size_t most) {
-    std::size_t told = 0;
-    for (const OverrideIssue& issue : m_issues) {
-        if (most > 0 && told == most) {
-            Say(Printable(documentName + ": " + severity + ": and " + std::to_string(m_issues.size() - told) +
-                          " more"));
-            break;
-        }
-        ++told;
-        const std::string text = "in " + issue.ContainerName + ": " + issue.ErrorText;
-        const std::string place =
-            issue.Line == 0 ? ""
-                            : issue.File + ":" + std::to_string(issue.Line) + ":" + std::to_string(issue.Column) + ": ";
-        Say(WithSeverity(place + text, severity, documentName));
-    }
-    Forget();
+    return messages;
 }
 
 } // namespace Lanedoc

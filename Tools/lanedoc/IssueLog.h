@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "Framework/TypedDataContainer.h"
+#include "Message.h"
 
 namespace Lanedoc {
 
@@ -15,13 +16,8 @@ public:
     IssueLog(const IssueLog&) = delete;
     IssueLog& operator=(const IssueLog&) = delete;
 
-    std::size_t Count() const { return m_issues.size(); }
-    void Forget() { m_issues.clear(); }
-    /// What was refused, each as `line:column: text`.
-    std::vector<std::string> Texts() const;
-    /// Prints them as `file:line:col: severity: text` and forgets them; issues without a place get the document's name.
-    /// Behind `most` lines, 0 for all, only their number is told.
-    void Report(const std::string& severity, const std::string& documentName, std::size_t most = 0);
+    /// What was reported since the last call. `documentName` stands for the document where the report has no place.
+    std::vector<Message> TakeMessages(Severity severity, const std::string& documentName);
 
 private:
     std::vector<OverrideIssue> m_issues;

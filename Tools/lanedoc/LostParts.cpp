@@ -6,6 +6,7 @@
 #include <unordered_map>
 
 #include "DocumentText.h"
+#include "MarkupScan.h"
 #include "NearestName.h"
 
 namespace Lanedoc {
@@ -49,20 +50,13 @@ private:
     std::size_t m_column = 1;
 };
 
-class DocumentScan {
+class DocumentScan : private MarkupHandler {
 public:
     DocumentScan(std::string_view text, CatalogClass root) : m_text(text), m_place(text), m_root(ShapeOf(root)) {}
 
     std::vector<LostPart> Run() {
-        std::size_t at = 0;
-        while (true) {
-            const std::size_t markup = std::min(m_text.find('<', at), m_text.size());
-            TakeText(at, markup);
-            if (markup == m_text.size()) {
-                return std::move(m_parts);
-            }
-            at = TakeMarkup(markup);
-        }
+        ScanMarkup(m_text, *this);
+        return std::move(m_parts);
     }
 
 private:
@@ -112,7 +106,7 @@ private:
         ++m_parts[known->second].count;
     }
 
-    void TakeText(std::size_t begin, std::size_t end) {
+    void Text(std::size_t begin, std::size_t end) override {
         if (m_open.empty() || IsInUnknown() || !m_open.back().shape->container) {
             return;
         }
@@ -122,33 +116,8 @@ private:
         }
     }
 
-    /// Takes what begins at a "<", and returns where it ends.
-    std::size_t TakeMarkup(std::size_t at) {
-        const std::string_view rest = m_text.substr(at);
-        if (rest.starts_with("<!--")) {
-            NoteAside(LostPart::Kind::Comment, at);
-            return EndOf("-->", at + 4);
-        }
-        if (rest.starts_with("<![CDATA[")) {
-            const std::size_t end = EndOf("]]>", at + 9);
-            TakeText(at + 9, end - 3);
-            return end;
-        }
-        if (rest.starts_with("<?")) {
-            const bool isDeclaration = rest.starts_with("<?xml") && rest.find_first_of(blanks) == 5;
-            if (!isDeclaration) {
-                NoteAside(LostPart::Kind::Instruction, at);
-            }
-            return EndOf("?>", at + 2);
-        }
-        if (rest.starts_with("</")) {
-            if (!m_open.empty()) {
-                m_open.pop_back();
-            }
-            return EndOf(">", at + 2);
-        }
-        return TakeStartTag(at);
-    }
+    void Comment(std::size_t at) override { NoteAside(LostPart::Kind::Comment, at); }
+    void Instruction(std::size_t at) override { NoteAside(LostPart::Kind::Instruction, at); }
 
     void NoteAside(LostPart::Kind kind, std::size_t at) {
         if (!IsInUnknown()) {
@@ -156,40 +125,31 @@ private:
         }
     }
 
-    std::size_t EndOf(std::string_view mark, std::size_t from) const {
-        const std::size_t found = m_text.find(mark, from);
-        return found == std::string_view::npos ? m_text.size() : found + mark.size();
-    }
-
-    std::size_t TakeStartTag(std::size_t at) {
-        const std::size_t nameEnd = std::min(m_text.find_first_of(" \t\r\n/>", at), m_text.size());
-        Open element{nullptr, m_text.substr(at + 1, nameEnd - at - 1)};
+    void StartTag(const ScannedTag& tag) override {
+        Open element{nullptr, tag.name};
         if (m_open.empty()) {
             element.shape = m_root;
         } else if (const Shape* const parent = m_open.back().shape; parent != nullptr) {
             const auto found = parent->elements.find(element.name);
             element.shape = found == parent->elements.end() ? nullptr : found->second;
             if (element.shape == nullptr) {
-                Note(LostPart::Kind::Element, element.name, &m_open.back(), at);
+                Note(LostPart::Kind::Element, element.name, &m_open.back(), tag.at);
             }
         }
-        std::size_t end = m_text.find_first_not_of(blanks, nameEnd);
-        while (end < m_text.size() && m_text[end] != '>' && m_text[end] != '/') {
-            const std::size_t equals = std::min(m_text.find('=', end), m_text.size());
-            const std::string_view name = m_text.substr(end, m_text.find_first_of(" \t\r\n=", end) - end);
-            if (element.shape != nullptr && !IsKnown(name, *element.shape)) {
-                Note(LostPart::Kind::Attribute, name, &element, at);
+        for (const ScannedTag::Attribute& attribute : tag.attributes) {
+            if (element.shape != nullptr && !IsKnown(attribute.name, *element.shape)) {
+                Note(LostPart::Kind::Attribute, attribute.name, &element, attribute.at);
             }
-            const std::size_t quote = std::min(m_text.find_first_of("\"'", equals), m_text.size() - 1);
-            end = std::min(m_text.find_first_not_of(blanks, EndOf(m_text.substr(quote, 1), quote + 1)), m_text.size());
         }
-        if (end >= m_text.size()) {
-            return m_text.size();
-        }
-        if (m_text[end] == '>') {
+        if (!tag.isEmpty) {
             m_open.push_back(element);
         }
-        return EndOf(">", end);
+    }
+
+    void EndTag() override {
+        if (!m_open.empty()) {
+            m_open.pop_back();
+        }
     }
 
     static bool IsKnown(std::string_view attribute, const Shape& shape) {

@@ -19,7 +19,7 @@ struct LostPart {
     std::string owner;             ///< the element in which it stands; empty for comments and instructions
     std::vector<std::string> near; ///< names of fields that may have been meant
     std::size_t count = 0;
-    std::size_t line = 0;   ///< of the first, from 1; those of an attribute are its element's
+    std::size_t line = 0;   ///< of the first, from 1
     std::size_t column = 0; ///< in characters, from 1
 };
 

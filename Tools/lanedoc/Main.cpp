@@ -12,6 +12,7 @@ namespace {
 
 constexpr const char* footer = R"(Examples:
   lanedoc merge StateProcessingRoot.xml Coupons=coupons.xml -o merged.xml --summary
+  lanedoc explain StateProcessingRoot.xml coupons.xml night.xml --path 'StateTable/State[Name=Scan]/BaseState'
   lanedoc show StateProcessingRoot.xml 'StateTable/State[Name=Scan]'
   lanedoc get StateProcessingRoot.xml StateTable/InitialState
   lanedoc set StateProcessingRoot.xml StateTable/InitialState=Attract --in-place --diff
@@ -42,6 +43,9 @@ void Describe(CLI::App& tool, Request& request) {
     tool.require_subcommand(1);
     tool.fallthrough();
     AddMergeCommand(tool, request);
+    AddPlanCommand(tool, request);
+    AddExplainCommand(tool, request);
+    AddBlameCommand(tool, request);
     AddShowCommand(tool, request);
     AddGetCommand(tool, request);
     AddSetCommand(tool, request);

@@ -2,35 +2,17 @@
 
 #include "NearestName.h"
 #include "Output.h"
-#include "Source.h"
+#include "Place.h"
 
 namespace Lanedoc {
 
 namespace {
-
-/// Texts that the library was given have a name of its own for their file.
-DocumentPlace AsNamed(DocumentPlace place) {
-    if (place.File == nameOfTexts) {
-        place.File = std::string(nameOfInput);
-    }
-    return place;
-}
 
 std::string HelpOf(const Finding& finding) {
     if (!finding.Near.empty()) {
         return HelpWith({finding.Near.begin(), finding.Near.end()});
     }
     return finding.Code == FindingCode::TargetExists ? R"(MergeAction="Merge" changes what is there already)" : "";
-}
-
-Json JsonOf(const DocumentPlace& place) {
-    const auto known = [](unsigned int number) { return number == 0 ? Json() : Json(number); };
-    Json json;
-    json["file"] = place.File.empty() ? Json() : Json(static_cast<const std::string&>(place.File));
-    json["line"] = known(place.Line);
-    json["column"] = known(place.Column);
-    json["length"] = known(place.Length);
-    return json;
 }
 
 } // namespace

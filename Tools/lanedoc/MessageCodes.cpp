@@ -18,9 +18,11 @@ std::vector<MessageCode> AllMessageCodes() {
             {Codes::unknownRoot, Severity::Error, "No class of the library has this root element."},
             {Codes::otherRoot, Severity::Error, "The root element of an override is not that of the base."},
             {Codes::danglingName, Severity::Warning, "A value names something that the document does not have."},
+            {Codes::lostComment, Severity::Warning, "A comment of the base will not be in the merged document."},
+            {Codes::lostInstruction, Severity::Warning,
+             "A processing instruction of the base will not be in the merged document."},
             {Codes::conflict, Severity::Warning,
              "Two features give one value differently, or one removes what another edits."},
-            {Codes::noEffect, Severity::Warning, "An edit changes nothing, or a later feature undoes it."},
         });
     return codes;
 }

@@ -21,8 +21,9 @@ constexpr std::string_view notWellFormed = "not-well-formed";
 constexpr std::string_view unknownRoot = "unknown-root";
 constexpr std::string_view otherRoot = "other-root";
 constexpr std::string_view danglingName = "dangling-name";
+constexpr std::string_view lostComment = "lost-comment";
+constexpr std::string_view lostInstruction = "lost-instruction";
 constexpr std::string_view conflict = "conflict";
-constexpr std::string_view noEffect = "no-effect";
 } // namespace Codes
 
 /// All codes, the library's first.

@@ -44,6 +44,21 @@ int WriteAll(int descriptor, std::string_view data) {
     throw Failure(ExitCode::OutputFailed, what + ": " + std::generic_category().message(error));
 }
 
+void WriteTo(const std::string& path, int flags, std::string_view data) {
+    constexpr mode_t forAll = 0666;
+    const int descriptor = ::open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY, forAll);
+    if (descriptor < 0) {
+        FailOutput(errno, Printable(path) + ": error: cannot write");
+    }
+    int error = WriteAll(descriptor, data);
+    if (::close(descriptor) != 0 && error == 0 && errno != EINTR) {
+        error = errno;
+    }
+    if (error != 0) {
+        FailOutput(error, Printable(path) + ": error: cannot write");
+    }
+}
+
 constexpr const char* standardOutputFails = "lanedoc: error: cannot write to standard output";
 
 bool IsContinuation(char byte) {
@@ -94,17 +109,11 @@ void WriteOutput(std::string_view data) {
 }
 
 void WriteToDevice(const std::string& path, std::string_view data) {
-    const int descriptor = ::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
-    if (descriptor < 0) {
-        FailOutput(errno, Printable(path) + ": error: cannot write");
-    }
-    int error = WriteAll(descriptor, data);
-    if (::close(descriptor) != 0 && error == 0 && errno != EINTR) {
-        error = errno;
-    }
-    if (error != 0) {
-        FailOutput(error, Printable(path) + ": error: cannot write");
-    }
+    WriteTo(path, O_WRONLY, data);
+}
+
+void WriteFile(const std::string& path, std::string_view data) {
+    WriteTo(path, O_WRONLY | O_CREAT | O_TRUNC, data);
 }
 
 void CloseOutput() {

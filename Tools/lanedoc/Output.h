@@ -35,6 +35,9 @@ Style StyleOfErrors(ColorMode mode);
 void WriteOutput(std::string_view data);
 /// Writes data to something that is there and is no regular file, a device or a pipe; throws a Failure.
 void WriteToDevice(const std::string& path, std::string_view data);
+/// Writes a file, which is made when it is not there and written over when it is; throws a Failure. Not for documents:
+/// those are replaced as a whole or not at all.
+void WriteFile(const std::string& path, std::string_view data);
 /// Closes standard output, where a full disk may show only now; throws a Failure.
 void CloseOutput();
 

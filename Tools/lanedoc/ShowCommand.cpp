@@ -1,6 +1,7 @@
 #include <memory>
 
 #include "Commands.h"
+#include "FormatOption.h"
 #include "Source.h"
 #include "TreeJson.h"
 #include "TreeText.h"
@@ -34,9 +35,7 @@ void AddShowCommand(CLI::App& tool, Request& request) {
     const auto options = std::make_shared<ShowOptions>();
     command->add_option("FILE", options->file, "The document, \"-\" for standard input")->required();
     command->add_option("PATH", options->path, "The part to show; all of it when left out");
-    command->add_option("--format", options->format, "text (default) or json")
-        ->type_name("FORMAT")
-        ->check(CLI::IsMember({"text", "json"}).description(""));
+    AddFormatOption(*command, options->format);
     command->add_flag("--no-defaults", options->noDefaults, "Leave out the values that are only defaults");
     command->footer(R"(Examples:
   lanedoc show LoadConfig.xml

@@ -76,12 +76,6 @@ DocumentPlace Source::PlaceOfRoot() const {
     return {m_name, number(m_root.line), number(m_root.column), number(Width(m_root.name) + 1)};
 }
 
-std::string Source::RootPlace() const {
-    std::string place = PlaceText(PlaceOfRoot());
-    place.pop_back();
-    return place;
-}
-
 std::string Source::Feature() {
     if (m_document.NodeExists("@FeatureID", false)) {
         return m_document.GetStringValue("@FeatureID", false);

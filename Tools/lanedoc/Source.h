@@ -31,8 +31,6 @@ public:
     const std::string& RootName() const { return m_root.name; }
     /// Where the root element begins.
     DocumentPlace PlaceOfRoot() const;
-    /// `file:line:col` of the root element.
-    std::string RootPlace() const;
     /// The root's FeatureID attribute, else the file's stem; "stdin" for standard input.
     std::string Feature();
     /// The class of the root element; throws a Failure that names the nearest ones when there is none.

@@ -1,0 +1,338 @@
+#include <map>
+#include <optional>
+#include <set>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "Containers/Examples.h"
+#include "LanedocRuns.h"
+
+namespace {
+
+using Json = nlohmann::json;
+using Values = std::map<std::string, std::string>; // by path
+
+std::string Step(const CatalogField& list, TypedDataContainer& object, std::size_t position) {
+    if (list.GetForm() != CatalogField::KeyedList) {
+        return std::string(list.Name()) + "[" + std::to_string(position + 1) + "]";
+    }
+    std::string key = list.EntryKey(object, position);
+    if (key.find_first_of("]/\"") != std::string::npos) {
+        key = "\"" + std::regex_replace(key, std::regex("\""), "\"\"") + "\"";
+    }
+    return std::string(list.Name()) + "[" + std::string(list.KeyAttribute()) + "=" + key + "]";
+}
+
+void Collect(TypedDataContainer& object, const std::string& path, Values& values) {
+    for (const CatalogField& field : ContainerCatalog::ClassOf(object).Fields()) {
+        const std::string below = path + (path.empty() ? "" : "/");
+        if (field.IsScalar()) {
+            values[below + std::string(field.Name())] = field.GetText(object);
+        } else if (TypedDataContainer* const child = field.GetChild(object)) {
+            Collect(*child, below + std::string(field.Name()), values);
+        }
+        for (std::size_t i = 0; i < field.Length(object); ++i) {
+            const std::string entry = below + Step(field, object, i);
+            if (TypedDataContainer* const container = field.Entry(object, i)) {
+                Collect(*container, entry, values);
+            } else {
+                values[entry] = field.EntryText(object, i);
+            }
+        }
+    }
+}
+
+/// What a value was after the base and after each override; nothing where it was not there.
+using Course = std::vector<std::optional<std::string>>;
+
+/// By merging one more override each time, and looking.
+std::map<std::string, Course> CoursesOf(CatalogClass type, const Example& example) {
+    const std::size_t count = example.overrides.size() + 1;
+    std::map<std::string, Course> courses;
+    for (std::size_t merged = 0; merged < count; ++merged) {
+        const std::unique_ptr<TypedDataContainer> tree = type.Create(false);
+        EXPECT_TRUE(tree->LoadFromFile(nullptr, example.document.c_str(), false));
+        for (std::size_t i = 0; i < merged; ++i) {
+            EXPECT_TRUE(tree->MergeFromFile(nullptr, example.overrides[i].c_str()));
+        }
+        Values values;
+        Collect(*tree, {}, values);
+        for (const auto& [path, text] : values) {
+            courses.try_emplace(path, count).first->second[merged] = text;
+        }
+    }
+    return courses;
+}
+
+/// The number of the merge after which the value is what it is, 0 for the base.
+std::size_t LastChange(const Course& course) {
+    std::size_t last = course.size() - 1;
+    while (last > 0 && course[last] == course[last - 1]) {
+        --last;
+    }
+    return last;
+}
+
+/// The text of a document from a place on.
+std::string TextAt(const Json& place) {
+    std::istringstream document(Framework::ReadText(place.at("file").get<std::string>()));
+    std::string line;
+    for (int number = place.at("line"); number > 0; --number) {
+        std::getline(document, line);
+    }
+    std::size_t at = 0;
+    for (int column = place.at("column"); column > 1; --column) {
+        do {
+            ++at;
+        } while (at < line.size() && (static_cast<unsigned char>(line[at]) & 0xC0U) == 0x80U);
+    }
+    return line.substr(std::min(at, line.size()));
+}
+
+class LanedocExplain : public LanedocRuns {
+protected:
+    void SetUp() override {
+        LanedocRuns::SetUp();
+        Put("base.xml", Table("<State Name='A' BaseState='X'><Doc>one</Doc></State><State Name='B'/>"));
+        Put("day.xml", Table("<State Name='A' BaseState='Y'/><State Name='C' BaseState='Q' Transient='true'/>"));
+        Put("night.xml", Table("<State Name='A' BaseState='Z'/>\n<State Name='C' MergeAction='Remove'/>"));
+        Put("bad.xml", Table("<State Name='A' MergeAction='Add'/>\n<State Name='Z' MergeAction='Remove'/>"));
+    }
+
+    static std::string Table(const std::string& states) {
+        return "<StateProcessingRoot>\n<StateTable>\n" + states + "\n</StateTable></StateProcessingRoot>\n";
+    }
+
+    static std::string ArgumentsOf(const Example& example) {
+        std::string arguments = Framework::Quoted(example.document);
+        for (const std::filesystem::path& change : example.overrides) {
+            arguments += " " + Framework::Quoted(change);
+        }
+        return arguments;
+    }
+
+    static Json RunJson(const std::string& arguments) {
+        const Result result = Run(arguments);
+        EXPECT_EQ(result.errors, "") << arguments;
+        Json json = Json::parse(result.out, nullptr, false);
+        EXPECT_EQ(json.value("format", 0), 1) << arguments;
+        return json;
+    }
+};
+
+/// Number of the override that a place is in, 0 for the base and for no place.
+std::size_t MergeOf(const Json& place, const Example& example) {
+    const auto found = std::find_if(example.overrides.begin(), example.overrides.end(),
+                                    [&](const auto& change) { return place.at("file") == Json(change.string()); });
+    return found == example.overrides.end() ? 0 : static_cast<std::size_t>(found - example.overrides.begin()) + 1;
+}
+
+TEST_F(LanedocExplain, BlamesWhoeverMadeAValueWhatItIs) {
+    std::size_t byFeatures = 0;
+    ForEveryExample([&](CatalogClass type, const Example& example) {
+        const std::map<std::string, Course> courses = CoursesOf(type, example);
+        std::size_t blamed = 0;
+        const Json blame = RunJson("blame --quiet --format json " + ArgumentsOf(example));
+        for (const Json& value : blame.at("values")) {
+            const std::string path = value.at("path");
+            SCOPED_TRACE(path);
+            ++blamed;
+            ASSERT_TRUE(courses.contains(path));
+            const Course& course = courses.at(path);
+            ASSERT_EQ(course.back(), value.at("value").get<std::string>());
+            const std::size_t last = LastChange(course);
+            const std::size_t merge = MergeOf(value, example);
+            EXPECT_EQ(merge > 0, !value.at("feature").is_null());
+            // A later one that wrote the same had a reason to: what holds the value was replaced.
+            EXPECT_GE(merge, last);
+            if (value.at("who") == "default") {
+                continue;
+            }
+            EXPECT_EQ(merge > 0, value.at("who") == "feature");
+            byFeatures += merge > 0 ? 1U : 0U;
+            if (!value.at("isReset")) {
+                const std::string step = path.substr(path.rfind('/') + 1);
+                const std::string name = step.substr(0, step.find('['));
+                const std::string text = TextAt(value);
+                EXPECT_TRUE(text.starts_with("<" + name) || text.starts_with(name + "=") ||
+                            path.ends_with("]")) // the key may hold a stroke
+                    << text;
+            }
+        }
+        EXPECT_EQ(blamed,
+                  static_cast<std::size_t>(std::count_if(courses.begin(), courses.end(), [](const auto& course) {
+                      return course.second.back().has_value();
+                  })));
+    });
+    EXPECT_GT(byFeatures, 500U);
+}
+
+TEST_F(LanedocExplain, TellsAllWhoWroteAValueInTheirOrder) {
+    std::size_t explained = 0;
+    ForEveryExample([&](CatalogClass type, const Example& example) {
+        std::set<std::vector<std::pair<bool, bool>>> kinds; // one path of each: a run takes its time
+        for (const auto& [path, course] : CoursesOf(type, example)) {
+            const bool isGone = !course.back().has_value();
+            std::vector<std::pair<bool, bool>> kind; // for each merge: whether it is there, and another than before
+            for (std::size_t i = 0; i < course.size(); ++i) {
+                kind.emplace_back(course[i].has_value(), i > 0 && course[i] != course[i - 1]);
+            }
+            if (LastChange(course) == 0 || !kinds.insert(kind).second) {
+                continue;
+            }
+            ++explained;
+            const std::string arguments = ArgumentsOf(example) + " --path '" + path + "'";
+            const Json json = RunJson("explain --quiet --format json " + arguments);
+            Course told(course.size());
+            std::size_t winners = 0;
+            for (const Json& step : json.at("history")) {
+                const std::size_t merge = MergeOf(step, example);
+                const Json& value = step.at("value");
+                std::fill(told.begin() + static_cast<std::ptrdiff_t>(merge), told.end(),
+                          value.is_null() ? std::nullopt : std::optional<std::string>(value));
+                winners += step.at("wins").get<bool>() ? 1U : 0U;
+            }
+            EXPECT_EQ(told, course) << arguments << json;
+            EXPECT_EQ(winners, 1U) << arguments;
+            EXPECT_EQ(json.at("isThere"), !isGone);
+        }
+    });
+    EXPECT_GT(explained, 40U);
+}
+
+TEST_F(LanedocExplain, ExplainsRefusalsRemovalsAndParts) {
+    const std::string all = "explain --quiet base.xml day.xml night.xml bad.xml --path ";
+    const Result value = Run(all + "StateTable/State[Name=A]/@BaseState 2>/dev/null");
+    EXPECT_EQ(value.code, 0);
+    EXPECT_EQ(value.out, R"(StateTable/State[Name=A]/BaseState is "Z"
+  base.xml:3:17   base   "X"
+  day.xml:3:17    day    "Y"
+* night.xml:3:17  night  "Z"
+)");
+    const Result container = Run(all + "StateTable/State[Name=A] 2>/dev/null");
+    EXPECT_EQ(container.code, 0);
+    EXPECT_EQ(container.out, R"(StateTable/State[Name=A]
+  bad.xml:3:1  bad  refused: MergeAction="Add": the entry is there already
+)");
+    const Result removed = Run(all + "StateTable/State[Name=C]/BaseState 2>/dev/null");
+    EXPECT_EQ(removed.code, 1);
+    EXPECT_EQ(removed.out, R"(StateTable/State[Name=C]/BaseState is not there
+  day.xml:3:48   day    "Q"
+* night.xml:4:1  night  removed
+)");
+    EXPECT_TRUE(Holds(Run(all + "StateTable/State").out, R"(
+  day.xml:3:32   day    added StateTable/State[Name=C]
+  night.xml:4:1  night  removed StateTable/State[Name=C]
+)"));
+    EXPECT_EQ(Run("blame --quiet --no-defaults base.xml day.xml | cut -f 1,2,4").out,
+              "base.xml:3:31\tBase\tone\nbase.xml:3:8\tBase\tA\nday.xml:3:17\tday\tY\nbase.xml:3:60\tBase\tB\n"
+              "day.xml:3:39\tday\tC\nday.xml:3:62\tday\ttrue\nday.xml:3:48\tday\tQ\n");
+    EXPECT_EQ(Run("blame base.xml day.xml night.xml --feature day --quiet").out, "");
+}
+
+TEST_F(LanedocExplain, TellsConflictsAndHeedsThePolicy) {
+    const std::string merge = "merge base.xml day.xml night.xml -o out.xml ";
+    const Result warned = Run(merge);
+    EXPECT_EQ(warned.code, 0);
+    EXPECT_EQ(
+        WithoutExcerpts(warned.errors),
+        R"(night.xml:3:17: warning: StateTable/State[Name=A]/BaseState is set by two features: "night" wins over "day" and sets it to "Z" [conflict]
+day.xml:3:17: note: feature "day" sets it to "Y"
+base.xml:3:17: note: the base has "X"
+help: lanedoc explain base.xml day.xml night.xml --path 'StateTable/State[Name=A]/BaseState'
+night.xml:4:1: warning: StateTable/State[Name=C] is edited by "day", and then feature "night" removes it [conflict]
+day.xml:3:32: note: feature "day" adds it: StateTable/State[Name=C]
+help: lanedoc explain base.xml day.xml night.xml --path 'StateTable/State[Name=C]'
+2 warnings
+)");
+    EXPECT_EQ(Run(merge + "--on-conflict last").errors, "");
+    EXPECT_EQ(Run(merge + "--quiet").errors, "");
+    EXPECT_EQ(Get("out.xml"), Run("merge -q base.xml day.xml night.xml").out);
+    const Result refused = Run("merge base.xml day.xml night.xml -o never.xml --quiet --on-conflict error");
+    EXPECT_EQ(refused.code, 4);
+    EXPECT_TRUE(Holds(refused.errors, "nothing is written: 2 problems")) << refused.errors;
+    EXPECT_EQ(Get("never.xml"), "");
+    EXPECT_EQ(Run("merge base.xml day.xml -o out.xml --on-conflict error").code, 0);
+    EXPECT_TRUE(Holds(Run("merge base.xml night.xml day.xml -o out.xml --keep-going").errors, "[missing-target]"));
+}
+
+TEST_F(LanedocExplain, ReportsEveryEdit) {
+    const std::string merge = "merge -q base.xml day.xml night.xml bad.xml ";
+    EXPECT_EQ(Run(merge + "-o out.xml --report report.json").code, 4);
+    const Json report = Json::parse(Get("report.json"));
+    EXPECT_EQ(report.at("format"), 1);
+    EXPECT_EQ(report.at("refused"), 2);
+    std::vector<Json> entries;
+    for (const Json& change : report.at("overrides")) {
+        for (const Json& entry : change.at("entries")) {
+            EXPECT_EQ(entry.at("entry"), entries.size());
+            EXPECT_EQ(entry.at("file"), change.at("document"));
+            entries.push_back(entry);
+        }
+    }
+    const auto isBaseState = [](const Json& entry) { return entry.at("path") == "StateTable/State[Name=A]/BaseState"; };
+    const auto edit = std::find_if(entries.begin(), entries.end(), isBaseState);
+    ASSERT_NE(edit, entries.end());
+    EXPECT_EQ(edit->at("outcome"), "changed");
+    EXPECT_EQ(edit->at("old"), "X");
+    EXPECT_EQ(edit->at("new"), "Y");
+    EXPECT_EQ(edit->at("column"), 17);
+    EXPECT_EQ(entries.back().at("problem").at("code"), "missing-target");
+    ASSERT_EQ(report.at("conflicts").size(), 2U);
+    EXPECT_EQ(report.at("conflicts")[0].at("kind"), "values");
+    EXPECT_EQ(entries[report.at("conflicts")[0].at("first")], *edit);
+    const Json undone = {{"entry", edit->at("entry")}, {"by", report.at("conflicts")[0].at("second")}};
+    EXPECT_EQ(std::count(report.at("withoutEffect").begin(), report.at("withoutEffect").end(), undone), 1);
+
+    const std::string line = "  changed    night.xml:3:17  StateTable/State[Name=A]/BaseState  \"Y\" -> \"Z\"\n";
+    EXPECT_TRUE(Holds(Run(merge + "-o out.xml --report -").out, line));
+    const Result plan = Run("plan -q base.xml day.xml night.xml");
+    EXPECT_EQ(plan.code, 1);
+    EXPECT_TRUE(Holds(plan.out, line)) << plan.out;
+    EXPECT_FALSE(Holds(plan.out, "unchanged")) << plan.out;
+    EXPECT_EQ(Run("plan base.xml base.xml").code, 0);
+    EXPECT_EQ(Run("plan base.xml bad.xml").code, 4);
+}
+
+TEST_F(LanedocExplain, PutsProvenanceInAndNothingElse) {
+    const std::regex comments("\n *<!-- [^\n]* -->(?=\n)");
+    const std::regex attributes(" (xmlns:prov|prov:[^=\"]+)=\"[^\"]*\"");
+    const auto check = [&](const std::string& root, const std::string& arguments) {
+        Put("empty.xml", "<" + root + "/>");
+        SCOPED_TRACE(arguments);
+        const std::string plain = Run("merge -q " + arguments).out;
+        std::size_t set = 0;
+        const Json blame = RunJson("blame -q --format json " + arguments);
+        for (const Json& value : blame.at("values")) {
+            set += value.at("who") == "feature" && !value.at("isReset") ? 1U : 0U;
+        }
+        const auto count = [](const std::string& text, const std::regex& added) {
+            return static_cast<std::size_t>(
+                std::distance(std::sregex_iterator(text.begin(), text.end(), added), std::sregex_iterator()));
+        };
+        ASSERT_EQ(Run("merge -q " + arguments + " --provenance comments -o comments.xml").code, 0);
+        EXPECT_EQ(count(Get("comments.xml"), comments), set);
+        EXPECT_EQ(std::regex_replace(Get("comments.xml"), comments, ""), plain);
+        ASSERT_EQ(Run("merge -q " + arguments + " --provenance attributes -o attributes.xml").code, 0);
+        EXPECT_EQ(count(Get("attributes.xml"), attributes) - count(Get("attributes.xml"), std::regex(" prov:at=")),
+                  set + 1);
+        EXPECT_EQ(std::regex_replace(Get("attributes.xml"), attributes, ""), plain);
+        for (const char* const file : {"comments.xml", "attributes.xml"}) {
+            EXPECT_EQ(Run(std::string("merge -q ") + file + " empty.xml").out, plain) << file;
+        }
+    };
+    ForEveryExample([&](CatalogClass type, const Example& example) {
+        check(std::string(type.ElementName()), ArgumentsOf(example));
+    });
+
+    Put("a--b.xml",
+        "<StateProcessingRoot Version='-&lt;--&amp;\"--->' FeatureID='&lt;--&quot;&amp;'><StateTable><State "
+        "Name='A'><Doc>two---</Doc></State></StateTable></StateProcessingRoot>");
+    check("StateProcessingRoot", "base.xml a--b.xml");
+    EXPECT_TRUE(Holds(Get("comments.xml"), "\n<!-- @Version: \"-<- -&\\\"- - ->\" <- -\"& a- -b.xml:1:22 -->\n"))
+        << Get("comments.xml");
+    EXPECT_TRUE(Holds(Get("attributes.xml"), "prov:from=\"&lt;--&quot;&amp;\" prov:at=\"a--b.xml:1:"));
+}
+
+} // namespace
