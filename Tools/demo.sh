@@ -47,7 +47,15 @@ title "A part of a state, as programs see it"
 run 0 show "$base.xml" 'StateTable/State[Name=Attract]/PostStateTrigger' --no-defaults
 
 title "Four features are merged in, one after the other: what each did, state by state"
-run 0 merge "$base.xml" "$base".{coupons,loyalty,ageverification,nightmode}.xml -o merged.xml --summary --depth 2
+run 0 merge "$base.xml" "$base".{coupons,loyalty,ageverification,nightmode}.xml -o merged.xml --summary --depth 2 \
+    --on-conflict last
+
+title "Who set one value of the result, and who had set it before"
+run 0 explain "$base.xml" "$base".{coupons,loyalty,ageverification,nightmode}.xml --path Version
+
+title "What two features disagree about, when that is not wanted"
+run 4 merge "$base.xml" "$base".{coupons,nightmode}.xml -o never.xml --on-conflict error
+[[ ! -e never.xml ]]
 
 title "One of them in full: added (+), changed (~), replaced (*), removed (-), moved (>)"
 run 0 merge "$base.xml" "$base.ageverification.xml" -o aged.xml --summary --quiet

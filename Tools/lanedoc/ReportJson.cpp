@@ -1,6 +1,5 @@
 #include "ReportJson.h"
 
-#include "LostEdits.h"
 #include "Place.h"
 
 namespace Lanedoc {
@@ -71,7 +70,7 @@ std::string ReportAsJson(const MergeRun& run, ReportScope scope) {
     }
     if (scope == ReportScope::Everything) {
         json["withoutEffect"] = Json::array();
-        for (const MergeJournal::Lost& lost : LostEdits(run.Journal())) {
+        for (const MergeJournal::Lost& lost : run.Journal().WithoutEffect()) {
             json["withoutEffect"].push_back(LostAsJson(lost));
         }
     }

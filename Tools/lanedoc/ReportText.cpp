@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "LostEdits.h"
 #include "Place.h"
 
 namespace Lanedoc {
@@ -89,7 +88,7 @@ private:
     }
 
     void PrintWithoutEffect() {
-        const std::vector<MergeJournal::Lost> all = LostEdits(m_run.Journal());
+        const std::vector<MergeJournal::Lost> all = m_run.Journal().WithoutEffect();
         if (all.empty()) {
             return;
         }
