@@ -115,9 +115,9 @@ TEST_F(LanedocCheck, FindsEveryKindOfMistakeOnceAtItsPlace) {
         return "<StateProcessingRoot>\n <StateTable>\n  " + below + "\n </StateTable>\n</StateProcessingRoot>\n";
     };
     const std::vector<Case> cases = {
-        {state("«<Stat>»<State/></Stat>"), "unknown-element", R"(did you mean "State"?)"},
+        {state("«<Stat>»<State/></Stat>"), "unknown-element", R"(did you mean <State>?)"},
         {state("<State Name='A'><Doc>«<b>»c</b></Doc></State>"), "unknown-element", ""},
-        {state("<State Name='A' «Transiet='1'»/>"), "unknown-attribute", R"(did you mean "Transient"?)"},
+        {state("<State Name='A' «Transiet='1'»/>"), "unknown-attribute", R"(did you mean Transient?)"},
         {state("<State Name='A'> «lost» <Doc/> too </State>"), "stray-text", ""},
         {state("<State Name='A'/>«<State Name='A'/>»"), "duplicate-key", ""},
         {state("«<State Transient='1'/>»"), "missing-key", ""},
@@ -129,11 +129,11 @@ TEST_F(LanedocCheck, FindsEveryKindOfMistakeOnceAtItsPlace) {
          "</Rules></CaptureConfig>",
          "unknown-word", R"(did you mean "CAPTURE_LEVEL_ERROR")"},
         {state("<State Name='A' «MergeAction='Remove'»/>"), "misplaced-control-word", ""},
-        {state("<State Name='A' «PlacementOrder='Frist'»/>"), "unknown-control-word", R"(did you mean "First"?)",
-         "--override"},
+        {state("<State Name='A' «PlacementOrder='Frist'»/>"), "unknown-control-word",
+         R"(did you mean PlacementOrder="First"?)", "--override"},
         {state("<State Name='A' MergeAction='Remove' «PlacementOrder='First'»/>"), "misplaced-control-word", "",
          "--override"},
-        {state("<State Name='A'>«<Dog/>»</State>"), "unknown-element", R"(did you mean "Doc"?)", "--override"},
+        {state("<State Name='A'>«<Dog/>»</State>"), "unknown-element", R"(did you mean <Doc>?)", "--override"},
     };
     std::set<std::string> codes;
     for (const Case& c : cases) {

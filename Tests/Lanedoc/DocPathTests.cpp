@@ -33,7 +33,7 @@ TEST(DocPath, ReadsStepsAndWritesThemBack) {
         EXPECT_EQ(ParsePath(c.text), c.steps);
         std::string written;
         for (const PathStep& step : c.steps) {
-            written = JoinPath(written, FormatStep(step));
+            written = FieldPath::Join(written, FormatStep(step));
         }
         EXPECT_EQ(written, c.written.empty() ? c.text : c.written);
     }

@@ -177,10 +177,10 @@ base.xml:4:20: warning: the text in StateProcessingRoot is no field and will not
 base.xml:5:32: warning: the attribute by of RevisionHistory is no field and will not be in the result [unknown-attribute]
 base.xml:5:45: warning: the element b in RevisionHistory is no field and will not be in the result [unknown-element]
 base.xml:6:21: warning: the attribute Nam of State is no field and will not be in the result [unknown-attribute]
-help: did you mean "Name"?
+help: did you mean Name?
 base.xml:6:82: warning: the element Colour in State is no field and will not be in the result (2 times, first here) [unknown-element]
 change.xml:1:113: warning: no attribute of State is named "Transiet"; it is passed over [unknown-attribute]
-help: did you mean "Transient"?
+help: did you mean Transient?
 9 warnings
 )");
     const Result quiet = Run(merge + " --quiet");

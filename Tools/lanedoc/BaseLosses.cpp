@@ -2,6 +2,7 @@
 
 #include "LostParts.h"
 #include "MessageCodes.h"
+#include "NearestName.h"
 #include "Output.h"
 
 namespace Lanedoc {
@@ -62,7 +63,11 @@ Message MessageOf(const LostPart& part, const std::string& document) {
     message.place.Column = static_cast<unsigned int>(part.column);
     message.place.Length = static_cast<unsigned int>(LengthOf(part));
     message.text = Described(part);
-    message.help = HelpWith(part.near);
+    std::vector<std::string> names;
+    for (const std::string& name : part.near) {
+        names.push_back(part.kind == LostPart::Kind::Element ? "<" + name + ">" : name);
+    }
+    message.help = DidYouMean(names);
     return message;
 }
 

@@ -182,8 +182,8 @@ private:
     std::string Path() const {
         std::string path;
         for (const Step& step : m_way) {
-            path = JoinPath(path, step.field->IsList() ? EntryStep(*step.field, *step.object, step.position)
-                                                       : std::string(step.field->Name()));
+            path = FieldPath::Join(path, step.field->IsList() ? EntryStep(*step.field, *step.object, step.position)
+                                                              : std::string(step.field->Name()));
         }
         return path;
     }

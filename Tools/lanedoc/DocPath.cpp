@@ -130,38 +130,16 @@ std::vector<PathStep> ParsePath(std::string_view text) {
     return PathReader(text).Read();
 }
 
-std::string FormatKeyStep(std::string_view name, std::string_view keyAttribute, std::string_view key) {
-    std::string step(name);
-    step.append("[").append(keyAttribute).append("=");
-    if (key.find_first_of("]/\"") == std::string_view::npos) {
-        return step.append(key).append("]");
-    }
-    step += '"';
-    for (const char character : key) {
-        step.append(character == '"' ? 2U : 1U, character);
-    }
-    return step.append("\"]");
-}
-
-std::string FormatPositionStep(std::string_view name, std::size_t position) {
-    return std::string(name) + "[" + std::to_string(position) + "]";
-}
-
 std::string FormatStep(const PathStep& step) {
     switch (step.selector) {
     case PathStep::Selector::Key:
-        return FormatKeyStep(step.name, step.keyAttribute, step.key);
+        return FieldPath::KeyStep(step.name, step.keyAttribute, step.key);
     case PathStep::Selector::Position:
-        return FormatPositionStep(step.name, step.position);
+        return FieldPath::PositionStep(step.name, step.position);
     case PathStep::Selector::None:
         break;
     }
     return step.name;
-}
-
-std::string JoinPath(std::string_view path, std::string_view step) {
-    std::string joined(path);
-    return joined.append(path.empty() ? "" : "/").append(step);
 }
 
 } // namespace Lanedoc

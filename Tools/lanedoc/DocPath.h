@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "Framework/FieldPath.h"
+
 namespace Lanedoc {
 
 /// One step of a path: a field, and of a list perhaps one entry.
@@ -37,10 +39,6 @@ private:
 std::vector<PathStep> ParsePath(std::string_view text);
 
 /// The step as ParsePath reads it.
-std::string FormatKeyStep(std::string_view name, std::string_view keyAttribute, std::string_view key);
-std::string FormatPositionStep(std::string_view name, std::size_t position);
 std::string FormatStep(const PathStep& step);
-/// `path/step`, without the stroke at the root.
-std::string JoinPath(std::string_view path, std::string_view step);
 
 } // namespace Lanedoc

@@ -18,7 +18,7 @@ using Writer = MergeJournal::Writer;
 std::string AsJournalHasIt(const std::string& path) {
     std::string joined;
     for (const PathStep& step : ParsePath(path)) {
-        joined = JoinPath(joined, FormatStep(step));
+        joined = FieldPath::Join(joined, FormatStep(step));
     }
     return joined;
 }

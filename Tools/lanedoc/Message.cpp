@@ -1,5 +1,6 @@
 #include "Message.h"
 
+#include "DocPath.h"
 #include "NearestName.h"
 #include "Output.h"
 #include "Place.h"
@@ -8,11 +9,40 @@ namespace Lanedoc {
 
 namespace {
 
-std::string HelpOf(const Finding& finding) {
-    if (!finding.Near.empty()) {
-        return HelpWith({finding.Near.begin(), finding.Near.end()});
+std::string AsAttribute(std::string_view name, std::string_view value) {
+    return std::string(name).append("=\"").append(value).append("\"");
+}
+
+/// A name that may have been meant, as it would stand in the document.
+std::string Pasteable(const Finding& finding, const std::string& name) {
+    const std::string_view text = finding.Text;
+    switch (finding.Code) {
+    case FindingCode::UnknownElement:
+        return "<" + name + ">";
+    case FindingCode::UnknownAttribute:
+        return name;
+    case FindingCode::UnknownControlWord: // MergeAction="Delete" is ...
+    case FindingCode::MissingNeighbour:
+        return AsAttribute(text.substr(0, text.find('=')), name);
+    case FindingCode::MissingTarget: {
+        const std::vector<PathStep> steps = ParsePath(finding.Path);
+        const bool hasKey = !steps.empty() && steps.back().selector == PathStep::Selector::Key;
+        return hasKey ? AsAttribute(steps.back().keyAttribute, name) : Quoted(name);
     }
-    return finding.Code == FindingCode::TargetExists ? R"(MergeAction="Merge" changes what is there already)" : "";
+    default:
+        return Quoted(name);
+    }
+}
+
+std::string HelpOf(const Finding& finding) {
+    if (finding.Near.empty()) {
+        return finding.Code == FindingCode::TargetExists ? R"(MergeAction="Merge" changes what is there already)" : "";
+    }
+    std::vector<std::string> names;
+    for (const zelString& name : finding.Near) {
+        names.push_back(Pasteable(finding, name));
+    }
+    return DidYouMean(names);
 }
 
 } // namespace

@@ -121,13 +121,13 @@ private:
         const CatalogField& field = found->second.catalog;
         std::size_t& next = parent.met[found->second.number];
         TypedDataContainer* container = nullptr;
-        std::string path = JoinPath(parent.path, field.Name());
+        std::string path = FieldPath::Join(parent.path, field.Name());
         if (field.IsList()) {
             while (HoldsContainers(field) && next < field.Length(*parent.object) &&
                    field.Entry(*parent.object, next) == nullptr) {
                 ++next; // a dump leaves it out
             }
-            path = JoinPath(parent.path, EntryStep(field, *parent.object, next));
+            path = FieldPath::Join(parent.path, EntryStep(field, *parent.object, next));
             container = field.Entry(*parent.object, next++);
         } else if (!field.IsScalar()) {
             container = field.GetChild(*parent.object);
@@ -168,7 +168,7 @@ private:
             if (found == element.fields->end()) {
                 continue;
             }
-            const std::string path = JoinPath(element.path, attribute.name);
+            const std::string path = FieldPath::Join(element.path, attribute.name);
             const std::optional<Writer> feature = FeatureThatSet(path);
             if (feature.has_value() && m_withComments) {
                 AddComment(tag, "@" + std::string(attribute.name) + ": " + Chain(found->second.catalog, path));

@@ -103,7 +103,7 @@ void CheckKey(TypedDataContainer& tree, const TreeNode& node) {
     steps.back().selector = PathStep::Selector::None;
     std::string path;
     for (const PathStep& step : steps) {
-        path = JoinPath(path, FormatStep(step));
+        path = FieldPath::Join(path, FormatStep(step));
     }
     const TreeNode list = FindNode(tree, path);
     const zelString key = node.field->GetText(*node.object);

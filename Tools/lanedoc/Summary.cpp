@@ -16,7 +16,7 @@ constexpr std::size_t shownOfValue = 48;
 std::string JoinSteps(const std::vector<std::string>& path, std::size_t from, std::size_t to) {
     std::string joined;
     for (std::size_t i = from; i < to; ++i) {
-        joined = JoinPath(joined, path[i]);
+        joined = FieldPath::Join(joined, path[i]);
     }
     return Printable(joined);
 }

@@ -40,8 +40,8 @@ std::vector<bool> FindStaying(const std::vector<std::size_t>& positions) {
 
 std::string StepOf(const CatalogField& list, const std::vector<SnapshotEntry>& entries, std::size_t position) {
     return list.GetForm() == CatalogField::KeyedList
-               ? FormatKeyStep(list.Name(), list.KeyAttribute(), entries[position].key)
-               : FormatPositionStep(list.Name(), position + 1);
+               ? FieldPath::KeyStep(list.Name(), list.KeyAttribute(), entries[position].key)
+               : FieldPath::PositionStep(list.Name(), position + 1);
 }
 
 class TreeComparison {

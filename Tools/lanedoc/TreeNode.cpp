@@ -67,7 +67,7 @@ std::size_t FindEntry(TypedDataContainer& object, const CatalogField& list, cons
     }
     if (step.keyAttribute != list.KeyAttribute()) {
         throw Wrong(Below(path, step.name) + " has the key " + std::string(list.KeyAttribute()) + "; write " +
-                    Printable(FormatKeyStep(step.name, list.KeyAttribute(), step.key)));
+                    Printable(FieldPath::KeyStep(step.name, list.KeyAttribute(), step.key)));
     }
     std::vector<std::string> keys;
     keys.reserve(length);
@@ -86,7 +86,7 @@ std::size_t FindEntry(TypedDataContainer& object, const CatalogField& list, cons
 TreeNode Descend(const TreeNode& from, const PathStep& step) {
     TypedDataContainer& object = *from.object;
     const CatalogField field = FindField(object, step, from.path);
-    TreeNode node{TreeNode::Kind::Scalar, &object, field, 0, JoinPath(from.path, step.name)};
+    TreeNode node{TreeNode::Kind::Scalar, &object, field, 0, FieldPath::Join(from.path, step.name)};
     if (step.selector != PathStep::Selector::None && !field.IsList()) {
         throw Wrong(Below(from.path, step.name) + " is no list; write it without [ ]");
     }
@@ -94,7 +94,7 @@ TreeNode Descend(const TreeNode& from, const PathStep& step) {
         node.kind = TreeNode::Kind::List;
         if (step.selector != PathStep::Selector::None) {
             node.position = FindEntry(object, field, step, from.path);
-            node.path = JoinPath(from.path, EntryStep(field, object, node.position));
+            node.path = FieldPath::Join(from.path, EntryStep(field, object, node.position));
             node.kind = TreeNode::Kind::Text;
         }
         if (node.kind == TreeNode::Kind::Text && HoldsContainers(field)) {
@@ -129,9 +129,9 @@ TreeNode FindNode(TypedDataContainer& root, const std::string& path) {
 
 std::string EntryStep(const CatalogField& list, TypedDataContainer& object, std::size_t position) {
     if (list.GetForm() == CatalogField::KeyedList) {
-        return FormatKeyStep(list.Name(), list.KeyAttribute(), list.EntryKey(object, position));
+        return FieldPath::KeyStep(list.Name(), list.KeyAttribute(), list.EntryKey(object, position));
     }
-    return FormatPositionStep(list.Name(), position + 1);
+    return FieldPath::PositionStep(list.Name(), position + 1);
 }
 
 void RefuseContainer(const TreeNode& node) {
@@ -139,7 +139,7 @@ void RefuseContainer(const TreeNode& node) {
     std::vector<std::string> names;
     for (const CatalogField& field : container.Fields()) {
         if (field.IsScalar()) {
-            names.push_back(JoinPath(node.path, field.Name()));
+            names.push_back(FieldPath::Join(node.path, field.Name()));
         }
     }
     throw Wrong((node.path.empty() ? "the root" : Printable(node.path)) + " is a " + std::string(container.Name()) +

@@ -16,11 +16,11 @@ public:
     void Walk(TypedDataContainer& object, const std::string& path) {
         for (const CatalogField& field : FieldsOf(object)) {
             if (field.IsScalar()) {
-                m_visit({field, object, JoinPath(path, field.Name()), field.GetText(object)});
+                m_visit({field, object, FieldPath::Join(path, field.Name()), field.GetText(object)});
             } else if (field.IsList()) {
                 WalkList(field, object, path);
             } else if (TypedDataContainer* const child = field.GetChild(object)) {
-                Walk(*child, JoinPath(path, field.Name()));
+                Walk(*child, FieldPath::Join(path, field.Name()));
             }
         }
     }
@@ -29,7 +29,7 @@ private:
     void WalkList(const CatalogField& list, TypedDataContainer& object, const std::string& path) {
         const std::size_t length = list.Length(object);
         for (std::size_t i = 0; i < length; ++i) {
-            const std::string entryPath = JoinPath(path, EntryStep(list, object, i));
+            const std::string entryPath = FieldPath::Join(path, EntryStep(list, object, i));
             if (!HoldsContainers(list)) {
                 m_visit({list, object, entryPath, list.EntryText(object, i)});
             } else if (TypedDataContainer* const entry = list.Entry(object, i)) {

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "Framework/ContainerBase/ContainerAccess.h"
-#include "Framework/ContainerBase/FieldPath.h"
 #include "Framework/ContainerBase/JournalIndex.h"
+#include "Framework/FieldPath.h"
 #include "Framework/XMLSupport/NodePlace.h"
 #include "Framework/XMLSupport/TreeReading.h"
 
@@ -212,10 +212,11 @@ void JournalData::Clear() {
 
 std::string JournalData::StepOf(const Scope& scope) const {
     if (scope.keyName != 0) {
-        return KeyStep(Name(scope.name), Name(scope.keyName),
-                       std::string_view(m_texts).substr(scope.key.begin, scope.key.length));
+        return FieldPath::KeyStep(Name(scope.name), Name(scope.keyName),
+                                  std::string_view(m_texts).substr(scope.key.begin, scope.key.length));
     }
-    return scope.position != 0 ? PositionStep(Name(scope.name), scope.position) : std::string(Name(scope.name));
+    return scope.position != 0 ? FieldPath::PositionStep(Name(scope.name), scope.position)
+                               : std::string(Name(scope.name));
 }
 
 std::string JournalData::PathOfScope(Number scope) const {
@@ -225,13 +226,13 @@ std::string JournalData::PathOfScope(Number scope) const {
     }
     std::string path;
     for (auto step = chain.rbegin(); step != chain.rend(); ++step) {
-        path = JoinPath(path, StepOf(m_scopes[*step]));
+        path = FieldPath::Join(path, StepOf(m_scopes[*step]));
     }
     return path;
 }
 
 std::string JournalData::PathOf(const Record& record) const {
-    return JoinPath(PathOfScope(record.scope), Name(record.field));
+    return FieldPath::Join(PathOfScope(record.scope), Name(record.field));
 }
 
 zelString JournalData::ValueText(JournalValue::Kind kind, JournalValue::Content content, const Record& record) const {

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "Framework/ContainerBase/ContainerAccess.h"
-#include "Framework/ContainerBase/FieldPath.h"
 #include "Framework/ContainerBase/MergeControl.h"
 #include "Framework/ContainerBase/OverrideLog.h"
+#include "Framework/FieldPath.h"
 #include "Framework/FrameworkDataContainers/Walks/ElementFindings.h"
 #include "Framework/FrameworkDataContainers/Walks/TableIndex.h"
 #include "Framework/XMLSupport/NodePlace.h"
@@ -106,7 +106,7 @@ private:
         Finding finding;
         finding.Code = problem.code;
         finding.Place = PlaceOfNode(m_tree, problem.where == NodeRef::None ? node : problem.where);
-        finding.Path = JoinPath(PathOf(m_at), field);
+        finding.Path = FieldPath::Join(PathOf(m_at), field);
         finding.Text = problem.text;
         finding.Near.assign(problem.near.begin(), problem.near.end());
         if (problem.noteAt != NodeRef::None) {
@@ -122,7 +122,7 @@ private:
         }
         std::string path;
         for (auto at = chain.rbegin(); at != chain.rend(); ++at) {
-            path = JoinPath(path, StepOf(m_elements[*at]));
+            path = FieldPath::Join(path, StepOf(m_elements[*at]));
         }
         return path;
     }
@@ -131,9 +131,10 @@ private:
         const FieldRow& row = *element.row;
         if (row.form == FieldForm::KeyedList &&
             FindAttribute(m_tree, element.node, row.keyAttribute) != NodeRef::None) {
-            return KeyStep(row.name, row.keyAttribute, AttributeOf(m_tree, element.node, row.keyAttribute));
+            return FieldPath::KeyStep(row.name, row.keyAttribute, AttributeOf(m_tree, element.node, row.keyAttribute));
         }
-        return row.form == FieldForm::PlainList ? PositionStep(row.name, element.position) : std::string(row.name);
+        return row.form == FieldForm::PlainList ? FieldPath::PositionStep(row.name, element.position)
+                                                : std::string(row.name);
     }
 
     const XmlTree& m_tree;

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "Framework/ContainerBase/ContainerAccess.h"
-#include "Framework/ContainerBase/FieldPath.h"
+#include "Framework/ContainerBase/FieldSteps.h"
 #include "Framework/ContainerBase/JournalIndex.h"
 #include "Framework/FrameworkDataContainers/Walks/Scalars.h"
 #include "Framework/FrameworkDataContainers/Walks/TableIndex.h"

@@ -6,8 +6,8 @@
 #include <typeinfo>
 #include <utility>
 
-#include "Framework/ContainerBase/FieldPath.h"
 #include "Framework/ContainerBase/MergeControl.h"
+#include "Framework/FieldPath.h"
 #include "Framework/FrameworkDataContainers/Walks/ValueProblem.h"
 #include "Framework/XMLSupport/Document.h"
 #include "Framework/XMLSupport/TextHash.h"
@@ -269,8 +269,8 @@ private:
     std::string StepTo(const SeenField& seen, NodeRef child) const {
         const FieldRow& row = *seen.row;
         const NodeRef key = row.keyAttribute.empty() ? NodeRef::None : FindAttribute(m_tree, child, row.keyAttribute);
-        return key != NodeRef::None               ? KeyStep(row.name, row.keyAttribute, TextOf(m_tree, key))
-               : row.form == FieldForm::PlainList ? PositionStep(row.name, seen.count)
+        return key != NodeRef::None               ? FieldPath::KeyStep(row.name, row.keyAttribute, TextOf(m_tree, key))
+               : row.form == FieldForm::PlainList ? FieldPath::PositionStep(row.name, seen.count)
                                                   : std::string(row.name);
     }
 
@@ -375,7 +375,7 @@ private:
         }
         std::string room;
         const std::string key(KeyIn(row, child, 0, room));
-        Report(child, KeyStep(row.name, row.keyAttribute, key),
+        Report(child, FieldPath::KeyStep(row.name, row.keyAttribute, key),
                {FindingCode::DuplicateKey,
                 "a second " + std::string(row.name) + " with " + std::string(row.keyAttribute) + "=" + Quoted(key) +
                     (isMerge ? ", merged after the first" : "; it is dropped"),

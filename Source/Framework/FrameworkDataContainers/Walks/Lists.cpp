@@ -4,10 +4,10 @@
 #include <unordered_set>
 
 #include "Framework/ContainerBase/ContainerAccess.h"
-#include "Framework/ContainerBase/FieldPath.h"
 #include "Framework/ContainerBase/JournalData.h"
 #include "Framework/ContainerBase/ListEdit.h"
 #include "Framework/ContainerBase/OverrideLog.h"
+#include "Framework/FieldPath.h"
 #include "Framework/XMLSupport/NodeViews.h"
 
 namespace Framework {
@@ -82,7 +82,8 @@ void TellJournal(const FieldRow& row, const zelString& sName, bool isInEntry, No
     }
     WhileMemoryLasts([&] {
         const std::string key = std::string(row.keyAttribute) + "=\"" + sName + "\"";
-        journal->WriteProblem(*tree, node, isInEntry ? std::string() : KeyStep(row.name, row.keyAttribute, sName),
+        journal->WriteProblem(*tree, node,
+                              isInEntry ? std::string() : FieldPath::KeyStep(row.name, row.keyAttribute, sName),
                               MergeJournal::Outcome::Skipped,
                               {FindingCode::DuplicateKey,
                                "a second " + std::string(row.name) + " with " + key + "; it is dropped",
