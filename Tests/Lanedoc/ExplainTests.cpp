@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Containers/Examples.h"
+#include "Framework/FieldPath.h"
 #include "LanedocRuns.h"
 
 namespace {
@@ -14,26 +15,20 @@ using Json = nlohmann::json;
 using Values = std::map<std::string, std::string>; // by path
 
 std::string Step(const CatalogField& list, TypedDataContainer& object, std::size_t position) {
-    if (list.GetForm() != CatalogField::KeyedList) {
-        return std::string(list.Name()) + "[" + std::to_string(position + 1) + "]";
-    }
-    std::string key = list.EntryKey(object, position);
-    if (key.find_first_of("]/\"") != std::string::npos) {
-        key = "\"" + std::regex_replace(key, std::regex("\""), "\"\"") + "\"";
-    }
-    return std::string(list.Name()) + "[" + std::string(list.KeyAttribute()) + "=" + key + "]";
+    return list.GetForm() == CatalogField::KeyedList
+               ? FieldPath::KeyStep(list.Name(), list.KeyAttribute(), list.EntryKey(object, position))
+               : FieldPath::PositionStep(list.Name(), position + 1);
 }
 
 void Collect(TypedDataContainer& object, const std::string& path, Values& values) {
     for (const CatalogField& field : ContainerCatalog::ClassOf(object).Fields()) {
-        const std::string below = path + (path.empty() ? "" : "/");
         if (field.IsScalar()) {
-            values[below + std::string(field.Name())] = field.GetText(object);
+            values[FieldPath::Join(path, field.Name())] = field.GetText(object);
         } else if (TypedDataContainer* const child = field.GetChild(object)) {
-            Collect(*child, below + std::string(field.Name()), values);
+            Collect(*child, FieldPath::Join(path, field.Name()), values);
         }
         for (std::size_t i = 0; i < field.Length(object); ++i) {
-            const std::string entry = below + Step(field, object, i);
+            const std::string entry = FieldPath::Join(path, Step(field, object, i));
             if (TypedDataContainer* const container = field.Entry(object, i)) {
                 Collect(*container, entry, values);
             } else {
