@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <tuple>
 #include <utility>
 
 namespace Lanedoc {
@@ -68,6 +69,10 @@ std::vector<Message> MergeRun::MessagesOf(const MergedOverride& merged) {
             messages.push_back(std::move(message));
         }
     }
+    // A merge takes elements before attributes; a person reads from the top.
+    std::stable_sort(messages.begin(), messages.end(), [](const Message& one, const Message& other) {
+        return std::tie(one.place.Line, one.place.Column) < std::tie(other.place.Line, other.place.Column);
+    });
     return messages;
 }
 
