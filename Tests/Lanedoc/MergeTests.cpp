@@ -205,4 +205,43 @@ help: did you mean Transient?
     EXPECT_FALSE(Holds(errors, "x20")) << errors;
 }
 
+TEST_F(LanedocMerge, TellsEveryMistakeOnceFromTheTop) {
+    Put("base.xml",
+        "<CommConfig><CommEntry name='Host'><Parameters><Port>1</Port></Parameters></CommEntry></CommConfig>");
+    Put("change.xml", R"(<CommConfig Vresion="2"> stray
+<CommEntry name="Host" PlacementOrder="Beofre"/>
+<CommEntry name="Host" MergeAction="Add"/>
+<CommEntry name="Hots" MergeAction="Remove"/>
+<CommEntry name="New" PlacementOrder="After" PlacementIndex="Hots"/>
+<CommEntry><Parameters/></CommEntry>
+<CommEntry name="Late"><Parameters><Port>74x</Port><HostNme/><Mode>CLEINT</Mode>
+ <Port MergeAction="Merge">99999999999</Port></Parameters></CommEntry>
+<CommEntry name="Late" MergeAction="Merge"><Parameters><Port MergeAction="Remove">2</Port></Parameters></CommEntry>
+</CommConfig>)");
+    const Result result = Run("merge base.xml change.xml -o out.xml");
+    EXPECT_EQ(result.code, 4);
+    const std::regex head("change.xml:(\\S+): (\\w+): [^\n]* (\\[[a-z-]+\\])\n");
+    std::string told;
+    for (std::sregex_iterator at(result.errors.begin(), result.errors.end(), head), end; at != end; ++at) {
+        told += at->format("$1 $2 $3\n");
+    }
+    EXPECT_EQ(told, R"(1:13 warning [unknown-attribute]
+1:26 warning [stray-text]
+2:24 error [unknown-control-word]
+3:1 warning [duplicate-key]
+3:1 error [target-exists]
+4:1 error [missing-target]
+5:46 error [missing-neighbour]
+6:1 error [missing-key]
+7:36 warning [not-a-number]
+7:52 warning [unknown-element]
+7:62 warning [unknown-word]
+8:2 warning [repeated-value]
+8:2 warning [number-out-of-range]
+9:1 warning [duplicate-key]
+9:62 warning [misplaced-control-word]
+)");
+    EXPECT_TRUE(Holds(result.errors, "\n5 errors, 10 warnings\nlanedoc: merge refused")) << result.errors;
+}
+
 } // namespace
