@@ -242,12 +242,26 @@ private:
         return values;
     }
 
+    /// What a value was before an object that holds it was emptied or taken away, and by which entry the present object
+    /// came to be as it is.
+    struct Past {
+        std::string feature;
+        std::string text;
+        std::size_t by;
+    };
+
     void NoteValue(std::size_t number, const MergeJournal::Entry& edit) {
         Forget(edit.Path);
-        if (edit.Cause.empty()) { // else the override does not name it: it follows from something new
-            history[edit.Path].push_back(number);
+        const auto past = m_past.find(edit.Path);
+        if (!edit.Cause.empty()) { // the override does not name it: it follows from something new
+            if (past != m_past.end() && past->second.feature == edit.FeatureID && past->second.text != edit.NewValue) {
+                writers[edit.Path] = past->second.by;
+            }
+            return;
         }
-        if (edit.Cause.empty() && edit.Result != Outcome::Removed) {
+        m_past.erase(edit.Path);
+        history[edit.Path].push_back(number);
+        if (edit.Result != Outcome::Removed) {
             writers[edit.Path] = number;
         }
     }
@@ -256,21 +270,23 @@ private:
         const Values after = ObjectValues(edit);
         for (const auto& [path, text] : before) {
             const auto now = after.find(path);
+            m_past[path] = {edit.FeatureID, text, number};
             if (now == after.end()) {
                 Forget(path);
                 history[path].push_back(number);
-                m_gone[path] = {edit.FeatureID, text};
             } else if (now->second != text) {
                 writers[path] = number;
             } else if (edit.Result == Outcome::Replaced) { // in something new, where nobody gave it
                 Forget(path);
             }
         }
-        for (const auto& [path, text] : after) {
-            const auto gone = m_gone.find(path);
-            const bool isBack = edit.Result == Outcome::Added && gone != m_gone.end();
-            if (isBack && gone->second.first == edit.FeatureID && gone->second.second != text) {
-                writers[path] = number; // what one merge takes away and brings back without the value is reset
+        for (const auto& [path, text] : after) { // what a merge takes away and brings back without the value is reset
+            const auto past = edit.Result == Outcome::Added ? m_past.find(path) : m_past.end();
+            if (past != m_past.end() && past->second.feature == edit.FeatureID) {
+                past->second.by = number;
+                if (past->second.text != text) {
+                    writers[path] = number;
+                }
             }
         }
     }
@@ -280,6 +296,5 @@ private:
         writers.erase(path);
     }
 
-    /// By path, who took the value away, and its text.
-    std::map<std::string, std::pair<std::string, std::string>> m_gone;
+    std::map<std::string, Past> m_past;
 };
