@@ -57,7 +57,7 @@ std::vector<Scenario> Scenarios() {
          "  <State Name='Bag' PlacementOrder='befor'/>\n"
          "  <State Name='Pay' PlacementOrder='Before' PlacementIndex='Coupn'/>\n"
          "  <State BaseState='x'/>\n"
-         "  <State Name='Help'><PreStateTrigger><ActionRef>first</ActionRef>\n"
+         "  <State Name='Help'><Doc>numbered</Doc><PreStateTrigger><ActionRef>first</ActionRef>\n"
          "    <ActionRef>second</ActionRef><ActionRef>third</ActionRef></PreStateTrigger>\n"
          "    <PostStateTrigger><ActionRef MergeAction='Replace'>r</ActionRef></PostStateTrigger></State>\n"
          "  <State Name='Survey' MergeAction='Remove' PlacementOrder='First'/>\n"
@@ -222,11 +222,17 @@ TEST(Findings, CheckTellsWhatCanBeSaidOfAFileAlone) {
     }
     XMLDataWrapper document;
     EXPECT_TRUE(DocumentCheck::Run(document, ContainerCatalog::FindRoot("LoadConfig")).empty());
-    ASSERT_TRUE(document.LoadXMLText("<P><A b='1'/>\n<ChildThread c='2'/></P>", false));
-    ASSERT_NE(document.SelectNode("ChildThread", false), nullptr);
+    ASSERT_TRUE(
+        document.LoadXMLText("<P><A b='1'/>\n<ChildThread c='2'><\xC3\xA9t\xC3\xA9\n d='3'>e</\xC3\xA9t\xC3\xA9>"
+                             "</ChildThread></P>",
+                             false));
+    ASSERT_NE(document.SelectNode("ChildThread", false), nullptr); // the check begins there
     const std::vector<Finding> found = DocumentCheck::Run(document, ContainerCatalog::FindClass("ChildThreadType"));
-    ASSERT_EQ(found.size(), 1U);
-    EXPECT_EQ(found[0].Place.Line, 2U);
+    ASSERT_EQ(found.size(), 2U);
+    EXPECT_EQ(found[0].Place.Column, 14U);
+    EXPECT_EQ(found[0].Place.Length, 5U);
+    EXPECT_EQ(found[1].Place.Column, 20U);
+    EXPECT_EQ(found[1].Place.Length, 4U); // up to the end of the line
 }
 
 /// Whatever is wrong: the journal and the log are told once, and the check finds in the file what can be seen there.
