@@ -342,6 +342,34 @@ TEST(Journal, WritersOfAValueTellItsWholeStory) {
     }
 }
 
+TEST(Journal, KeepsWhatWasReadWhateverBecomesOfTheDocuments) {
+    LoadConfigType config(false);
+    XMLDataWrapper base, source;
+    ASSERT_TRUE(base.LoadXMLText(threads, false) && source.LoadXMLText(Thread("'A'", "s"), false));
+    ASSERT_TRUE(config.LoadFromDataPacket(nullptr, &base, false));
+    MergeJournal journal;
+    {
+        const MergeJournal::Recording recording(journal);
+        ASSERT_TRUE(config.MergeFromDataPacket(nullptr, "Night", &source, false));
+    }
+    const zelString path = "ThreadChildList[UniqueName=L]/ChildThread[UniqueName=A]/LibraryPath";
+    const auto expectKept = [&] {
+        const std::vector<Writer> writers = journal.WritersOf(config, path);
+        ASSERT_EQ(writers.size(), 2U);
+        EXPECT_EQ(writers[0].Value, "a");
+        EXPECT_TRUE(At(threads, writers[0].Place).starts_with("<LibraryPath>a"));
+        EXPECT_EQ(writers[1].Value, "s");
+        EXPECT_TRUE(writers[1].Wins);
+    };
+    ASSERT_TRUE(source.SetQueryValue("ThreadChildList/ChildThread/LibraryPath", zelString("longer"), false));
+    ASSERT_TRUE(config.UpdateContainedData()) << config.GetLastError();
+    EXPECT_NE(base.GetXMLText().find("<LibraryPath>s"), std::string::npos);
+    expectKept();
+    ASSERT_NE(source.GetDOMNode(true, false), nullptr);
+    ASSERT_TRUE(source.LoadXMLText("<other/>", false) && base.LoadXMLText("<other/>", false));
+    expectKept();
+}
+
 TEST(Journal, RecordsWhatIsMergedWhileItIsInstalledAndOnlyThat) {
     Merges merges(ContainerCatalog::FindRoot("LoadConfig"), threads);
     merges.Merge("Day", Thread("'A'", "d"));
