@@ -333,6 +333,9 @@ TEST_F(LanedocExplain, PutsProvenanceInAndNothingElse) {
     EXPECT_TRUE(Holds(Get("comments.xml"), "\n<!-- @Version: \"-<- -&\\\"- - ->\" <- -\"& a- -b.xml:1:22 -->\n"))
         << Get("comments.xml");
     EXPECT_TRUE(Holds(Get("attributes.xml"), "prov:from=\"&lt;--&quot;&amp;\" prov:at=\"a--b.xml:1:"));
+    const std::string noText = "\xFF\xEF\xBF\xBF.xml"; // no UTF-8, and no character of XML
+    std::filesystem::copy_file("day.xml", noText);
+    check("StateProcessingRoot", "base.xml " + noText);
 }
 
 } // namespace

@@ -33,7 +33,8 @@ struct MergeOptions {
 /// Whether both names are of one file. Devices take whatever comes.
 bool IsSameFile(const std::string& one, const std::string& other) {
     std::error_code notThere;
-    const bool isOne = one == other || std::filesystem::equivalent(one, other, notThere);
+    const auto plain = [](const std::string& name) { return std::filesystem::path(name).lexically_normal(); };
+    const bool isOne = plain(one) == plain(other) || std::filesystem::equivalent(one, other, notThere);
     return isOne && !std::filesystem::is_character_file(one, notThere);
 }
 

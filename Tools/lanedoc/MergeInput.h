@@ -11,7 +11,7 @@
 
 namespace Lanedoc {
 
-/// The documents of a merge, as the command line names them.
+/// What every command that merges is told.
 struct MergeArguments {
     std::string base;
     std::vector<std::string> overrides; ///< each `[FEATURE=]FILE`

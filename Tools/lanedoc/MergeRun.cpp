@@ -48,6 +48,11 @@ const MergedOverride& MergeRun::MergeNext() {
 
 std::vector<Message> MergeRun::MessagesOf(const MergedOverride& merged) {
     std::vector<Message> messages;
+    // The override log hears of every problem in the journal; when it heard of none, no entry need be read.
+    std::vector<Message> logged = m_issues.TakeMessages(Severity::Error, merged.document);
+    if (logged.empty()) {
+        return messages;
+    }
     std::set<std::pair<std::size_t, std::size_t>> told; // places
     for (std::size_t number = merged.begin; number < merged.end; ++number) {
         const MergeJournal::Entry entry = m_journal.At(number);
@@ -57,9 +62,8 @@ std::vector<Message> MergeRun::MessagesOf(const MergedOverride& merged) {
             told.insert({entry.Problem->Place.Line, entry.Problem->Place.Column});
         }
     }
-    // The override log hears of the same problems. It says more only where memory for the journal ran out, and then
-    // nobody knows any more whether the thing was refused.
-    for (Message& message : m_issues.TakeMessages(Severity::Error, merged.document)) {
+    // It knows more only where memory for the journal ran out. Then nobody can say whether the thing was refused.
+    for (Message& message : logged) {
         if (!told.contains({message.place.Line, message.place.Column})) {
             messages.push_back(std::move(message));
         }

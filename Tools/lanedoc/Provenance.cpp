@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "JsonValue.h"
 #include "MarkupScan.h"
 #include "Output.h"
 #include "Place.h"
@@ -19,39 +20,14 @@ using Writer = MergeJournal::Writer;
 constexpr std::size_t shownOfValue = 48;
 constexpr const char* declaration = " xmlns:prov=\"urn:FrameworkDataContainers:provenance:1\"";
 
-/// Length of the character that begins there, 0 when that is none of XML: the name of a file may be any bytes.
-std::size_t CharacterLength(std::string_view text, std::size_t at) {
-    const auto first = static_cast<unsigned char>(text[at]);
-    const std::size_t length = first < 0x80   ? 1
-                               : first < 0xC2 ? 0
-                               : first < 0xE0 ? 2
-                               : first < 0xF0 ? 3
-                               : first < 0xF5 ? 4
-                                              : 0;
-    if (length == 0 || at + length > text.size()) {
-        return 0;
-    }
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((static_cast<unsigned char>(text[at + i]) & 0xC0U) != 0x80U) {
-            return 0;
-        }
-    }
-    const std::string_view character = text.substr(at, length);
-    const bool isSurrogate = character >= "\xED\xA0" && character < "\xEE";
-    const bool isTooLong = (first == 0xE0 && character < "\xE0\xA0") || (first == 0xF0 && character < "\xF0\x90");
-    const bool isTooHigh = first == 0xF4 && character >= "\xF4\x90";
-    const bool isNone = character == "\xEF\xBF\xBE" || character == "\xEF\xBF\xBF";
-    return isSurrogate || isTooLong || isTooHigh || isNone ? 0 : length;
-}
-
-/// The text in characters that a document may hold, on one line.
+/// The text in characters that a document may hold, on one line. The name of a file may be any bytes.
 std::string InXml(std::string_view text) {
-    const std::string printable = Printable(text);
-    std::string kept;
-    for (std::size_t at = 0; at < printable.size();) {
-        const std::size_t length = CharacterLength(printable, at);
-        kept += length == 0 ? "?" : printable.substr(at, length);
-        at += std::max<std::size_t>(length, 1);
+    const std::string valid = Json(Printable(text)).dump(-1, ' ', false, Json::error_handler_t::replace);
+    std::string kept = Json::parse(valid).get<std::string>();
+    for (const std::string_view forbidden : {"\xEF\xBF\xBE", "\xEF\xBF\xBF"}) {
+        for (std::size_t at = kept.find(forbidden); at != std::string::npos; at = kept.find(forbidden, at)) {
+            kept.replace(at, forbidden.size(), "?");
+        }
     }
     return kept;
 }

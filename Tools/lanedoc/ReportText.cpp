@@ -139,7 +139,7 @@ std::string ValuesOf(const Entry& entry, std::size_t limit) {
         return "to " + Printable(entry.NewValue);
     }
     if (entry.IsContainer) {
-        return entry.Asked == MergeJournal::Action::Clear && entry.Result == Outcome::Changed ? "by Clear" : "";
+        return entry.Asked == MergeJournal::Action::Clear && entry.Result == Outcome::Changed ? "(by Clear)" : "";
     }
     const std::string before = Quoted(entry.OldValue, limit);
     const std::string after = Quoted(entry.NewValue, limit);
