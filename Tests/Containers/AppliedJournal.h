@@ -2,27 +2,20 @@
 
 #include <algorithm>
 #include <functional>
-#include <map>
-#include <set>
-#include <utility>
 
 #include "Containers/EveryClass.h"
+#include "Containers/ValueOrigins.h"
 
-#include "Framework/MergeJournal.h"
-
-/// The tree that the entries of a journal make of a base, and who set each of its values. Made from what the entries
-/// say and from the catalogue alone, as literally as can be.
+/// The tree that the entries of a journal make of a base. Made from what the entries say and from the catalogue alone,
+/// as literally as can be.
 class AppliedJournal {
 public:
     /// `made` says which values stand in the document that the object was loaded from.
     AppliedJournal(TypedDataContainer& object, const Samples::Sample& made) : tree(Samples::Read(object)) {
-        ForEachValue(made, "", [this](const std::string& path, const Samples::FieldSample& field, const std::string&) {
+        ForEachValue(made, "", [this](const auto& path, const Samples::FieldSample& field, const std::string& text) {
             if (field.present || field.field.IsList()) {
-                inBase.insert(path);
+                origins.NoteBase(path, text);
             }
-        });
-        ForEachValue(tree, "", [this](const std::string& path, const Samples::FieldSample&, const std::string& text) {
-            base[path] = {inBase.contains(path), text};
         });
     }
 
@@ -30,16 +23,16 @@ public:
         SCOPED_TRACE("entry " + std::to_string(number) + " of " + edit.FeatureID + ": " +
                      std::string(ActionName(edit.Asked)) + " " + edit.Path + " " +
                      std::string(OutcomeName(edit.Result)));
-        const Values before = ObjectValues(edit);
+        const ValueOrigins::Values before = ObjectValues(edit);
         if (edit.Path.empty()) {
             ApplyToRoot(edit);
         } else {
             ApplyToField(edit);
         }
         if (edit.IsContainer) {
-            NoteObject(number, edit, before);
+            origins.NoteObject(number, edit, before, ObjectValues(edit));
         } else if (edit.Result != Outcome::Unchanged && edit.Result != Outcome::Moved) {
-            NoteValue(number, edit);
+            origins.NoteValue(number, edit);
         }
     }
 
@@ -65,17 +58,11 @@ public:
     }
 
     Samples::Sample tree;
-    std::map<std::string, std::pair<bool, std::string>>
-        base;                                   ///< by path, whether the base document gave it, and its text
-    std::set<std::string> inBase;               ///< paths of values that are as the base document gave them
-    std::map<std::string, std::size_t> writers; ///< by path, the entry that changed it last
-    /// By path, all entries that gave it another value or took it away.
-    std::map<std::string, std::vector<std::size_t>> history;
+    ValueOrigins origins;
 
 private:
     using Outcome = MergeJournal::Outcome;
     using Action = MergeJournal::Action;
-    using Values = std::map<std::string, std::string>;
 
     static std::string Step(const Samples::FieldSample& field, std::size_t position) {
         const std::string name(field.field.Name()), keyName(field.field.KeyAttribute());
@@ -230,8 +217,8 @@ private:
     }
 
     /// All values that an edit of an object may touch.
-    Values ObjectValues(const MergeJournal::Entry& edit) const {
-        Values values;
+    ValueOrigins::Values ObjectValues(const MergeJournal::Entry& edit) const {
+        ValueOrigins::Values values;
         if (edit.IsContainer && edit.Asked != Action::Place) {
             ForEachValue(tree, "", [&](const std::string& path, const Samples::FieldSample&, const std::string& text) {
                 if (edit.Path.empty() || path.starts_with(edit.Path + "/")) {
@@ -241,45 +228,4 @@ private:
         }
         return values;
     }
-
-    void NoteValue(std::size_t number, const MergeJournal::Entry& edit) {
-        Forget(edit.Path);
-        if (edit.Cause.empty()) { // else the override does not name it: it follows from something new
-            history[edit.Path].push_back(number);
-        }
-        if (edit.Cause.empty() && edit.Result != Outcome::Removed) {
-            writers[edit.Path] = number;
-        }
-    }
-
-    void NoteObject(std::size_t number, const MergeJournal::Entry& edit, const Values& before) {
-        const Values after = ObjectValues(edit);
-        for (const auto& [path, text] : before) {
-            const auto now = after.find(path);
-            if (now == after.end()) {
-                Forget(path);
-                history[path].push_back(number);
-                m_gone[path] = {edit.FeatureID, text};
-            } else if (now->second != text) {
-                writers[path] = number;
-            } else if (edit.Result == Outcome::Replaced) { // in something new, where nobody gave it
-                Forget(path);
-            }
-        }
-        for (const auto& [path, text] : after) {
-            const auto gone = m_gone.find(path);
-            const bool isBack = edit.Result == Outcome::Added && gone != m_gone.end();
-            if (isBack && gone->second.first == edit.FeatureID && gone->second.second != text) {
-                writers[path] = number; // what one merge takes away and brings back without the value is reset
-            }
-        }
-    }
-
-    void Forget(const std::string& path) {
-        inBase.erase(path);
-        writers.erase(path);
-    }
-
-    /// By path, who took the value away, and its text.
-    std::map<std::string, std::pair<std::string, std::string>> m_gone;
 };

@@ -2,6 +2,7 @@
 
 #include "Containers/EveryClass.h"
 
+#include "Framework/MergeJournal.h"
 #include "FrameworkDataContainers/FrameworkDataContainers.h"
 
 namespace {
@@ -429,9 +430,13 @@ TEST(MergeControl, MergeElementByItselfIsDoneWhenItReturns) {
         source.SetCurrentNode(nullptr);
         return success;
     };
+    MergeJournal journal; // takes part, with paths below the object
+    const MergeJournal::Recording recording(journal);
     ASSERT_TRUE(merge(0) && merge(1));
     ASSERT_EQ(entries.size(), 2U);
     EXPECT_EQ(entries[0], map.contents().at("B"));
+    EXPECT_EQ(journal.At(0).Path, "ChildThread[UniqueName=A]");
+    EXPECT_EQ(journal.At(0).FeatureID, "F");
     TypedDataContainer* const before = entries[1];
     ASSERT_TRUE(merge(2) && merge(3));
     ASSERT_EQ(entries.size(), 1U);

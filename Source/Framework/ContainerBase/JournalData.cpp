@@ -125,7 +125,7 @@ void JournalData::NoteBase(Scope& scope, TypedDataContainer* object) {
 
 void JournalData::Enter(Scope scope, std::string_view name, std::string_view keyName, std::string_view key,
                         TypedDataContainer* object) noexcept {
-    if (m_scope == kLost) {
+    if (m_scope == kLost || m_scope == 0) {
         return;
     }
     try {

@@ -102,6 +102,10 @@ public:
 
     /// That of this thread; null when none is installed.
     static JournalData* Current() noexcept { return s_current; }
+    /// The same while no merge writes into it: a host calls a part of a merge by itself.
+    static JournalData* Idle() noexcept {
+        return s_current != nullptr && s_current->m_scope == 0 ? s_current : nullptr;
+    }
     static JournalData* Install(JournalData* journal) noexcept;
     static JournalData* Of(MergeJournal& journal) noexcept { return journal.m_pData.get(); }
 
@@ -224,7 +228,7 @@ private:
 std::string_view KeyInPath(std::string_view key, bool isNumber, std::string& room) noexcept;
 
 /// The outer merge of an object: what is written meanwhile belongs to the feature, with paths below the object. Does
-/// nothing when there is no journal.
+/// nothing when there is no journal; of a part of a merge that a host calls by itself, nothing when one is going on.
 class JournalMerge {
 public:
     JournalMerge(JournalData* journal, TypedDataContainer& object, const WrapperState& source,

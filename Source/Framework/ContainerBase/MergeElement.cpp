@@ -347,6 +347,7 @@ bool TypedDataContainer::MergeElement(zelString sFeatureID, Zelvon::SyncMap<zelS
             return false;
         }
         const WrapperState& source = WrapperAccess::State(*pMergeData);
+        const JournalMerge merge(JournalData::Idle(), *this, source, sFeatureID);
         const EntryNode node{*this, *pMergeData, *source.Tree(), source.Here(), sFeatureID, sKey, sXMLName};
         if (FindAttribute(node.tree, node.node, sKeyName) == NodeRef::None) {
             return RefuseKeyless(node, sKeyName, __LINE__);
@@ -367,6 +368,7 @@ bool TypedDataContainer::MergeElement(zelString sFeatureID,
             return false;
         }
         const WrapperState& source = WrapperAccess::State(*pMergeData);
+        const JournalMerge merge(JournalData::Idle(), *this, source, sFeatureID);
         const EntryNode node{*this, *pMergeData, *source.Tree(), source.Here(), sFeatureID, sKey, sXMLName};
         const zelString keyName;
         return EntryMerge<SimpleDataContainer, TextEntries>(node, list, TextEntries(node, eType), keyName).Run();

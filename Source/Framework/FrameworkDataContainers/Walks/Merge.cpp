@@ -334,10 +334,7 @@ bool Merge(TypedDataContainer& object, const FieldTable& table, XMLDataWrapper* 
         ContainerAccess::SetFixedError(object, -1, "Unknown Exception occured in MergeDataMembers");
         return false;
     }
-    // A host that calls the walk by itself has not begun a merge.
-    JournalData* const journal = JournalData::Current();
-    const JournalMerge merge(journal == nullptr || journal->IsMerging() ? nullptr : journal, object,
-                             WrapperAccess::State(*pMergeData), sFeatureID);
+    const JournalMerge merge(JournalData::Idle(), object, WrapperAccess::State(*pMergeData), sFeatureID);
     return MergeClass(object, table, pMergeData, sFeatureID, line, true);
 }
 
