@@ -89,6 +89,7 @@ TEST_F(Lanedoc, AnswersEveryUseWithItsCodeAndWord) {
         {"explain base.xml fine.xml -p StateTable/State", 2, "as in StateTable/State[Name=Idle]/..."},
         {"explain base.xml fine.xml -p 'StateTable/State[Name=Busy]/Name'", 1, "no entry State[Name=Busy]"},
         {"blame base.xml fine.xml --feature fin", 2, R"(no feature "fin" is merged; did you mean fine?)"},
+        {"merge base.xml fine.xml --on-conflict 2", 2, "--on-conflict: 2 not in {error,last,warn}"},
         {"merge base.xml fine.xml --report -", 2, "name a file by -o"},
         {"merge base.xml fine.xml -o out.xml --report ./fine.xml", 2, "where a document is: fine.xml"},
         {"merge base.xml fine.xml -o out.xml --report missing/report", 5, "missing/report: error: cannot write"},

@@ -145,19 +145,27 @@ ExitCode Merge(const MergeOptions& options, ColorMode color) {
     return refused > 0 ? ExitCode::MergeRefused : ExitCode::Done;
 }
 
+/// An option that takes one of some words.
+template <typename Choice>
+CLI::Option* AddChoice(CLI::App& command, const std::string& name, const std::string& description,
+                       const std::map<std::string, Choice>& words, Choice& chosen) {
+    const auto choose = [words, &chosen](const std::string& word) { chosen = words.at(word); };
+    return command.add_option_function<std::string>(name, choose, description)
+        ->check(CLI::IsMember(words).description(""));
+}
+
 void AddOutputOptions(CLI::App& command, MergeOptions& options) {
     command
         .add_option("-o,--output", options.output,
                     "Where the result goes, replaced as a whole or not at all; \"-\" (default) for standard output")
         ->type_name("FILE");
-    const std::map<std::string, Provenance> provenances = {
-        {"none", Provenance::None}, {"comments", Provenance::Comments}, {"attributes", Provenance::Attributes}};
-    command
-        .add_option("--provenance", options.provenance,
-                    "none (default), or comments or attributes in the result that tell which feature set a value, "
-                    "and where")
-        ->type_name("HOW")
-        ->transform(CLI::CheckedTransformer(provenances).description(""));
+    AddChoice<Provenance>(
+        command, "--provenance",
+        "none (default), or comments or attributes in the result that tell which feature set a "
+        "value, and where",
+        {{"none", Provenance::None}, {"comments", Provenance::Comments}, {"attributes", Provenance::Attributes}},
+        options.provenance)
+        ->type_name("HOW");
     CLI::Option* const report =
         command
             .add_option("--report", options.report,
@@ -171,14 +179,12 @@ void AddOutputOptions(CLI::App& command, MergeOptions& options) {
 }
 
 void AddProblemOptions(CLI::App& command, MergeOptions& options) {
-    const std::map<std::string, OnConflict> policies = {
-        {"error", OnConflict::Error}, {"warn", OnConflict::Warn}, {"last", OnConflict::Last}};
-    command
-        .add_option("--on-conflict", options.onConflict,
-                    "When two features disagree the later one wins: warn (default) of it, last says nothing, error "
-                    "writes nothing")
-        ->type_name("POLICY")
-        ->transform(CLI::CheckedTransformer(policies).description(""));
+    AddChoice<OnConflict>(command, "--on-conflict",
+                          "When two features disagree the later one wins: warn (default) of it, last says nothing, "
+                          "error writes nothing",
+                          {{"error", OnConflict::Error}, {"warn", OnConflict::Warn}, {"last", OnConflict::Last}},
+                          options.onConflict)
+        ->type_name("POLICY");
     command.add_flag("--keep-going", options.keepGoing,
                      "Write the result although parts of an override were refused; the exit code is 4 all the same");
 }
