@@ -141,8 +141,8 @@ std::string ValuesOf(const Entry& entry, std::size_t limit) {
     if (entry.IsContainer) {
         return entry.Asked == MergeJournal::Action::Clear && entry.Result == Outcome::Changed ? "(by Clear)" : "";
     }
-    const std::string before = Quoted(entry.OldValue, limit);
-    const std::string after = Quoted(entry.NewValue, limit);
+    std::string before = Quoted(entry.OldValue, limit);
+    std::string after = Quoted(entry.NewValue, limit);
     switch (entry.Result) {
     case Outcome::Added:
     case Outcome::Unchanged:
