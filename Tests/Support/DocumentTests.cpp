@@ -16,8 +16,8 @@ namespace {
 
 using namespace std::literals;
 
-std::shared_ptr<const Document> Parse(std::string bytes) {
-    return Document::Parse(std::move(bytes), "doc.xml", LoadLimits());
+std::shared_ptr<const Document> Parse(std::string bytes, const LoadLimits& limits = LoadLimits()) {
+    return Document::Parse(std::move(bytes), "doc.xml", limits);
 }
 
 std::string Escaped(std::string_view text) {
@@ -223,7 +223,14 @@ TEST(Document, ReadsRandomDocumentsAsTheyWereWritten) {
     }
 }
 
-// The parser is fed in pieces: whatever stands where two of them meet must read as it does alone.
+/// Limits under which a document of 300 KB comes to the parser in pieces, for want of memory for another copy.
+LoadLimits FewMemory() {
+    LoadLimits limits;
+    limits.memory = 4'700'000;
+    return limits;
+}
+
+// Whatever stands where two pieces meet must read as it does alone.
 TEST(DocumentPieces, ReadAsOneDocument) {
     const std::string part = "<p k='a&amp;b>' l=\"\t\n\">t\r\nu]] &lt;&#13;<!-- <x ]]> --><![CDATA[<y>]] &amp; -->\r]]>"
                              "<?i <z ?>\xE2\x82\xAC]<q/>\r<q >\r\n</q\n>v&#x20AC;</p>";
@@ -234,7 +241,7 @@ TEST(DocumentPieces, ReadAsOneDocument) {
         while (text.size() < 300'000) {
             text += part;
         }
-        const std::shared_ptr<const Document> document = Parse(text + "</r>");
+        const std::shared_ptr<const Document> document = Parse(text + "</r>", FewMemory());
         ASSERT_EQ(document->Bytes(), text + "</r>");
         auto at = static_cast<std::uint32_t>(3 + shift);
         for (NodeRef node = document->FirstChild(document->Root()); node != NodeRef::None;
@@ -248,11 +255,34 @@ TEST(DocumentPieces, ReadAsOneDocument) {
         }
         ASSERT_EQ(at, text.size());
         try {
-            Parse(text + "</wrong>");
+            Parse(text + "</wrong>", FewMemory());
             ADD_FAILURE() << "loaded";
         } catch (const ParseError& error) {
             ASSERT_NE(error.Message().find("found </wrong>, expected </r>, opened at 1:1"), std::string::npos);
         }
+    }
+}
+
+// A long text is given in pieces, and of what does not end no more than a beginning: with the same result.
+TEST(DocumentPieces, MayEndInALongTextAndLeaveOutWhatHasNoEnd) {
+    const std::string filling = std::string(70'000, 'a') + "]]\r\n\xE2\x82\xAC";
+    const std::string text = filling + "&amp;" + filling + "&#x20AC;" + filling + "&lt;" + filling + filling;
+    const std::string open = "<r k='>'>\n";
+    const auto outcome = [](const std::string& bytes, const LoadLimits& limits) -> std::string {
+        try {
+            const std::shared_ptr<const Document> document = Parse(bytes, limits);
+            return Dump(*document, document->Root(), false);
+        } catch (const ParseError& error) {
+            return error.what();
+        }
+    };
+    for (const std::string& bytes :
+         {open + text + "</r>", open + text + "<b/>" + text + "</r>", open + text, open + "<!--" + text,
+          open + "<?i " + text, open + "<![CDATA[" + text, open + "&" + std::string(400'000, 'a'),
+          open + text + "&" + std::string(400'000, 'a') + "</r>", open + text + "& " + text + "</r>",
+          open + text + "&amp" + text + "</r>", open + text + "\x01" + text + "</r>"}) {
+        const std::string expected = outcome(bytes, LoadLimits());
+        EXPECT_EQ(outcome(bytes, FewMemory()), expected) << expected.substr(0, 200);
     }
 }
 

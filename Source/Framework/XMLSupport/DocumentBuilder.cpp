@@ -152,8 +152,7 @@ void DocumentBuilder::SetValue(NodeRecord& record, std::string_view value, ByteR
 std::uint32_t DocumentBuilder::Add(NodeKind kind, ByteRange range) {
     const std::size_t number = m_data.nodes.size();
     if (number - 2 >= m_limits.nodes) {
-        throw ErrorAt(m_data, range.begin,
-                      LimitPassed("the document has too many nodes", std::to_string(m_limits.nodes), "nodes"));
+        throw ErrorAt(m_data, range.begin, NodesPassed(m_limits));
     }
     if (number == m_data.nodes.capacity()) {
         MakeRoom(range.begin);

@@ -3,6 +3,7 @@
 #include "Framework/SupportFunc.h"
 #include "Framework/XMLSupport/DocumentBuilder.h"
 #include "Framework/XMLSupport/LimitMessages.h"
+#include "Framework/XMLSupport/NodeCounter.h"
 #include "Framework/XMLSupport/ParserMemory.h"
 #include "Framework/XMLSupport/ParserMessages.h"
 #include "Framework/XMLSupport/TagScanner.h"
@@ -14,6 +15,7 @@
 #include <exception>
 #include <memory>
 #include <new>
+#include <type_traits>
 #include <utility>
 
 namespace Framework {
@@ -27,7 +29,7 @@ namespace {
 /// so it gets a document at once. It copies what it is given; a document that is large for the memory limit comes in
 /// pieces, and so does one with a tag that the parser must not get to see. The parser would read a token again from its
 /// start with each further piece, so none ends within a token.
-class ParserRun {
+template <typename Builder> class ParserRun {
 public:
     ParserRun(DocumentData& data, const LoadLimits& limits, double startSeconds)
         : m_data(data), m_limits(limits), m_startSeconds(startSeconds), m_builder(data, limits),
@@ -69,6 +71,8 @@ public:
         }
     }
 
+    const Builder& Result() const { return m_builder; }
+
 private:
     template <typename Work> static void Handle(void* user, Work work) noexcept {
         auto& run = *static_cast<ParserRun*>(user);
@@ -99,7 +103,7 @@ private:
 
     void ParsePiece(std::size_t begin, std::size_t end) {
         const std::string& text = m_data.source.text;
-        const bool isLast = end == text.size() && !m_scanner.Forbidden().has_value();
+        const bool isLast = (end == text.size() && !m_scanner.Forbidden().has_value()) || m_scanner.IsCut();
         const XML_Status status = ::XML_Parse(m_parser.get(), text.data() + begin, static_cast<int>(end - begin),
                                               isLast ? XML_TRUE : XML_FALSE);
         if (m_failure) {
@@ -114,7 +118,11 @@ private:
         if (code == XML_ERROR_NO_MEMORY) {
             FailForMemory(place);
         }
-        throw ParserError(m_data, m_builder, code, place);
+        if constexpr (std::is_same_v<Builder, DocumentBuilder>) {
+            throw ParserError(m_data, m_builder, code, place);
+        } else {
+            throw ErrorAt(m_data, place, "not well-formed"); // which the builder's run will say better
+        }
     }
 
     [[noreturn]] void RefuseTag(const ForbiddenTag& tag) const {
@@ -205,11 +213,27 @@ private:
     double m_startSeconds;
     std::exception_ptr m_failure;
     std::size_t m_nextCheck = kPieceBytes;
-    DocumentBuilder m_builder;
+    Builder m_builder;
     TagScanner m_scanner;
     ParserMemory m_memory;
     std::unique_ptr<XML_ParserStruct, ParserDeleter> m_parser;
 };
+
+/// Refuses a document that has more nodes than are allowed before any memory is spent on them. Whatever else is wrong
+/// with it is left to the builder.
+void RefuseTooManyNodes(DocumentData& data, const LoadLimits& limits, double startSeconds) {
+    if (!MayHaveTooManyNodes(data.source.text, limits)) {
+        return;
+    }
+    ParserRun<NodeCounter> run(data, limits, startSeconds);
+    try {
+        run.Parse();
+    } catch (const ParseError&) {
+        if (run.Result().HasTooMany()) {
+            throw;
+        }
+    }
+}
 
 /// What the parser would let pass or say less well.
 void CheckText(const DocumentData& data) {
@@ -244,7 +268,8 @@ DocumentData ParseDocument(std::string bytes, std::string sourceName, const Load
     data.sourceName = std::move(sourceName);
     data.source = DecodeDocument(std::move(bytes), data.sourceName, limits);
     CheckText(data);
-    ParserRun(data, limits, startSeconds).Parse();
+    RefuseTooManyNodes(data, limits, startSeconds);
+    ParserRun<DocumentBuilder>(data, limits, startSeconds).Parse();
     return data;
 }
 

@@ -16,8 +16,8 @@ struct ForbiddenTag {
 };
 
 /// Goes through the text of a document from markup to markup, ahead of the parser. It knows where a piece for the
-/// parser may end without cutting a token in two, and sees tags that would cost the parser too much: the parser keeps a
-/// whole tag, with all its attributes, before it tells of it.
+/// parser may end without cutting a token in two (in a text anywhere but in a reference), and sees tags that would cost
+/// the parser too much: the parser keeps a whole tag, with all its attributes, before it tells of it.
 ///
 /// Of text that is not well-formed it may take the wrong view, but no more than the parser refuses it for.
 class TagScanner {
@@ -28,22 +28,29 @@ public:
     /// tags all stand close to each other.
     bool MayStop() const;
 
-    /// Goes on to the first beginning of a markup at or behind the offset, else to the end of the text, or stops at a
-    /// forbidden tag. Returns where it stands.
+    /// Goes on to the first beginning of a markup at or behind the offset, or into a long text there, else to the end
+    /// of the text, or stops at a forbidden tag. Returns where it stands.
     std::size_t GoTo(std::size_t offset);
+    /// It stopped in a comment, instruction, section or reference that does not end: what follows is worth nothing, and
+    /// the parser need not keep it.
+    bool IsCut() const { return m_isCut; }
     /// The tag at which it stopped.
     const std::optional<ForbiddenTag>& Forbidden() const { return m_forbidden; }
 
 private:
     std::size_t EndOfMarkup(std::size_t begin);
-    std::size_t Behind(std::string_view delimiter, std::size_t from) const;
+    std::size_t Behind(std::string_view delimiter, std::size_t from);
+    std::size_t CutOfText(std::size_t begin, std::size_t offset, std::size_t end);
+    std::size_t EndOfTag(std::size_t begin, std::size_t end) const;
     std::optional<ForbiddenTag> ForbiddenIn(std::size_t begin, std::size_t end) const;
 
     std::string_view m_text;
     const LoadLimits& m_limits;
     std::size_t m_neverForbidden;
     std::size_t m_at = 0;
+    std::size_t m_nextMarkup = 0; ///< the next '<', where that is not before m_at
     std::optional<ForbiddenTag> m_forbidden;
+    bool m_isCut = false;
 };
 
 } // namespace Framework
