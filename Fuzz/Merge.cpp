@@ -1,6 +1,8 @@
 #include <memory>
 
 #include "Framework/ContainerBase/ContainerAccess.h"
+#include "Framework/DocumentCheck.h"
+#include "Framework/MergeJournal.h"
 #include "Framework/XMLDataWrapper.h"
 #include "Target.h"
 #include "Trees.h"
@@ -88,6 +90,36 @@ void ExpectUpdates(TypedDataContainer& object, XMLDataWrapper& wrapper, const Re
     }
 }
 
+/// A journal changes nothing of a merge, and can be asked about whatever it holds; a check finds the documents as they
+/// are.
+void ExpectJournal(const zelString& name, XMLDataWrapper& base, XMLDataWrapper& source, const Reading& merged) {
+    const std::unique_ptr<TypedDataContainer> object = LoadedObject(name, base);
+    MergeJournal journal;
+    {
+        const MergeJournal::Recording recording(journal);
+        Expect(object->MergeFromDataPacket(nullptr, "Night", &source, false), "a merge fails with a journal alone");
+    }
+    ExpectEqual(ReadAll(*object), merged, "a journal changes a merge");
+    Expect(journal.IsComplete(), "a journal is not complete");
+    Expect(journal.Conflicts().empty(), "a feature is in conflict with itself");
+    std::size_t problems = 0;
+    for (std::size_t i = 0; i < journal.Size(); ++i) {
+        const MergeJournal::Entry entry = journal.At(i);
+        Expect(entry.Place.IsKnown(), "an entry has no place", entry.Path);
+        problems += entry.Problem.has_value() ? 1U : 0U;
+        std::size_t winners = 0;
+        for (const MergeJournal::Writer& writer : journal.WritersOf(*object, entry.Path)) {
+            winners += writer.Wins ? 1U : 0U;
+        }
+        Expect(winners <= 1, "a value has two winners", entry.Path);
+    }
+    Expect(journal.Problems().size() == problems, "problems are counted otherwise than they stand");
+    Expect(journal.WithoutEffect().size() >= problems, "a problem had an effect");
+    const CatalogClass container = ContainerCatalog::ClassOf(*object);
+    static_cast<void>(DocumentCheck::Run(base, container));
+    static_cast<void>(DocumentCheck::Run(source, container, DocumentCheck::Kind::Override));
+}
+
 } // namespace
 
 std::vector<std::string_view> DocumentsOfMerge(std::string_view input) {
@@ -133,6 +165,7 @@ void Merge(std::string_view input) {
             ExpectTaken(*object, *override, "");
         }
     }
+    ExpectJournal(name, base, source, merged);
     ExpectDumpLoadsEqual(*object, merged, log);
     ExpectUpdates(*object, base, merged);
     delete object->Clone();
