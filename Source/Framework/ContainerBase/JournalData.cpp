@@ -65,12 +65,7 @@ JournalValue JournalData::NodeValue(const XmlTree& tree, NodeRef node) noexcept 
     if (IsSource(tree)) {
         return {JournalValue::Kind::NodeText, {.node = static_cast<std::uint64_t>(node)}};
     }
-    try {
-        return TextValue(TextOf(tree, node));
-    } catch (...) {
-        m_isComplete = false;
-        return {};
-    }
+    return MadeTextValue([&] { return TextOf(tree, node); });
 }
 
 JournalData::Number JournalData::NumberOfName(std::string_view name) {

@@ -18,23 +18,24 @@ namespace Framework {
 namespace {
 
 /// Nodes by a key that stands in the document: a flat table that keeps no texts, for there may be as many as a list is
-/// long.
+/// long. Of each node it keeps the position in its list, which may be its key.
 class KeyedNodes {
 public:
     /// Puts the node in the place of the one of the same key, which is returned; None when it is the first.
-    template <typename Equals> NodeRef AddOrExchange(std::string_view key, NodeRef node, Equals hasKey) {
+    template <typename Equals>
+    NodeRef AddOrExchange(std::string_view key, NodeRef node, std::size_t position, Equals hasKey) {
         if (2 * (m_used + 1) > m_slots.size()) {
             Grow();
         }
         const std::size_t hash = TextHash()(key);
         std::size_t place = hash & (m_slots.size() - 1);
         while (m_slots[place].node != NodeRef::None) {
-            if (m_slots[place].hash == hash && hasKey(m_slots[place].node)) {
-                return std::exchange(m_slots[place].node, node);
+            if (m_slots[place].hash == hash && hasKey(m_slots[place].node, m_slots[place].position)) {
+                return std::exchange(m_slots[place], {hash, node, position}).node;
             }
             place = (place + 1) & (m_slots.size() - 1);
         }
-        m_slots[place] = {hash, node};
+        m_slots[place] = {hash, node, position};
         ++m_used;
         return NodeRef::None;
     }
@@ -43,6 +44,7 @@ private:
     struct Slot {
         std::size_t hash = 0;
         NodeRef node = NodeRef::None;
+        std::size_t position = 0;
     };
 
     void Grow() {
@@ -337,44 +339,39 @@ private:
         }
         if (seen.keys == nullptr) {
             seen.keys = std::make_unique<KeyedNodes>();
-            NoteKey(seen, seen.first, 0);
+            NoteKey(seen, seen.first, 1);
         }
         if (const NodeRef first = NoteKey(seen, child, seen.count); first != NodeRef::None) {
-            ReportSecond(row, first, child);
+            ReportSecond(row, first, child, seen.count);
         }
     }
 
     /// The node before it that has the same key, None when there is none.
     NodeRef NoteKey(SeenField& seen, NodeRef child, std::size_t position) {
         const std::string_view key = KeyIn(*seen.row, child, position, m_room);
-        return seen.keys->AddOrExchange(key, child, [&](NodeRef other) {
+        return seen.keys->AddOrExchange(key, child, position, [&](NodeRef other, std::size_t otherPosition) {
             std::string room;
-            return KeyIn(*seen.row, other, 0, room) == key;
+            return KeyIn(*seen.row, other, otherPosition, room) == key;
         });
     }
 
-    /// The key of an entry; where it is the position among its namesakes, 0 has that counted.
+    /// The key of an entry, which may be its position among its namesakes.
     std::string_view KeyIn(const FieldRow& row, NodeRef child, std::size_t position, std::string& room) const {
         const NodeRef attribute = FindAttribute(m_tree, child, row.keyAttribute);
         if (attribute != NodeRef::None || !row.numberedKeys) {
             return attribute == NodeRef::None ? std::string_view() : m_tree.Value(attribute, room);
         }
-        for (NodeRef other = position == 0 ? child : NodeRef::None; other != NodeRef::None;
-             other = m_tree.PreviousSibling(other)) {
-            const bool isNamesake = m_tree.Kind(other) == NodeKind::Element && m_tree.Name(other) == row.name;
-            position += isNamesake ? 1U : 0U;
-        }
         room = std::to_string(position);
         return room;
     }
 
-    void ReportSecond(const FieldRow& row, NodeRef first, NodeRef child) {
+    void ReportSecond(const FieldRow& row, NodeRef first, NodeRef child, std::size_t position) {
         const bool isMerge = m_rules.reader == ElementReader::Merge;
         if (isMerge && AttributeOf(m_tree, first, actionAttribute) == "Remove") {
             return; // taken out, and brought anew
         }
         std::string room;
-        const std::string key(KeyIn(row, child, 0, room));
+        const std::string key(KeyIn(row, child, position, room));
         Report(child, FieldPath::KeyStep(row.name, row.keyAttribute, key),
                {FindingCode::DuplicateKey,
                 "a second " + std::string(row.name) + " with " + std::string(row.keyAttribute) + "=" + Quoted(key) +
