@@ -49,18 +49,20 @@ private:
         struct Piece {
             std::string written, read, inAttribute;
         };
-        static const std::vector<Piece> pieces{{"word", "word", "word"},
-                                               {"&lt;", "<", "<"},
-                                               {"&#10;", "\\n", "\\n"},
-                                               {"\r\n", "\\n", " "},
-                                               {"\rx", "\\nx", " x"},
-                                               {"\n", "\\n", " "},
-                                               {"\t", "\\t", " "},
-                                               {"&#13;", "\\r", "\\r"},
-                                               {"]", "]", "]"},
-                                               {"&amp;", "&", "&"},
-                                               {"&#x20AC;", "\xE2\x82\xAC", "\xE2\x82\xAC"},
-                                               {"\xF0\x9F\x99\x82", "\xF0\x9F\x99\x82", "\xF0\x9F\x99\x82"}};
+        static const std::vector<Piece> pieces{
+            {"word", "word", "word"},
+            {"plain words \xC3\xA9t\xC3\xA9", "plain words \xC3\xA9t\xC3\xA9", "plain words \xC3\xA9t\xC3\xA9"},
+            {"&lt;", "<", "<"},
+            {"&#10;", "\\n", "\\n"},
+            {"\r\n", "\\n", " "},
+            {"\rx", "\\nx", " x"},
+            {"\n", "\\n", " "},
+            {"\t", "\\t", " "},
+            {"&#13;", "\\r", "\\r"},
+            {"]", "]", "]"},
+            {"&amp;", "&", "&"},
+            {"&#x20AC;", "\xE2\x82\xAC", "\xE2\x82\xAC"},
+            {"\xF0\x9F\x99\x82", "\xF0\x9F\x99\x82", "\xF0\x9F\x99\x82"}};
         for (std::size_t count = 1 + Below(5); count > 0; --count) {
             const Piece& piece = pieces[Below(pieces.size())];
             m_text += piece.written;
@@ -96,9 +98,9 @@ private:
         m_text += opening;
         m_tree += before;
         for (std::size_t count = Below(3); count > 0; --count) {
-            const std::size_t choice = Below(4);
-            m_text += std::vector<std::string>{"x&lt;", "1\r\n2", "3\r4", "\xC3\xA4>"}[choice];
-            m_tree += std::vector<std::string>{"x&lt;", "1\\n2", "3\\n4", "\xC3\xA4>"}[choice];
+            const std::size_t choice = Below(5);
+            m_text += std::vector<std::string>{"x&lt;", "1\r\n2", "3\r4", "\xC3\xA4>", "some more plain words"}[choice];
+            m_tree += std::vector<std::string>{"x&lt;", "1\\n2", "3\\n4", "\xC3\xA4>", "some more plain words"}[choice];
         }
         m_text += closing;
         m_tree += after;

@@ -138,12 +138,13 @@ void DocumentBuilder::Instruction(std::string_view target, std::string_view cont
              {SkipBlanks(range.begin + 2 + static_cast<std::uint32_t>(target.size())), range.end - 2}); // <? and ?>
 }
 
+/// A value that the parser did not get to see is what is written.
 void DocumentBuilder::SetValue(NodeRecord& record, std::string_view value, ByteRange raw) {
     const std::string_view written = std::string_view(m_data.source.text).substr(raw.begin, raw.Size());
-    const bool inPool = value != written;
+    const bool inPool = !value.empty() && value != written;
     record.leaf.holder = inPool ? ValueHolder::Pool : ValueHolder::Source;
     record.leaf.valueBegin = inPool ? static_cast<std::uint32_t>(m_data.pool.size()) : raw.begin;
-    record.leaf.valueLength = value.size() & NodeRecord::kLengthMask;
+    record.leaf.valueLength = (inPool ? value.size() : written.size()) & NodeRecord::kLengthMask;
     if (inPool) {
         m_data.pool.append(value);
     }

@@ -1,6 +1,7 @@
 #include "Framework/XMLSupport/DocumentParser.h"
 
 #include "Framework/SupportFunc.h"
+#include "Framework/XMLSupport/AbridgedText.h"
 #include "Framework/XMLSupport/DocumentBuilder.h"
 #include "Framework/XMLSupport/LimitMessages.h"
 #include "Framework/XMLSupport/NodeCounter.h"
@@ -22,18 +23,22 @@ namespace Framework {
 
 namespace {
 
+/// The parser did not take the abridged text, or not as it was meant. Only the whole text tells what is wrong with it.
+struct NeedsWholeText {};
+
 /// One run of expat over one document. Exceptions of the handlers wait here until the parser has returned: they must
 /// not cross its frames, and it may call further handlers after it was told to stop.
 ///
-/// The parser goes over all of a piece once more, to count lines that nobody asks it for, unless the piece is the last:
-/// so it gets a document at once. It copies what it is given; a document that is large for the memory limit comes in
-/// pieces, and so does one with a tag that the parser must not get to see. The parser would read a token again from its
-/// start with each further piece, so none ends within a token.
+/// A document comes at once, abridged; what was left out between two events is text. One that is large for the memory
+/// limit comes in pieces, and so does one with a tag that the parser must not get to see, and one that turned out not
+/// to be well-formed, as it is. The parser goes over all of a piece once more, to count lines that nobody asks it for,
+/// unless the piece is the last. It would read a token again from its start with each further piece, so none ends
+/// within a token.
 template <typename Builder> class ParserRun {
 public:
     ParserRun(DocumentData& data, const LoadLimits& limits, double startSeconds)
         : m_data(data), m_limits(limits), m_startSeconds(startSeconds), m_builder(data, limits),
-          m_scanner(data.source.text, limits), m_memory(limits.memory),
+          m_memory(limits.memory),
           // With the encoding named, a declaration of the encoding that the document once had is not applied to its
           // UTF-8 text.
           m_parser(::XML_ParserCreate_MM("UTF-8", &ParserMemory::Suite(), nullptr)) {
@@ -53,18 +58,31 @@ public:
         ::XML_SetDefaultHandler(parser, &OnOther);
     }
 
-    void Parse() {
-        const std::size_t size = m_data.source.text.size();
-        if (size <= m_limits.memory / kShareForCopy && !m_scanner.MayStop()) {
-            ParsePiece(0, size);
-            CheckLimits(size);
-            return;
+    /// Throws NeedsWholeText when that is needed.
+    void ParseAbridged() {
+        const std::string& text = m_data.source.text;
+        void* const room = ::XML_GetBuffer(m_parser.get(), static_cast<int>(text.size()));
+        if (room == nullptr) {
+            FailForMemory(0);
         }
-        for (std::size_t at = 0; at < size;) {
-            const std::size_t end = m_scanner.GoTo(at + kPieceBytes);
-            ParsePiece(at, end);
-            if (m_scanner.Forbidden().has_value()) {
-                RefuseTag(*m_scanner.Forbidden());
+        const AbridgedText abridged(text, static_cast<char*>(room));
+        m_isAbridged = true;
+        m_places = WholePlaces(abridged.Gaps());
+        m_gapBytes = abridged.Gaps().capacity() * sizeof(AbridgedText::Gap);
+        CheckStatus(::XML_ParseBuffer(m_parser.get(), static_cast<int>(abridged.Size()), XML_TRUE));
+        TakeTextUpTo(static_cast<std::uint32_t>(text.size()));
+        CheckLimits(text.size());
+    }
+
+    void ParseInPieces() {
+        const std::string& text = m_data.source.text;
+        TagScanner scanner(text, m_limits);
+        for (std::size_t at = 0; at < text.size();) {
+            const std::size_t end = scanner.GoTo(at + kPieceBytes);
+            const bool isLast = (end == text.size() && !scanner.Forbidden().has_value()) || scanner.IsCut();
+            CheckStatus(::XML_Parse(m_parser.get(), text.data() + at, static_cast<int>(end - at), isLast));
+            if (scanner.Forbidden().has_value()) {
+                RefuseTag(*scanner.Forbidden());
             }
             at = end;
             CheckLimits(at);
@@ -87,12 +105,45 @@ private:
         }
     }
 
-    ByteRange Event() {
-        const auto begin = static_cast<std::uint32_t>(::XML_GetCurrentByteIndex(m_parser.get()));
+    /// Whether something may be left out of an event: of a text, and of a tag with its values.
+    enum class Lacks { Nothing, Anything };
+
+    /// The range of the event in the whole text.
+    ByteRange Event(Lacks lacks = Lacks::Nothing) {
+        const auto at = static_cast<std::uint32_t>(::XML_GetCurrentByteIndex(m_parser.get()));
+        const auto size = static_cast<std::uint32_t>(::XML_GetCurrentByteCount(m_parser.get()));
+        // The end of an empty element has no bytes: what comes behind it is not in it.
+        const std::uint32_t begin = size == 0 ? m_places.Behind(at) : m_places.Of(at);
+        const ByteRange range{begin, m_places.Behind(at + size)};
+        m_eventIsWhole = range.Size() == size;
+        if (!m_eventIsWhole && lacks == Lacks::Nothing) {
+            throw NeedsWholeText();
+        }
+        TakeTextUpTo(begin);
+        m_told = range.end;
         if (begin >= m_nextCheck) {
             CheckLimits(begin);
         }
-        return {begin, begin + static_cast<std::uint32_t>(::XML_GetCurrentByteCount(m_parser.get()))};
+        return range;
+    }
+
+    /// What was left out behind the last event.
+    void TakeTextUpTo(std::uint32_t end) {
+        if constexpr (std::is_same_v<Builder, DocumentBuilder>) {
+            if (!m_isAbridged || m_told == end) {
+                return;
+            }
+            const ByteRange range{m_told, end};
+            if (m_builder.OpenElement() != 0) {
+                m_builder.Text(Written(range), range);
+            } else if (Written(range).find_first_not_of(" \t\n") != std::string_view::npos) {
+                throw NeedsWholeText();
+            }
+        }
+    }
+
+    std::string_view Written(ByteRange range) const {
+        return std::string_view(m_data.source.text).substr(range.begin, range.Size());
     }
 
     void CheckLimits(std::size_t at) {
@@ -101,11 +152,7 @@ private:
         CheckMemory(at);
     }
 
-    void ParsePiece(std::size_t begin, std::size_t end) {
-        const std::string& text = m_data.source.text;
-        const bool isLast = (end == text.size() && !m_scanner.Forbidden().has_value()) || m_scanner.IsCut();
-        const XML_Status status = ::XML_Parse(m_parser.get(), text.data() + begin, static_cast<int>(end - begin),
-                                              isLast ? XML_TRUE : XML_FALSE);
+    void CheckStatus(XML_Status status) const {
         if (m_failure) {
             std::rethrow_exception(m_failure);
         }
@@ -117,6 +164,9 @@ private:
         const std::size_t place = offset < 0 ? 0 : static_cast<std::size_t>(offset);
         if (code == XML_ERROR_NO_MEMORY) {
             FailForMemory(place);
+        }
+        if (m_isAbridged) {
+            throw NeedsWholeText();
         }
         if constexpr (std::is_same_v<Builder, DocumentBuilder>) {
             throw ParserError(m_data, m_builder, code, place);
@@ -143,7 +193,7 @@ private:
     }
 
     void CheckMemory(std::size_t at) {
-        const std::size_t used = MemoryOf(m_data);
+        const std::size_t used = MemoryOf(m_data) + m_gapBytes;
         if (used > m_limits.memory || m_memory.Used() > m_limits.memory - used) {
             throw ErrorAt(m_data, at, MemoryPassed(m_limits));
         }
@@ -159,14 +209,17 @@ private:
     }
 
     static void XMLCALL OnStart(void* user, const char* name, const char** attributes) {
-        Handle(user, [&](ParserRun& run) { run.m_builder.StartElement(name, attributes, run.Event()); });
+        Handle(user, [&](ParserRun& run) { run.m_builder.StartElement(name, attributes, run.Event(Lacks::Anything)); });
     }
     static void XMLCALL OnEnd(void* user, const char* /*name*/) {
         Handle(user, [](ParserRun& run) { run.m_builder.EndElement(run.Event().end); });
     }
     static void XMLCALL OnText(void* user, const char* text, int length) {
         Handle(user, [&](ParserRun& run) {
-            run.m_builder.Text({text, static_cast<std::size_t>(length)}, run.Event());
+            const ByteRange range = run.Event(Lacks::Anything);
+            const bool isWhole = run.m_eventIsWhole;
+            run.m_builder.Text(isWhole ? std::string_view(text, static_cast<std::size_t>(length)) : run.Written(range),
+                               range);
         });
     }
     static void XMLCALL OnSectionStart(void* user) {
@@ -183,6 +236,7 @@ private:
     }
     static void XMLCALL OnDeclaration(void* user, const char* version, const char* /*encoding*/, int /*standalone*/) {
         Handle(user, [&](ParserRun& run) {
+            run.Event();
             if (std::string_view(version) != "1.0") {
                 // The version comes first in a declaration, so the first quote is its.
                 const std::size_t quote = run.m_data.source.text.find_first_of("\"'");
@@ -195,15 +249,14 @@ private:
     // place.
     static void XMLCALL OnOther(void* user, const char* text, int length) {
         Handle(user, [&](ParserRun& run) {
+            const ByteRange range = run.Event();
             if (std::string_view(text, static_cast<std::size_t>(length)).starts_with("<!DOCTYPE")) {
-                throw ErrorAt(run.m_data, run.Event().begin, kNoDoctype);
+                throw ErrorAt(run.m_data, range.begin, kNoDoctype);
             }
         });
     }
 
     static constexpr std::size_t kPieceBytes = std::size_t{64} * 1024;
-    static constexpr std::size_t kShareForCopy = 16;
-
     struct ParserDeleter {
         void operator()(XML_Parser parser) const { ::XML_ParserFree(parser); }
     };
@@ -214,7 +267,11 @@ private:
     std::exception_ptr m_failure;
     std::size_t m_nextCheck = kPieceBytes;
     Builder m_builder;
-    TagScanner m_scanner;
+    bool m_isAbridged = false;
+    WholePlaces m_places;
+    std::size_t m_gapBytes = 0;
+    std::uint32_t m_told = 0; ///< the end of the last event
+    bool m_eventIsWhole = true;
     ParserMemory m_memory;
     std::unique_ptr<XML_ParserStruct, ParserDeleter> m_parser;
 };
@@ -227,11 +284,30 @@ void RefuseTooManyNodes(DocumentData& data, const LoadLimits& limits, double sta
     }
     ParserRun<NodeCounter> run(data, limits, startSeconds);
     try {
-        run.Parse();
+        run.ParseInPieces();
     } catch (const ParseError&) {
         if (run.Result().HasTooMany()) {
             throw;
         }
+    }
+}
+
+/// False when the document is not one for this road, or its text is needed in whole; nothing is left of it then.
+bool ParseAbridged(DocumentData& data, const LoadLimits& limits, double startSeconds) {
+    constexpr std::size_t shareForCopy = 16;
+    const std::string& text = data.source.text;
+    if (text.size() > limits.memory / shareForCopy || TagScanner(text, limits).MayStop()) {
+        return false;
+    }
+    try {
+        ParserRun<DocumentBuilder>(data, limits, startSeconds).ParseAbridged();
+        return true;
+    } catch (const NeedsWholeText&) {
+        DocumentData fresh;
+        fresh.sourceName = std::move(data.sourceName);
+        fresh.source = std::move(data.source);
+        data = std::move(fresh);
+        return false;
     }
 }
 
@@ -269,7 +345,9 @@ DocumentData ParseDocument(std::string bytes, std::string sourceName, const Load
     data.source = DecodeDocument(std::move(bytes), data.sourceName, limits);
     CheckText(data);
     RefuseTooManyNodes(data, limits, startSeconds);
-    ParserRun<DocumentBuilder>(data, limits, startSeconds).Parse();
+    if (!ParseAbridged(data, limits, startSeconds)) {
+        ParserRun<DocumentBuilder>(data, limits, startSeconds).ParseInPieces();
+    }
     return data;
 }
 

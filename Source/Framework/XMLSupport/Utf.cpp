@@ -122,6 +122,19 @@ std::size_t FindInvalidUtf8(std::string_view text) noexcept {
     return std::string_view::npos;
 }
 
+std::size_t BehindLongCharacters(std::string_view text, std::size_t offset) noexcept {
+    const char* p = text.data() + offset;
+    const char* const end = text.data() + text.size();
+    while (p != end && static_cast<unsigned char>(*p) >= 0x80) {
+        const Decoded decoded = Decode(p, end);
+        if (decoded.length == 0 || !IsXmlCharacter(decoded.character)) {
+            break;
+        }
+        p += decoded.length;
+    }
+    return static_cast<std::size_t>(p - text.data());
+}
+
 std::size_t FindNonXmlText(std::string_view text) noexcept {
     const char* p = text.data();
     const char* const end = p + text.size();
