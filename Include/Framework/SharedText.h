@@ -2,34 +2,36 @@
 
 #include <atomic>
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <utility>
 
 #include "Framework/FrameworkExport.h"
-#include "Framework/ZelString.h"
 
 namespace Framework {
 
 /// A text that many objects have alike, such as the name of the element they stand for: those that got it in one thread
-/// share one copy. Takes the room of a pointer; the empty text takes no more.
+/// share one copy, and those that got a fixed one have no copy at all. Takes the room of a pointer; the empty text
+/// takes no more.
 ///
 /// One object is for one thread at a time, as any value; copies of it may be used and destroyed in others.
 class FRAMEWORK_API SharedText {
 public:
     SharedText() noexcept = default;
-    SharedText(const SharedText& other) noexcept : m_copy(other.m_copy) {
-        if (m_copy != nullptr) {
-            m_copy->users.fetch_add(1, std::memory_order_relaxed);
+    SharedText(const SharedText& other) noexcept : m_bits(other.m_bits) {
+        if (Copy* const copy = Shared()) {
+            copy->users.fetch_add(1, std::memory_order_relaxed);
         }
     }
-    SharedText(SharedText&& other) noexcept : m_copy(std::exchange(other.m_copy, nullptr)) {}
+    SharedText(SharedText&& other) noexcept : m_bits(std::exchange(other.m_bits, 0)) {}
     SharedText& operator=(SharedText other) noexcept {
-        std::swap(m_copy, other.m_copy);
+        std::swap(m_bits, other.m_bits);
         return *this;
     }
     ~SharedText() {
-        if (m_copy != nullptr && m_copy->users.fetch_sub(1, std::memory_order_acq_rel) == 1) {
-            delete m_copy;
+        Copy* const copy = Shared();
+        if (copy != nullptr && copy->users.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+            delete copy;
         }
     }
 
@@ -39,25 +41,36 @@ public:
             Replace(text);
         }
     }
-    std::string_view View() const noexcept {
-        return m_copy == nullptr ? std::string_view() : std::string_view(m_copy->text.data(), m_copy->text.size());
+    /// Refers to a text that is never destroyed before this object, nor moved, such as those of a table of fields.
+    void SetFixed(const std::string_view& text) noexcept {
+        *this = SharedText(reinterpret_cast<std::uintptr_t>(&text) | kFixed);
     }
     /// Good until this object is changed or destroyed.
-    const zelString& Get() const noexcept { return m_copy == nullptr ? Empty() : m_copy->text; }
+    std::string_view View() const noexcept {
+        if ((m_bits & kFixed) != 0) {
+            return *reinterpret_cast<const std::string_view*>(m_bits - kFixed);
+        }
+        const Copy* const copy = Shared();
+        return copy == nullptr ? std::string_view() : std::string_view(copy->text);
+    }
 
 private:
     struct Copy {
         explicit Copy(std::string_view given) : text(given) {}
 
         std::atomic<std::uint32_t> users = 1;
-        const zelString text;
+        const std::string text;
     };
-    explicit SharedText(Copy* copy) noexcept : m_copy(copy) {}
+    static constexpr std::uintptr_t kFixed = 1;
+    static_assert(alignof(Copy) > kFixed && alignof(std::string_view) > kFixed);
 
+    explicit SharedText(std::uintptr_t bits) noexcept : m_bits(bits) {}
+    explicit SharedText(Copy* copy) noexcept : m_bits(reinterpret_cast<std::uintptr_t>(copy)) {}
+
+    Copy* Shared() const noexcept { return (m_bits & kFixed) != 0 ? nullptr : reinterpret_cast<Copy*>(m_bits); }
     void Replace(std::string_view text);
-    static const zelString& Empty() noexcept;
 
-    Copy* m_copy = nullptr; // null: the empty text
+    std::uintptr_t m_bits = 0; ///< the address of a copy, or of a fixed text and kFixed; 0: the empty text
 };
 
 } // namespace Framework

@@ -54,7 +54,7 @@ void WriteLife(CodeText& code, const Container& container) {
     code.Line();
     code.Constructor(name + "::" + name + "(bool bBuildFromScratch)", container.Base() + "(bBuildFromScratch)");
     code.Indent();
-    code.Line(container.Base() + "::SetContainerName(" + Literal(container.elementName) + ");");
+    code.Line("Framework::NameByClass(*this, s_Table);");
     code.Outdent();
     code.Line("}");
 

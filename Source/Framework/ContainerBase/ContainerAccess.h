@@ -18,12 +18,16 @@ struct ContainerAccess {
     static void SetNested(TypedDataContainer& object, bool value) { object.m_bNested = value; }
     static bool IsValid(const TypedDataContainer& object) { return object.m_bValid; }
     static void SetValid(TypedDataContainer& object, bool value) { object.m_bValid = value; }
-    static const zelString& FeatureID(const TypedDataContainer& object) { return object.m_FeatureID.Get(); }
-    static const zelString& ContainerName(const TypedDataContainer& object) { return object.m_ContainerName.Get(); }
-    static const zelString& MergeFeature(const TypedDataContainer& object) { return object.m_MergeFeature.Get(); }
-    /// What an object gets from the place that it has in another one, where no host may have a say in it.
-    static void SetPlace(TypedDataContainer& object, std::string_view name, const TypedDataContainer& parent) {
-        object.m_ContainerName.Set(name);
+    static std::string_view FeatureID(const TypedDataContainer& object) { return object.m_FeatureID.View(); }
+    static std::string_view ContainerName(const TypedDataContainer& object) { return object.m_ContainerName.View(); }
+    static std::string_view MergeFeature(const TypedDataContainer& object) { return object.m_MergeFeature.View(); }
+    static void SetFixedName(TypedDataContainer& object, const std::string_view& name) noexcept {
+        object.m_ContainerName.SetFixed(name);
+    }
+    /// What an object gets from the place that it has in another one, where no host may have a say in it. The name is
+    /// kept where it stands.
+    static void SetPlace(TypedDataContainer& object, const std::string_view& name, const TypedDataContainer& parent) {
+        object.m_ContainerName.SetFixed(name);
         object.m_FeatureID = parent.m_FeatureID;
         object.m_pValueLookup = parent.m_pValueLookup;
     }

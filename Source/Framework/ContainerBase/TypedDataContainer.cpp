@@ -33,13 +33,14 @@ XMLDataWrapper* TypedDataContainer::GetContainedDataPtr() {
 }
 
 zelString TypedDataContainer::GetMergeAttributes() {
-    const zelString& feature = m_MergeFeature.Get();
+    const zelString feature(m_MergeFeature.View());
     return feature.empty() ? zelString() : zelString(" and @FeatureID='" + feature + "' ");
 }
 
 void TypedDataContainer::GetPLMergeAttributes(ParameterList* plAttributes) {
-    if (plAttributes != nullptr && !m_MergeFeature.Get().empty()) {
-        plAttributes->Add(&m_MergeFeature.Get(), dcString, "FeatureID", false);
+    const zelString feature(m_MergeFeature.View());
+    if (plAttributes != nullptr && !feature.empty()) {
+        plAttributes->Add(&feature, dcString, "FeatureID", false);
     }
 }
 
@@ -67,7 +68,7 @@ TypedDataContainer* TypedDataContainer::Clone() {
 }
 
 zelString TypedDataContainer::GetContainerName() {
-    return m_ContainerName.Get();
+    return zelString(m_ContainerName.View());
 }
 
 void TypedDataContainer::SetContainerName(const char* sName) {
@@ -79,7 +80,7 @@ void TypedDataContainer::SetFeatureID(const zelString& sFeatureID) {
 }
 
 zelString TypedDataContainer::GetFeatureID() {
-    return m_FeatureID.Get();
+    return zelString(m_FeatureID.View());
 }
 
 void TypedDataContainer::SetLastError(int iNumber, const char* sFormat, ...) {

@@ -39,9 +39,4 @@ void SharedText::Replace(std::string_view text) {
     *this = kept;
 }
 
-const zelString& SharedText::Empty() noexcept {
-    static const zelString empty;
-    return empty;
-}
-
 } // namespace Framework

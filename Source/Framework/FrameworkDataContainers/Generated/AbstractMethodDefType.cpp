@@ -24,7 +24,7 @@ constinit const Framework::FieldTable AbstractMethodDefType::s_Table = {
 // clang-format on
 
 AbstractMethodDefType::AbstractMethodDefType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("AbstractMethod");
+    Framework::NameByClass(*this, s_Table);
 }
 
 AbstractMethodDefType::~AbstractMethodDefType() {}

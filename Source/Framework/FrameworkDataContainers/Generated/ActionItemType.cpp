@@ -25,7 +25,7 @@ constinit const Framework::FieldTable ActionItemType::s_Table = {
 // clang-format on
 
 ActionItemType::ActionItemType(bool bBuildFromScratch) : StateActionBasicType(bBuildFromScratch) {
-    StateActionBasicType::SetContainerName("ActionItem");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ActionItemType::~ActionItemType() {

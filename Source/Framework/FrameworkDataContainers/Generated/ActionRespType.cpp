@@ -25,7 +25,7 @@ constinit const Framework::FieldTable ActionRespType::s_Table = {
 // clang-format on
 
 ActionRespType::ActionRespType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ActionResp");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ActionRespType::~ActionRespType() {

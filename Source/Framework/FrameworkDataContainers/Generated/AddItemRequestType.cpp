@@ -24,7 +24,7 @@ constinit const Framework::FieldTable AddItemRequestType::s_Table = {
 // clang-format on
 
 AddItemRequestType::AddItemRequestType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("AddItemRequest");
+    Framework::NameByClass(*this, s_Table);
 }
 
 AddItemRequestType::~AddItemRequestType() {

@@ -29,7 +29,7 @@ constinit const Framework::FieldTable AddItemResponseType::s_Table = {
 // clang-format on
 
 AddItemResponseType::AddItemResponseType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("AddItemResponse");
+    Framework::NameByClass(*this, s_Table);
 }
 
 AddItemResponseType::~AddItemResponseType() {

@@ -28,7 +28,7 @@ constinit const Framework::FieldTable AudioExpandPhraseConditionType::s_Table = 
 
 AudioExpandPhraseConditionType::AudioExpandPhraseConditionType(bool bBuildFromScratch)
     : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("AudioExpandPhraseCondition");
+    Framework::NameByClass(*this, s_Table);
 }
 
 AudioExpandPhraseConditionType::~AudioExpandPhraseConditionType() {}

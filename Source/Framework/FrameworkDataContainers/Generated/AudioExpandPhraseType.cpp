@@ -27,7 +27,7 @@ constinit const Framework::FieldTable AudioExpandPhraseType::s_Table = {
 // clang-format on
 
 AudioExpandPhraseType::AudioExpandPhraseType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("AudioExpandPhrase");
+    Framework::NameByClass(*this, s_Table);
 }
 
 AudioExpandPhraseType::~AudioExpandPhraseType() {

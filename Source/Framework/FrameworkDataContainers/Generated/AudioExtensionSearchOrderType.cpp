@@ -26,7 +26,7 @@ constinit const Framework::FieldTable AudioExtensionSearchOrderType::s_Table = {
 
 AudioExtensionSearchOrderType::AudioExtensionSearchOrderType(bool bBuildFromScratch)
     : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("AudioExtensionSearchOrder");
+    Framework::NameByClass(*this, s_Table);
 }
 
 AudioExtensionSearchOrderType::~AudioExtensionSearchOrderType() {

@@ -26,7 +26,7 @@ constinit const Framework::FieldTable AudioFunctionType::s_Table = {
 // clang-format on
 
 AudioFunctionType::AudioFunctionType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("AudioFunction");
+    Framework::NameByClass(*this, s_Table);
 }
 
 AudioFunctionType::~AudioFunctionType() {

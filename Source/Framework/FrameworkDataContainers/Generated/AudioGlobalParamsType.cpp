@@ -26,7 +26,7 @@ constinit const Framework::FieldTable AudioGlobalParamsType::s_Table = {
 // clang-format on
 
 AudioGlobalParamsType::AudioGlobalParamsType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("AudioGlobalParams");
+    Framework::NameByClass(*this, s_Table);
 }
 
 AudioGlobalParamsType::~AudioGlobalParamsType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable AudioKeyMapType::s_Table = {
 // clang-format on
 
 AudioKeyMapType::AudioKeyMapType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("AudioKeyMap");
+    Framework::NameByClass(*this, s_Table);
 }
 
 AudioKeyMapType::~AudioKeyMapType() {

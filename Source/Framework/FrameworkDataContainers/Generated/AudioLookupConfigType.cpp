@@ -30,7 +30,7 @@ constinit const Framework::FieldTable AudioLookupConfigType::s_Table = {
 // clang-format on
 
 AudioLookupConfigType::AudioLookupConfigType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("AudioLookupConfig");
+    Framework::NameByClass(*this, s_Table);
 }
 
 AudioLookupConfigType::~AudioLookupConfigType() {

@@ -33,7 +33,7 @@ constinit const Framework::FieldTable AudioLookupType::s_Table = {
 // clang-format on
 
 AudioLookupType::AudioLookupType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("AudioLookup");
+    Framework::NameByClass(*this, s_Table);
 }
 
 AudioLookupType::~AudioLookupType() {

@@ -23,7 +23,7 @@ constinit const Framework::FieldTable AudioPathSearchOrderType::s_Table = {
 // clang-format on
 
 AudioPathSearchOrderType::AudioPathSearchOrderType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("AudioPathSearchOrder");
+    Framework::NameByClass(*this, s_Table);
 }
 
 AudioPathSearchOrderType::~AudioPathSearchOrderType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable AvailabilityType::s_Table = {
 // clang-format on
 
 AvailabilityType::AvailabilityType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Availability");
+    Framework::NameByClass(*this, s_Table);
 }
 
 AvailabilityType::~AvailabilityType() {}

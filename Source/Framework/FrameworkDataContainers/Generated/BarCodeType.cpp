@@ -25,7 +25,7 @@ constinit const Framework::FieldTable BarCodeType::s_Table = {
 // clang-format on
 
 BarCodeType::BarCodeType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("BarCode");
+    Framework::NameByClass(*this, s_Table);
 }
 
 BarCodeType::~BarCodeType() {}

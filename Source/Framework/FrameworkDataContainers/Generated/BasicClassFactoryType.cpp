@@ -26,7 +26,7 @@ constinit const Framework::FieldTable BasicClassFactoryType::s_Table = {
 // clang-format on
 
 BasicClassFactoryType::BasicClassFactoryType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Class");
+    Framework::NameByClass(*this, s_Table);
 }
 
 BasicClassFactoryType::~BasicClassFactoryType() {}

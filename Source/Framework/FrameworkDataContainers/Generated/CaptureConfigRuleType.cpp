@@ -24,7 +24,7 @@ constinit const Framework::FieldTable CaptureConfigRuleType::s_Table = {
 // clang-format on
 
 CaptureConfigRuleType::CaptureConfigRuleType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("CaptureConfigRule");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CaptureConfigRuleType::~CaptureConfigRuleType() {

@@ -30,7 +30,7 @@ constinit const Framework::FieldTable CaptureConfigSubRuleType::s_Table = {
 // clang-format on
 
 CaptureConfigSubRuleType::CaptureConfigSubRuleType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("CaptureConfigSubRule");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CaptureConfigSubRuleType::~CaptureConfigSubRuleType() {

@@ -34,7 +34,7 @@ constinit const Framework::FieldTable CaptureConfigType::s_Table = {
 // clang-format on
 
 CaptureConfigType::CaptureConfigType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("CaptureConfig");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CaptureConfigType::~CaptureConfigType() {

@@ -30,7 +30,7 @@ constinit const Framework::FieldTable CaptureDocEntryType::s_Table = {
 // clang-format on
 
 CaptureDocEntryType::CaptureDocEntryType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("CaptureDoc");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CaptureDocEntryType::~CaptureDocEntryType() {}

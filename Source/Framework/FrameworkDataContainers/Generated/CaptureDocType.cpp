@@ -24,7 +24,7 @@ constinit const Framework::FieldTable CaptureDocType::s_Table = {
 // clang-format on
 
 CaptureDocType::CaptureDocType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("CaptureDoc");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CaptureDocType::~CaptureDocType() {

@@ -29,7 +29,7 @@ constinit const Framework::FieldTable CaptureFileConfigType::s_Table = {
 // clang-format on
 
 CaptureFileConfigType::CaptureFileConfigType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("File");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CaptureFileConfigType::~CaptureFileConfigType() {}

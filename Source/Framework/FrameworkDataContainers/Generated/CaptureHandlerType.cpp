@@ -25,7 +25,7 @@ constinit const Framework::FieldTable CaptureHandlerType::s_Table = {
 // clang-format on
 
 CaptureHandlerType::CaptureHandlerType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("CaptureHandler");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CaptureHandlerType::~CaptureHandlerType() {}

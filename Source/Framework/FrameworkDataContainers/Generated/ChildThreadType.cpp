@@ -31,7 +31,7 @@ constinit const Framework::FieldTable ChildThreadType::s_Table = {
 // clang-format on
 
 ChildThreadType::ChildThreadType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ChildThread");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ChildThreadType::~ChildThreadType() {}

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable ChoiceConstraintType::s_Table = {
 // clang-format on
 
 ChoiceConstraintType::ChoiceConstraintType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ChoiceConstraint");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ChoiceConstraintType::~ChoiceConstraintType() {}

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable CommConfigType::s_Table = {
 // clang-format on
 
 CommConfigType::CommConfigType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("CommConfig");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CommConfigType::~CommConfigType() {

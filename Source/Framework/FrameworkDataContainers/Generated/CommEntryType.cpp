@@ -31,7 +31,7 @@ constinit const Framework::FieldTable CommEntryType::s_Table = {
 // clang-format on
 
 CommEntryType::CommEntryType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("CommEntry");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CommEntryType::~CommEntryType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable CommEventTransformerListType::s_Table = {
 
 CommEventTransformerListType::CommEventTransformerListType(bool bBuildFromScratch)
     : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("CommEventTransformerList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CommEventTransformerListType::~CommEventTransformerListType() {

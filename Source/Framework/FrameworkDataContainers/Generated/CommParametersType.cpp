@@ -33,7 +33,7 @@ constinit const Framework::FieldTable CommParametersType::s_Table = {
 // clang-format on
 
 CommParametersType::CommParametersType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("CommParameters");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CommParametersType::~CommParametersType() {

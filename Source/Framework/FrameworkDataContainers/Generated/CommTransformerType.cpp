@@ -25,7 +25,7 @@ constinit const Framework::FieldTable CommTransformerType::s_Table = {
 // clang-format on
 
 CommTransformerType::CommTransformerType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("CommTransformer");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CommTransformerType::~CommTransformerType() {}

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable ConfigDefDescriptionType::s_Table = {
 // clang-format on
 
 ConfigDefDescriptionType::ConfigDefDescriptionType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Description");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ConfigDefDescriptionType::~ConfigDefDescriptionType() {

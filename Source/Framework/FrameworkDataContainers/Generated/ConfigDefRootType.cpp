@@ -28,7 +28,7 @@ constinit const Framework::FieldTable ConfigDefRootType::s_Table = {
 // clang-format on
 
 ConfigDefRootType::ConfigDefRootType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("ConfigDefRoot");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ConfigDefRootType::~ConfigDefRootType() {

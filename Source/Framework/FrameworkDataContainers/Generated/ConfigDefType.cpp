@@ -28,7 +28,7 @@ constinit const Framework::FieldTable ConfigDefType::s_Table = {
 // clang-format on
 
 ConfigDefType::ConfigDefType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Config");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ConfigDefType::~ConfigDefType() {

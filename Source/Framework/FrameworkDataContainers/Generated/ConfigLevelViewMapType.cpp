@@ -24,7 +24,7 @@ constinit const Framework::FieldTable ConfigLevelViewMapType::s_Table = {
 // clang-format on
 
 ConfigLevelViewMapType::ConfigLevelViewMapType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ConfigLevelViewMap");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ConfigLevelViewMapType::~ConfigLevelViewMapType() {

@@ -26,7 +26,7 @@ constinit const Framework::FieldTable ConfigLevelViewType::s_Table = {
 // clang-format on
 
 ConfigLevelViewType::ConfigLevelViewType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ConfigLevelViewType");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ConfigLevelViewType::~ConfigLevelViewType() {

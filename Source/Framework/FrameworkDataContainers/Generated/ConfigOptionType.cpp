@@ -24,7 +24,7 @@ constinit const Framework::FieldTable ConfigOptionType::s_Table = {
 // clang-format on
 
 ConfigOptionType::ConfigOptionType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ConfigOption");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ConfigOptionType::~ConfigOptionType() {}

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable ConfigSchemaDefType::s_Table = {
 // clang-format on
 
 ConfigSchemaDefType::ConfigSchemaDefType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("SchemaDef");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ConfigSchemaDefType::~ConfigSchemaDefType() {}

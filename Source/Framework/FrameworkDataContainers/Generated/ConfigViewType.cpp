@@ -26,7 +26,7 @@ constinit const Framework::FieldTable ConfigViewType::s_Table = {
 // clang-format on
 
 ConfigViewType::ConfigViewType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ConfigView");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ConfigViewType::~ConfigViewType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable ConfigurationDefinitionType::s_Table = {
 
 ConfigurationDefinitionType::ConfigurationDefinitionType(bool bBuildFromScratch)
     : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ConfigurationDefinition");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ConfigurationDefinitionType::~ConfigurationDefinitionType() {

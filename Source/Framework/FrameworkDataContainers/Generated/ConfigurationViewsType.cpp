@@ -24,7 +24,7 @@ constinit const Framework::FieldTable ConfigurationViewsType::s_Table = {
 // clang-format on
 
 ConfigurationViewsType::ConfigurationViewsType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ConfigurationViews");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ConfigurationViewsType::~ConfigurationViewsType() {

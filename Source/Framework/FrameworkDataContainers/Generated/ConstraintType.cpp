@@ -36,7 +36,7 @@ constinit const Framework::FieldTable ConstraintType::s_Table = {
 // clang-format on
 
 ConstraintType::ConstraintType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Constraint");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ConstraintType::~ConstraintType() {

@@ -39,7 +39,7 @@ constinit const Framework::FieldTable CouponInfoType::s_Table = {
 // clang-format on
 
 CouponInfoType::CouponInfoType(bool bBuildFromScratch) : LineItemInfoType(bBuildFromScratch) {
-    LineItemInfoType::SetContainerName("CouponInfo");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CouponInfoType::~CouponInfoType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable CurrencyAudioKeysType::s_Table = {
 // clang-format on
 
 CurrencyAudioKeysType::CurrencyAudioKeysType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("CurrencyAudioKeys");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CurrencyAudioKeysType::~CurrencyAudioKeysType() {

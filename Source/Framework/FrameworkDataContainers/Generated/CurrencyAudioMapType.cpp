@@ -25,7 +25,7 @@ constinit const Framework::FieldTable CurrencyAudioMapType::s_Table = {
 // clang-format on
 
 CurrencyAudioMapType::CurrencyAudioMapType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("CurrencyAudioMap");
+    Framework::NameByClass(*this, s_Table);
 }
 
 CurrencyAudioMapType::~CurrencyAudioMapType() {

@@ -27,7 +27,7 @@ constinit const Framework::FieldTable DBConfigParametersType::s_Table = {
 // clang-format on
 
 DBConfigParametersType::DBConfigParametersType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Parameters");
+    Framework::NameByClass(*this, s_Table);
 }
 
 DBConfigParametersType::~DBConfigParametersType() {}

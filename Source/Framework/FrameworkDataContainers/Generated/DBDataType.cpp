@@ -29,7 +29,7 @@ constinit const Framework::FieldTable DBDataType::s_Table = {
 // clang-format on
 
 DBDataType::DBDataType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("DBData");
+    Framework::NameByClass(*this, s_Table);
 }
 
 DBDataType::~DBDataType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable DBInterfaceListType::s_Table = {
 // clang-format on
 
 DBInterfaceListType::DBInterfaceListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("DBInterfaceList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 DBInterfaceListType::~DBInterfaceListType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable DBInterfaceType::s_Table = {
 // clang-format on
 
 DBInterfaceType::DBInterfaceType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("DBInterface");
+    Framework::NameByClass(*this, s_Table);
 }
 
 DBInterfaceType::~DBInterfaceType() {}

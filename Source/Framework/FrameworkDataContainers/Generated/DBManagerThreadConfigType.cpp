@@ -29,7 +29,7 @@ constinit const Framework::FieldTable DBManagerThreadConfigType::s_Table = {
 
 DBManagerThreadConfigType::DBManagerThreadConfigType(bool bBuildFromScratch)
     : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("DBManagerThreadConfig");
+    Framework::NameByClass(*this, s_Table);
 }
 
 DBManagerThreadConfigType::~DBManagerThreadConfigType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable DataListDataEntryType::s_Table = {
 // clang-format on
 
 DataListDataEntryType::DataListDataEntryType(bool bBuildFromScratch) : ExtendableDataEntryType(bBuildFromScratch) {
-    ExtendableDataEntryType::SetContainerName("DataListItem");
+    Framework::NameByClass(*this, s_Table);
 }
 
 DataListDataEntryType::~DataListDataEntryType() {}

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable DataListType::s_Table = {
 // clang-format on
 
 DataListType::DataListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("DataList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 DataListType::~DataListType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable DataProcessorClassFactoryListType::s_Table
 
 DataProcessorClassFactoryListType::DataProcessorClassFactoryListType(bool bBuildFromScratch)
     : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("DataProcessorClassFactoryList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 DataProcessorClassFactoryListType::~DataProcessorClassFactoryListType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable DataProcessorMethodListType::s_Table = {
 
 DataProcessorMethodListType::DataProcessorMethodListType(bool bBuildFromScratch)
     : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("DataProcessorMethodList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 DataProcessorMethodListType::~DataProcessorMethodListType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable DataProcessorMethodType::s_Table = {
 // clang-format on
 
 DataProcessorMethodType::DataProcessorMethodType(bool bBuildFromScratch) : AbstractMethodDefType(bBuildFromScratch) {
-    AbstractMethodDefType::SetContainerName("DataProcessorMethod");
+    Framework::NameByClass(*this, s_Table);
 }
 
 DataProcessorMethodType::~DataProcessorMethodType() {}

@@ -32,7 +32,7 @@ constinit const Framework::FieldTable DataStorageContainerType::s_Table = {
 // clang-format on
 
 DataStorageContainerType::DataStorageContainerType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("DataStorageContainer");
+    Framework::NameByClass(*this, s_Table);
 }
 
 DataStorageContainerType::~DataStorageContainerType() {

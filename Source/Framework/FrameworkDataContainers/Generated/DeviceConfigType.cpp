@@ -24,7 +24,7 @@ constinit const Framework::FieldTable DeviceConfigType::s_Table = {
 // clang-format on
 
 DeviceConfigType::DeviceConfigType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("DeviceConfig");
+    Framework::NameByClass(*this, s_Table);
 }
 
 DeviceConfigType::~DeviceConfigType() {

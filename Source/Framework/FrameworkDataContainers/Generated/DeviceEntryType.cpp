@@ -26,7 +26,7 @@ constinit const Framework::FieldTable DeviceEntryType::s_Table = {
 // clang-format on
 
 DeviceEntryType::DeviceEntryType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("DeviceEntry");
+    Framework::NameByClass(*this, s_Table);
 }
 
 DeviceEntryType::~DeviceEntryType() {}

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable EnumIterationType::s_Table = {
 // clang-format on
 
 EnumIterationType::EnumIterationType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("EnumIteration");
+    Framework::NameByClass(*this, s_Table);
 }
 
 EnumIterationType::~EnumIterationType() {}

@@ -28,7 +28,7 @@ constinit const Framework::FieldTable EventFilterTestType::s_Table = {
 // clang-format on
 
 EventFilterTestType::EventFilterTestType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("EventFilterTest");
+    Framework::NameByClass(*this, s_Table);
 }
 
 EventFilterTestType::~EventFilterTestType() {

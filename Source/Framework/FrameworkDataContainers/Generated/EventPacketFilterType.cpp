@@ -26,7 +26,7 @@ constinit const Framework::FieldTable EventPacketFilterType::s_Table = {
 // clang-format on
 
 EventPacketFilterType::EventPacketFilterType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("EventPacketFilter");
+    Framework::NameByClass(*this, s_Table);
 }
 
 EventPacketFilterType::~EventPacketFilterType() {

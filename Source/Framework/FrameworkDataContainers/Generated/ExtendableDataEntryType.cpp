@@ -24,7 +24,7 @@ constinit const Framework::FieldTable ExtendableDataEntryType::s_Table = {
 // clang-format on
 
 ExtendableDataEntryType::ExtendableDataEntryType(bool bBuildFromScratch) : SimpleDataEntryType(bBuildFromScratch) {
-    SimpleDataEntryType::SetContainerName("ExtendableDataEntry");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ExtendableDataEntryType::~ExtendableDataEntryType() {

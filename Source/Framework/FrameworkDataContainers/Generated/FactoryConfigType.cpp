@@ -24,7 +24,7 @@ constinit const Framework::FieldTable FactoryConfigType::s_Table = {
 // clang-format on
 
 FactoryConfigType::FactoryConfigType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("FactoryConfig");
+    Framework::NameByClass(*this, s_Table);
 }
 
 FactoryConfigType::~FactoryConfigType() {

@@ -26,7 +26,7 @@ constinit const Framework::FieldTable FactoryType::s_Table = {
 // clang-format on
 
 FactoryType::FactoryType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Factory");
+    Framework::NameByClass(*this, s_Table);
 }
 
 FactoryType::~FactoryType() {}

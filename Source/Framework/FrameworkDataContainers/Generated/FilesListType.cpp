@@ -24,7 +24,7 @@ constinit const Framework::FieldTable FilesListType::s_Table = {
 // clang-format on
 
 FilesListType::FilesListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Files");
+    Framework::NameByClass(*this, s_Table);
 }
 
 FilesListType::~FilesListType() {

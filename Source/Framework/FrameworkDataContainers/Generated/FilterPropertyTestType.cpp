@@ -31,7 +31,7 @@ constinit const Framework::FieldTable FilterPropertyTestType::s_Table = {
 // clang-format on
 
 FilterPropertyTestType::FilterPropertyTestType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("FilterPropertyTest");
+    Framework::NameByClass(*this, s_Table);
 }
 
 FilterPropertyTestType::~FilterPropertyTestType() {

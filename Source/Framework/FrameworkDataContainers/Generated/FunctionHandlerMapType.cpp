@@ -24,7 +24,7 @@ constinit const Framework::FieldTable FunctionHandlerMapType::s_Table = {
 // clang-format on
 
 FunctionHandlerMapType::FunctionHandlerMapType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("FunctionHandlerMap");
+    Framework::NameByClass(*this, s_Table);
 }
 
 FunctionHandlerMapType::~FunctionHandlerMapType() {

@@ -26,7 +26,7 @@ constinit const Framework::FieldTable FunctionHandlerType::s_Table = {
 // clang-format on
 
 FunctionHandlerType::FunctionHandlerType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("FunctionHandler");
+    Framework::NameByClass(*this, s_Table);
 }
 
 FunctionHandlerType::~FunctionHandlerType() {}

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable GUIConfigListType::s_Table = {
 // clang-format on
 
 GUIConfigListType::GUIConfigListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("GUIConfigList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 GUIConfigListType::~GUIConfigListType() {

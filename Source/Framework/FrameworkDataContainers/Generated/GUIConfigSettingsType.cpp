@@ -25,7 +25,7 @@ constinit const Framework::FieldTable GUIConfigSettingsType::s_Table = {
 // clang-format on
 
 GUIConfigSettingsType::GUIConfigSettingsType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("GUIConfigSettings");
+    Framework::NameByClass(*this, s_Table);
 }
 
 GUIConfigSettingsType::~GUIConfigSettingsType() {

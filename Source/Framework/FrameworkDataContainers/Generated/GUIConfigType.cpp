@@ -25,7 +25,7 @@ constinit const Framework::FieldTable GUIConfigType::s_Table = {
 // clang-format on
 
 GUIConfigType::GUIConfigType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("GUIConfig");
+    Framework::NameByClass(*this, s_Table);
 }
 
 GUIConfigType::~GUIConfigType() {}

@@ -26,7 +26,7 @@ constinit const Framework::FieldTable GUIConfigurationsType::s_Table = {
 // clang-format on
 
 GUIConfigurationsType::GUIConfigurationsType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("GUIConfigurations");
+    Framework::NameByClass(*this, s_Table);
 }
 
 GUIConfigurationsType::~GUIConfigurationsType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable ISPropertyType::s_Table = {
 // clang-format on
 
 ISPropertyType::ISPropertyType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ISProperty");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ISPropertyType::~ISPropertyType() {}

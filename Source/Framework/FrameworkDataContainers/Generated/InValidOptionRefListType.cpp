@@ -24,7 +24,7 @@ constinit const Framework::FieldTable InValidOptionRefListType::s_Table = {
 // clang-format on
 
 InValidOptionRefListType::InValidOptionRefListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("InValidOptionRefList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 InValidOptionRefListType::~InValidOptionRefListType() {

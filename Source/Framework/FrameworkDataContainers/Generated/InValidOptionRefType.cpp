@@ -27,7 +27,7 @@ constinit const Framework::FieldTable InValidOptionRefType::s_Table = {
 // clang-format on
 
 InValidOptionRefType::InValidOptionRefType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("InValidOptionRef");
+    Framework::NameByClass(*this, s_Table);
 }
 
 InValidOptionRefType::~InValidOptionRefType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable InterfaceSpecificPropertiesType::s_Table =
 
 InterfaceSpecificPropertiesType::InterfaceSpecificPropertiesType(bool bBuildFromScratch)
     : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("InterfaceSpecificProperties");
+    Framework::NameByClass(*this, s_Table);
 }
 
 InterfaceSpecificPropertiesType::~InterfaceSpecificPropertiesType() {

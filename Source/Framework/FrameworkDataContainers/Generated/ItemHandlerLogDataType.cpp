@@ -39,7 +39,7 @@ constinit const Framework::FieldTable ItemHandlerLogDataType::s_Table = {
 // clang-format on
 
 ItemHandlerLogDataType::ItemHandlerLogDataType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ItemHandlerLogData");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ItemHandlerLogDataType::~ItemHandlerLogDataType() {}

@@ -39,7 +39,7 @@ constinit const Framework::FieldTable ItemIdentifierType::s_Table = {
 // clang-format on
 
 ItemIdentifierType::ItemIdentifierType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ItemIdentifier");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ItemIdentifierType::~ItemIdentifierType() {

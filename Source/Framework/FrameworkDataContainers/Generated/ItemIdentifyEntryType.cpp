@@ -25,7 +25,7 @@ constinit const Framework::FieldTable ItemIdentifyEntryType::s_Table = {
 // clang-format on
 
 ItemIdentifyEntryType::ItemIdentifyEntryType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ItemIdentifyEntry");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ItemIdentifyEntryType::~ItemIdentifyEntryType() {}

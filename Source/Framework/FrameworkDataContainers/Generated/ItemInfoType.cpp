@@ -38,7 +38,7 @@ constinit const Framework::FieldTable ItemInfoType::s_Table = {
 // clang-format on
 
 ItemInfoType::ItemInfoType(bool bBuildFromScratch) : LineItemInfoType(bBuildFromScratch) {
-    LineItemInfoType::SetContainerName("ItemInfo");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ItemInfoType::~ItemInfoType() {

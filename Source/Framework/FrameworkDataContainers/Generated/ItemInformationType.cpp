@@ -59,7 +59,7 @@ constinit const Framework::FieldTable ItemInformationType::s_Table = {
 // clang-format on
 
 ItemInformationType::ItemInformationType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ItemInformation");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ItemInformationType::~ItemInformationType() {}

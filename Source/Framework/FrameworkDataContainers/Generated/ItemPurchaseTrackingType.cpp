@@ -29,7 +29,7 @@ constinit const Framework::FieldTable ItemPurchaseTrackingType::s_Table = {
 // clang-format on
 
 ItemPurchaseTrackingType::ItemPurchaseTrackingType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ItemPurchaseTracking");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ItemPurchaseTrackingType::~ItemPurchaseTrackingType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable JMXCallBackDefinitionType::s_Table = {
 // clang-format on
 
 JMXCallBackDefinitionType::JMXCallBackDefinitionType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("JMXCallBackDefinition");
+    Framework::NameByClass(*this, s_Table);
 }
 
 JMXCallBackDefinitionType::~JMXCallBackDefinitionType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable JMXCallBackType::s_Table = {
 // clang-format on
 
 JMXCallBackType::JMXCallBackType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("JMXCallBack");
+    Framework::NameByClass(*this, s_Table);
 }
 
 JMXCallBackType::~JMXCallBackType() {}

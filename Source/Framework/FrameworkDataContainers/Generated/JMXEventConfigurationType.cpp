@@ -25,7 +25,7 @@ constinit const Framework::FieldTable JMXEventConfigurationType::s_Table = {
 
 JMXEventConfigurationType::JMXEventConfigurationType(bool bBuildFromScratch)
     : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("JMXEventConfiguration");
+    Framework::NameByClass(*this, s_Table);
 }
 
 JMXEventConfigurationType::~JMXEventConfigurationType() {

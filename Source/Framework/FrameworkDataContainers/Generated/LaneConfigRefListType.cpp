@@ -25,7 +25,7 @@ constinit const Framework::FieldTable LaneConfigRefListType::s_Table = {
 // clang-format on
 
 LaneConfigRefListType::LaneConfigRefListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("LaneConfigRefList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 LaneConfigRefListType::~LaneConfigRefListType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable LaneManagerPacketType::s_Table = {
 // clang-format on
 
 LaneManagerPacketType::LaneManagerPacketType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("LaneManagerPacket");
+    Framework::NameByClass(*this, s_Table);
 }
 
 LaneManagerPacketType::~LaneManagerPacketType() {}

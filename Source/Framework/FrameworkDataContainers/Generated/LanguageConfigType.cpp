@@ -24,7 +24,7 @@ constinit const Framework::FieldTable LanguageConfigType::s_Table = {
 // clang-format on
 
 LanguageConfigType::LanguageConfigType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("LanguageConfig");
+    Framework::NameByClass(*this, s_Table);
 }
 
 LanguageConfigType::~LanguageConfigType() {

@@ -26,7 +26,7 @@ constinit const Framework::FieldTable LanguageDefType::s_Table = {
 // clang-format on
 
 LanguageDefType::LanguageDefType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Language");
+    Framework::NameByClass(*this, s_Table);
 }
 
 LanguageDefType::~LanguageDefType() {}

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable LanguageListType::s_Table = {
 // clang-format on
 
 LanguageListType::LanguageListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("LanguageList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 LanguageListType::~LanguageListType() {

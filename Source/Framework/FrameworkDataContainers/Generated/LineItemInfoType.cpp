@@ -27,7 +27,7 @@ constinit const Framework::FieldTable LineItemInfoType::s_Table = {
 // clang-format on
 
 LineItemInfoType::LineItemInfoType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("LineItemInfo");
+    Framework::NameByClass(*this, s_Table);
 }
 
 LineItemInfoType::~LineItemInfoType() {}

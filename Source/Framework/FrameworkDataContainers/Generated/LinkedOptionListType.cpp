@@ -24,7 +24,7 @@ constinit const Framework::FieldTable LinkedOptionListType::s_Table = {
 // clang-format on
 
 LinkedOptionListType::LinkedOptionListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("LinkedOptionList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 LinkedOptionListType::~LinkedOptionListType() {

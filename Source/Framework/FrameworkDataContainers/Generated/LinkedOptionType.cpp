@@ -27,7 +27,7 @@ constinit const Framework::FieldTable LinkedOptionType::s_Table = {
 // clang-format on
 
 LinkedOptionType::LinkedOptionType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("LinkedOption");
+    Framework::NameByClass(*this, s_Table);
 }
 
 LinkedOptionType::~LinkedOptionType() {}

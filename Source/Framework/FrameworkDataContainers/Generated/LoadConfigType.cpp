@@ -24,7 +24,7 @@ constinit const Framework::FieldTable LoadConfigType::s_Table = {
 // clang-format on
 
 LoadConfigType::LoadConfigType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("LoadConfig");
+    Framework::NameByClass(*this, s_Table);
 }
 
 LoadConfigType::~LoadConfigType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable LoadSourceType::s_Table = {
 // clang-format on
 
 LoadSourceType::LoadSourceType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("LoadSource");
+    Framework::NameByClass(*this, s_Table);
 }
 
 LoadSourceType::~LoadSourceType() {

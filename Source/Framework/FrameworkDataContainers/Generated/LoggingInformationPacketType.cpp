@@ -32,7 +32,7 @@ constinit const Framework::FieldTable LoggingInformationPacketType::s_Table = {
 
 LoggingInformationPacketType::LoggingInformationPacketType(bool bBuildFromScratch)
     : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("LoggingInformationPacket");
+    Framework::NameByClass(*this, s_Table);
 }
 
 LoggingInformationPacketType::~LoggingInformationPacketType() {

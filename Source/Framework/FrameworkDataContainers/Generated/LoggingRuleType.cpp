@@ -25,7 +25,7 @@ constinit const Framework::FieldTable LoggingRuleType::s_Table = {
 // clang-format on
 
 LoggingRuleType::LoggingRuleType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("LoggingRule");
+    Framework::NameByClass(*this, s_Table);
 }
 
 LoggingRuleType::~LoggingRuleType() {}

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable LoggingRulesListType::s_Table = {
 // clang-format on
 
 LoggingRulesListType::LoggingRulesListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("LoggingRulesList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 LoggingRulesListType::~LoggingRulesListType() {

@@ -51,7 +51,7 @@ constinit const Framework::FieldTable OptionsConfigDefType::s_Table = {
 // clang-format on
 
 OptionsConfigDefType::OptionsConfigDefType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ConfigDef");
+    Framework::NameByClass(*this, s_Table);
 }
 
 OptionsConfigDefType::~OptionsConfigDefType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable PointsGroupType::s_Table = {
 // clang-format on
 
 PointsGroupType::PointsGroupType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("PointsGroup");
+    Framework::NameByClass(*this, s_Table);
 }
 
 PointsGroupType::~PointsGroupType() {}

@@ -27,7 +27,7 @@ constinit const Framework::FieldTable PointsInfoType::s_Table = {
 // clang-format on
 
 PointsInfoType::PointsInfoType(bool bBuildFromScratch) : LineItemInfoType(bBuildFromScratch) {
-    LineItemInfoType::SetContainerName("PointsInfo");
+    Framework::NameByClass(*this, s_Table);
 }
 
 PointsInfoType::~PointsInfoType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable PreProcessDataEntryType::s_Table = {
 // clang-format on
 
 PreProcessDataEntryType::PreProcessDataEntryType(bool bBuildFromScratch) : SimpleDataEntryType(bBuildFromScratch) {
-    SimpleDataEntryType::SetContainerName("PreProcessDataEntry");
+    Framework::NameByClass(*this, s_Table);
 }
 
 PreProcessDataEntryType::~PreProcessDataEntryType() {}

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable PreProcessDataType::s_Table = {
 // clang-format on
 
 PreProcessDataType::PreProcessDataType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("PreProcessData");
+    Framework::NameByClass(*this, s_Table);
 }
 
 PreProcessDataType::~PreProcessDataType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable PresetDefaultListType::s_Table = {
 // clang-format on
 
 PresetDefaultListType::PresetDefaultListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("PresetDefaults");
+    Framework::NameByClass(*this, s_Table);
 }
 
 PresetDefaultListType::~PresetDefaultListType() {

@@ -27,7 +27,7 @@ constinit const Framework::FieldTable ReferenceListConstraintType::s_Table = {
 
 ReferenceListConstraintType::ReferenceListConstraintType(bool bBuildFromScratch)
     : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ReferenceListConstraint");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ReferenceListConstraintType::~ReferenceListConstraintType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable ReferenceListType::s_Table = {
 // clang-format on
 
 ReferenceListType::ReferenceListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ReferenceList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ReferenceListType::~ReferenceListType() {

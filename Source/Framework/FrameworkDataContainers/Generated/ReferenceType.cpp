@@ -25,7 +25,7 @@ constinit const Framework::FieldTable ReferenceType::s_Table = {
 // clang-format on
 
 ReferenceType::ReferenceType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Reference");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ReferenceType::~ReferenceType() {}

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable RulesListType::s_Table = {
 // clang-format on
 
 RulesListType::RulesListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Rules");
+    Framework::NameByClass(*this, s_Table);
 }
 
 RulesListType::~RulesListType() {

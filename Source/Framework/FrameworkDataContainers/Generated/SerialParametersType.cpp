@@ -31,7 +31,7 @@ constinit const Framework::FieldTable SerialParametersType::s_Table = {
 // clang-format on
 
 SerialParametersType::SerialParametersType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("SerialParameters");
+    Framework::NameByClass(*this, s_Table);
 }
 
 SerialParametersType::~SerialParametersType() {}

@@ -30,7 +30,7 @@ constinit const Framework::FieldTable SimpleDataEntryType::s_Table = {
 // clang-format on
 
 SimpleDataEntryType::SimpleDataEntryType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("SimpleDataEntry");
+    Framework::NameByClass(*this, s_Table);
 }
 
 SimpleDataEntryType::~SimpleDataEntryType() {

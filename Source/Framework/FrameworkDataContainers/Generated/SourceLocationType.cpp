@@ -25,7 +25,7 @@ constinit const Framework::FieldTable SourceLocationType::s_Table = {
 // clang-format on
 
 SourceLocationType::SourceLocationType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("SourceLocations");
+    Framework::NameByClass(*this, s_Table);
 }
 
 SourceLocationType::~SourceLocationType() {

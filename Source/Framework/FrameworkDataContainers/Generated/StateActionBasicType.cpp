@@ -26,7 +26,7 @@ constinit const Framework::FieldTable StateActionBasicType::s_Table = {
 // clang-format on
 
 StateActionBasicType::StateActionBasicType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StateActionBasic");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateActionBasicType::~StateActionBasicType() {

@@ -26,7 +26,7 @@ constinit const Framework::FieldTable StateActionDataEntryType::s_Table = {
 
 StateActionDataEntryType::StateActionDataEntryType(bool bBuildFromScratch)
     : ExtendableDataEntryType(bBuildFromScratch) {
-    ExtendableDataEntryType::SetContainerName("StateActionDataEntry");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateActionDataEntryType::~StateActionDataEntryType() {

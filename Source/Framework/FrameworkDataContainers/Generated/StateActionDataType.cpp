@@ -24,7 +24,7 @@ constinit const Framework::FieldTable StateActionDataType::s_Table = {
 // clang-format on
 
 StateActionDataType::StateActionDataType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StateActionData");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateActionDataType::~StateActionDataType() {

@@ -26,7 +26,7 @@ constinit const Framework::FieldTable StateActionDefType::s_Table = {
 // clang-format on
 
 StateActionDefType::StateActionDefType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("StateActionDef");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateActionDefType::~StateActionDefType() {

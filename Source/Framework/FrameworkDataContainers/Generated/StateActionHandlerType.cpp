@@ -29,7 +29,7 @@ constinit const Framework::FieldTable StateActionHandlerType::s_Table = {
 // clang-format on
 
 StateActionHandlerType::StateActionHandlerType(bool bBuildFromScratch) : AbstractMethodDefType(bBuildFromScratch) {
-    AbstractMethodDefType::SetContainerName("StateActionHandler");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateActionHandlerType::~StateActionHandlerType() {

@@ -28,7 +28,7 @@ constinit const Framework::FieldTable StateActionListType::s_Table = {
 // clang-format on
 
 StateActionListType::StateActionListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StateActionList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateActionListType::~StateActionListType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable StateActionMapType::s_Table = {
 // clang-format on
 
 StateActionMapType::StateActionMapType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StateActionMap");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateActionMapType::~StateActionMapType() {

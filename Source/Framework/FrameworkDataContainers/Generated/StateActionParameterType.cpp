@@ -28,7 +28,7 @@ constinit const Framework::FieldTable StateActionParameterType::s_Table = {
 // clang-format on
 
 StateActionParameterType::StateActionParameterType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StateActionParameter");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateActionParameterType::~StateActionParameterType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable StateActionParametersListType::s_Table = {
 
 StateActionParametersListType::StateActionParametersListType(bool bBuildFromScratch)
     : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StateActionParametersList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateActionParametersListType::~StateActionParametersListType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable StateActionRespType::s_Table = {
 // clang-format on
 
 StateActionRespType::StateActionRespType(bool bBuildFromScratch) : StateActionBasicType(bBuildFromScratch) {
-    StateActionBasicType::SetContainerName("StateActionResp");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateActionRespType::~StateActionRespType() {}

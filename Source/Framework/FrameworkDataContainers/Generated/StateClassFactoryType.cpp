@@ -24,7 +24,7 @@ constinit const Framework::FieldTable StateClassFactoryType::s_Table = {
 // clang-format on
 
 StateClassFactoryType::StateClassFactoryType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StateClassFactory");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateClassFactoryType::~StateClassFactoryType() {

@@ -32,7 +32,7 @@ constinit const Framework::FieldTable StateDefinitionType::s_Table = {
 // clang-format on
 
 StateDefinitionType::StateDefinitionType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StateDefinition");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateDefinitionType::~StateDefinitionType() {

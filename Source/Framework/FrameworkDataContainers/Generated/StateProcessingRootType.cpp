@@ -26,7 +26,7 @@ constinit const Framework::FieldTable StateProcessingRootType::s_Table = {
 // clang-format on
 
 StateProcessingRootType::StateProcessingRootType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("StateProcessingRoot");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateProcessingRootType::~StateProcessingRootType() {

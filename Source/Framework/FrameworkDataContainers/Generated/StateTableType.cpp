@@ -28,7 +28,7 @@ constinit const Framework::FieldTable StateTableType::s_Table = {
 // clang-format on
 
 StateTableType::StateTableType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StateTable");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateTableType::~StateTableType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable StateTriggerFilterDefType::s_Table = {
 
 StateTriggerFilterDefType::StateTriggerFilterDefType(bool bBuildFromScratch)
     : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("StateTriggerFilterDef");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateTriggerFilterDefType::~StateTriggerFilterDefType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable StateTriggersListType::s_Table = {
 // clang-format on
 
 StateTriggersListType::StateTriggersListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StateTriggersList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StateTriggersListType::~StateTriggersListType() {

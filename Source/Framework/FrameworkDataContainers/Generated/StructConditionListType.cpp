@@ -27,7 +27,7 @@ constinit const Framework::FieldTable StructConditionListType::s_Table = {
 // clang-format on
 
 StructConditionListType::StructConditionListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ConditionalValue");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StructConditionListType::~StructConditionListType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable StructConditionType::s_Table = {
 // clang-format on
 
 StructConditionType::StructConditionType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Condition");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StructConditionType::~StructConditionType() {}

@@ -26,7 +26,7 @@ constinit const Framework::FieldTable StructDefaultType::s_Table = {
 // clang-format on
 
 StructDefaultType::StructDefaultType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("DefaultValue");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StructDefaultType::~StructDefaultType() {

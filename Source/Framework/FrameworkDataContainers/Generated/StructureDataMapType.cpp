@@ -25,7 +25,7 @@ constinit const Framework::FieldTable StructureDataMapType::s_Table = {
 // clang-format on
 
 StructureDataMapType::StructureDataMapType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StructureDataMap");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StructureDataMapType::~StructureDataMapType() {

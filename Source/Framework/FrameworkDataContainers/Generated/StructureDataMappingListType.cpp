@@ -25,7 +25,7 @@ constinit const Framework::FieldTable StructureDataMappingListType::s_Table = {
 
 StructureDataMappingListType::StructureDataMappingListType(bool bBuildFromScratch)
     : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StructureDataMappingList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StructureDataMappingListType::~StructureDataMappingListType() {

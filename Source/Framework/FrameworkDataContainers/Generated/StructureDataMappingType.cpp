@@ -25,7 +25,7 @@ constinit const Framework::FieldTable StructureDataMappingType::s_Table = {
 // clang-format on
 
 StructureDataMappingType::StructureDataMappingType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StructureDataMapping");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StructureDataMappingType::~StructureDataMappingType() {}

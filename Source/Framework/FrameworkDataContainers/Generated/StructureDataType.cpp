@@ -31,7 +31,7 @@ constinit const Framework::FieldTable StructureDataType::s_Table = {
 // clang-format on
 
 StructureDataType::StructureDataType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StructureData");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StructureDataType::~StructureDataType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable StructureEnumListType::s_Table = {
 // clang-format on
 
 StructureEnumListType::StructureEnumListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StructureEnumList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StructureEnumListType::~StructureEnumListType() {

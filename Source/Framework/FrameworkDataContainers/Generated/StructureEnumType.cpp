@@ -26,7 +26,7 @@ constinit const Framework::FieldTable StructureEnumType::s_Table = {
 // clang-format on
 
 StructureEnumType::StructureEnumType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StructureEnum");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StructureEnumType::~StructureEnumType() {

@@ -26,7 +26,7 @@ constinit const Framework::FieldTable StructurePacketDefType::s_Table = {
 // clang-format on
 
 StructurePacketDefType::StructurePacketDefType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StructurePacketDef");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StructurePacketDefType::~StructurePacketDefType() {

@@ -33,7 +33,7 @@ constinit const Framework::FieldTable StructureRefMapType::s_Table = {
 // clang-format on
 
 StructureRefMapType::StructureRefMapType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StructureRefMap");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StructureRefMapType::~StructureRefMapType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable StructureReferenceMapType::s_Table = {
 // clang-format on
 
 StructureReferenceMapType::StructureReferenceMapType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("StructureReferenceMap");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StructureReferenceMapType::~StructureReferenceMapType() {

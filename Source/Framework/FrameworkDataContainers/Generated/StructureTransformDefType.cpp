@@ -31,7 +31,7 @@ constinit const Framework::FieldTable StructureTransformDefType::s_Table = {
 
 StructureTransformDefType::StructureTransformDefType(bool bBuildFromScratch)
     : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("StructureTransformDef");
+    Framework::NameByClass(*this, s_Table);
 }
 
 StructureTransformDefType::~StructureTransformDefType() {

@@ -34,7 +34,7 @@ constinit const Framework::FieldTable SystemEventPacketType::s_Table = {
 // clang-format on
 
 SystemEventPacketType::SystemEventPacketType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("SystemEventPacket");
+    Framework::NameByClass(*this, s_Table);
 }
 
 SystemEventPacketType::~SystemEventPacketType() {}

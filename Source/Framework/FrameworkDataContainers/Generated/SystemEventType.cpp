@@ -25,7 +25,7 @@ constinit const Framework::FieldTable SystemEventType::s_Table = {
 // clang-format on
 
 SystemEventType::SystemEventType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("SystemEvent");
+    Framework::NameByClass(*this, s_Table);
 }
 
 SystemEventType::~SystemEventType() {}

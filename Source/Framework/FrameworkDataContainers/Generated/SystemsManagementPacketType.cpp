@@ -28,7 +28,7 @@ constinit const Framework::FieldTable SystemsManagementPacketType::s_Table = {
 
 SystemsManagementPacketType::SystemsManagementPacketType(bool bBuildFromScratch)
     : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("SystemsManagementPacket");
+    Framework::NameByClass(*this, s_Table);
 }
 
 SystemsManagementPacketType::~SystemsManagementPacketType() {

@@ -25,7 +25,7 @@ constinit const Framework::FieldTable TarnLoggingConfigType::s_Table = {
 // clang-format on
 
 TarnLoggingConfigType::TarnLoggingConfigType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("TarnLoggingConfig");
+    Framework::NameByClass(*this, s_Table);
 }
 
 TarnLoggingConfigType::~TarnLoggingConfigType() {

@@ -33,7 +33,7 @@ constinit const Framework::FieldTable TenderDataEntryType::s_Table = {
 // clang-format on
 
 TenderDataEntryType::TenderDataEntryType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("TenderDataEntry");
+    Framework::NameByClass(*this, s_Table);
 }
 
 TenderDataEntryType::~TenderDataEntryType() {}

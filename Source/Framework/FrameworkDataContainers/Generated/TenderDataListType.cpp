@@ -24,7 +24,7 @@ constinit const Framework::FieldTable TenderDataListType::s_Table = {
 // clang-format on
 
 TenderDataListType::TenderDataListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("TenderDataList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 TenderDataListType::~TenderDataListType() {

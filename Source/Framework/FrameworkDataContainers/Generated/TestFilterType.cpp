@@ -28,7 +28,7 @@ constinit const Framework::FieldTable TestFilterType::s_Table = {
 // clang-format on
 
 TestFilterType::TestFilterType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("TestFilter");
+    Framework::NameByClass(*this, s_Table);
 }
 
 TestFilterType::~TestFilterType() {

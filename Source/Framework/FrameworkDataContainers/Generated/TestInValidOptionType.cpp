@@ -24,7 +24,7 @@ constinit const Framework::FieldTable TestInValidOptionType::s_Table = {
 // clang-format on
 
 TestInValidOptionType::TestInValidOptionType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("TestInValidOption");
+    Framework::NameByClass(*this, s_Table);
 }
 
 TestInValidOptionType::~TestInValidOptionType() {}

@@ -27,7 +27,7 @@ constinit const Framework::FieldTable ThreadChildListType::s_Table = {
 // clang-format on
 
 ThreadChildListType::ThreadChildListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ThreadChildList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ThreadChildListType::~ThreadChildListType() {

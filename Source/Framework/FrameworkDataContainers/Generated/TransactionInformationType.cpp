@@ -37,7 +37,7 @@ constinit const Framework::FieldTable TransactionInformationType::s_Table = {
 // clang-format on
 
 TransactionInformationType::TransactionInformationType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("TransactionInformation");
+    Framework::NameByClass(*this, s_Table);
 }
 
 TransactionInformationType::~TransactionInformationType() {

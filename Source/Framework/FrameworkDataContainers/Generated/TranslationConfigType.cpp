@@ -24,7 +24,7 @@ constinit const Framework::FieldTable TranslationConfigType::s_Table = {
 // clang-format on
 
 TranslationConfigType::TranslationConfigType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("TranslationConfig");
+    Framework::NameByClass(*this, s_Table);
 }
 
 TranslationConfigType::~TranslationConfigType() {

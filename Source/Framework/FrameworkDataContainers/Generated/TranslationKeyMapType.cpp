@@ -25,7 +25,7 @@ constinit const Framework::FieldTable TranslationKeyMapType::s_Table = {
 // clang-format on
 
 TranslationKeyMapType::TranslationKeyMapType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("TranslationKeyMap");
+    Framework::NameByClass(*this, s_Table);
 }
 
 TranslationKeyMapType::~TranslationKeyMapType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable TranslationTextType::s_Table = {
 // clang-format on
 
 TranslationTextType::TranslationTextType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("TranslationText");
+    Framework::NameByClass(*this, s_Table);
 }
 
 TranslationTextType::~TranslationTextType() {

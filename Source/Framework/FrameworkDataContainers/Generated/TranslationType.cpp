@@ -27,7 +27,7 @@ constinit const Framework::FieldTable TranslationType::s_Table = {
 // clang-format on
 
 TranslationType::TranslationType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Translation");
+    Framework::NameByClass(*this, s_Table);
 }
 
 TranslationType::~TranslationType() {

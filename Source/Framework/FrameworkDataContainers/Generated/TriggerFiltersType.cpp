@@ -24,7 +24,7 @@ constinit const Framework::FieldTable TriggerFiltersType::s_Table = {
 // clang-format on
 
 TriggerFiltersType::TriggerFiltersType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("TriggerFilters");
+    Framework::NameByClass(*this, s_Table);
 }
 
 TriggerFiltersType::~TriggerFiltersType() {

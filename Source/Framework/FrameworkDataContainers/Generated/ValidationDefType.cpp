@@ -24,7 +24,7 @@ constinit const Framework::FieldTable ValidationDefType::s_Table = {
 // clang-format on
 
 ValidationDefType::ValidationDefType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ValidationDef");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ValidationDefType::~ValidationDefType() {

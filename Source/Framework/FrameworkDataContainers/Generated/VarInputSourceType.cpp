@@ -26,7 +26,7 @@ constinit const Framework::FieldTable VarInputSourceType::s_Table = {
 // clang-format on
 
 VarInputSourceType::VarInputSourceType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("VarInputSource");
+    Framework::NameByClass(*this, s_Table);
 }
 
 VarInputSourceType::~VarInputSourceType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable VarInputType::s_Table = {
 // clang-format on
 
 VarInputType::VarInputType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("VarInput");
+    Framework::NameByClass(*this, s_Table);
 }
 
 VarInputType::~VarInputType() {

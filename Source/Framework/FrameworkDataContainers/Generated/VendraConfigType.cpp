@@ -24,7 +24,7 @@ constinit const Framework::FieldTable VendraConfigType::s_Table = {
 // clang-format on
 
 VendraConfigType::VendraConfigType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("VendraConfig");
+    Framework::NameByClass(*this, s_Table);
 }
 
 VendraConfigType::~VendraConfigType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable VendraDBConfigType::s_Table = {
 // clang-format on
 
 VendraDBConfigType::VendraDBConfigType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("VendraDBConfig");
+    Framework::NameByClass(*this, s_Table);
 }
 
 VendraDBConfigType::~VendraDBConfigType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable ViewListType::s_Table = {
 // clang-format on
 
 ViewListType::ViewListType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("ViewList");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ViewListType::~ViewListType() {

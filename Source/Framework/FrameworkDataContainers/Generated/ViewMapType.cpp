@@ -25,7 +25,7 @@ constinit const Framework::FieldTable ViewMapType::s_Table = {
 // clang-format on
 
 ViewMapType::ViewMapType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("View");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ViewMapType::~ViewMapType() {}

@@ -26,7 +26,7 @@ constinit const Framework::FieldTable VoiceCurrencyType::s_Table = {
 // clang-format on
 
 VoiceCurrencyType::VoiceCurrencyType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("VoiceCurrency");
+    Framework::NameByClass(*this, s_Table);
 }
 
 VoiceCurrencyType::~VoiceCurrencyType() {}

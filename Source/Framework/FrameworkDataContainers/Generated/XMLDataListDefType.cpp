@@ -26,7 +26,7 @@ constinit const Framework::FieldTable XMLDataListDefType::s_Table = {
 // clang-format on
 
 XMLDataListDefType::XMLDataListDefType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("XMLDataListDef");
+    Framework::NameByClass(*this, s_Table);
 }
 
 XMLDataListDefType::~XMLDataListDefType() {}

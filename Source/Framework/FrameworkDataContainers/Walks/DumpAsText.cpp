@@ -43,7 +43,7 @@ private:
             return false;
         }
         try {
-            const zelString& name = ContainerAccess::ContainerName(object);
+            const std::string_view name = ContainerAccess::ContainerName(object);
             const bool isKnown = !likelyName.empty() && name == likelyName;
             if (!isKnown && !IsXmlName(name)) {
                 return false;

@@ -106,7 +106,7 @@ private:
             return;
         }
         SetAttributesOf(m_dump.ownTable);
-        const zelString& feature = ContainerAccess::MergeFeature(m_object);
+        const std::string_view feature = ContainerAccess::MergeFeature(m_object);
         if (m_dump.withMergeAttributes && !feature.empty()) {
             SetOneAttribute("FeatureID", feature);
         }

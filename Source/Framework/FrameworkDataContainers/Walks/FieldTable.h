@@ -134,7 +134,7 @@ constexpr bool IsProperty(const FieldRow& row) {
 
 struct FieldTable {
     std::string_view className;
-    std::string_view elementName;  ///< what the constructor gives SetContainerName
+    std::string_view elementName;  ///< what the constructor names the object
     const FieldTable* parent;      ///< of the generated base class, null when the base is none
     bool isStructuralConfigLoader; ///< derives from StructuralConfigLoader
     bool isRoot;                   ///< its element is the root of a document or packet

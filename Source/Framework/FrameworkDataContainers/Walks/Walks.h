@@ -10,6 +10,8 @@
 /// in every walk.
 namespace Framework {
 
+// NameByClass.cpp
+void NameByClass(TypedDataContainer& object, const FieldTable& table) noexcept;
 // Populate.cpp
 bool Populate(TypedDataContainer& object, const FieldTable& table, XalanNode* pNode);
 // Update.cpp

@@ -26,7 +26,7 @@ constinit const Framework::FieldTable AContainerWithANameOfSomeLengthType::s_Tab
 
 AContainerWithANameOfSomeLengthType::AContainerWithANameOfSomeLengthType(bool bBuildFromScratch)
     : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Long");
+    Framework::NameByClass(*this, s_Table);
 }
 
 AContainerWithANameOfSomeLengthType::~AContainerWithANameOfSomeLengthType() {

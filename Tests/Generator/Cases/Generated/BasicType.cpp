@@ -26,7 +26,7 @@ constinit const Framework::FieldTable BasicType::s_Table = {
 // clang-format on
 
 BasicType::BasicType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("Basic");
+    Framework::NameByClass(*this, s_Table);
 }
 
 BasicType::~BasicType() {

@@ -24,7 +24,7 @@ constinit const Framework::FieldTable DerivedType::s_Table = {
 // clang-format on
 
 DerivedType::DerivedType(bool bBuildFromScratch) : BasicType(bBuildFromScratch) {
-    BasicType::SetContainerName("Derived");
+    Framework::NameByClass(*this, s_Table);
 }
 
 DerivedType::~DerivedType() {}

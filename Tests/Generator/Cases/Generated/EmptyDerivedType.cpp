@@ -19,7 +19,7 @@ constinit const Framework::FieldTable EmptyDerivedType::s_Table = {
 // clang-format on
 
 EmptyDerivedType::EmptyDerivedType(bool bBuildFromScratch) : DerivedType(bBuildFromScratch) {
-    DerivedType::SetContainerName("EmptyDerived");
+    Framework::NameByClass(*this, s_Table);
 }
 
 EmptyDerivedType::~EmptyDerivedType() {}

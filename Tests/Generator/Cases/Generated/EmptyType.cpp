@@ -19,7 +19,7 @@ constinit const Framework::FieldTable EmptyType::s_Table = {
 // clang-format on
 
 EmptyType::EmptyType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Empty");
+    Framework::NameByClass(*this, s_Table);
 }
 
 EmptyType::~EmptyType() {}

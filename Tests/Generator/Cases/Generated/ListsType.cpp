@@ -35,7 +35,7 @@ constinit const Framework::FieldTable ListsType::s_Table = {
 // clang-format on
 
 ListsType::ListsType(bool bBuildFromScratch) : TypedDataContainer(bBuildFromScratch) {
-    TypedDataContainer::SetContainerName("Lists");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ListsType::~ListsType() {

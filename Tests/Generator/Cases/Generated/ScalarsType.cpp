@@ -39,7 +39,7 @@ constinit const Framework::FieldTable ScalarsType::s_Table = {
 // clang-format on
 
 ScalarsType::ScalarsType(bool bBuildFromScratch) : StructuralConfigLoader(bBuildFromScratch) {
-    StructuralConfigLoader::SetContainerName("Scalars");
+    Framework::NameByClass(*this, s_Table);
 }
 
 ScalarsType::~ScalarsType() {
