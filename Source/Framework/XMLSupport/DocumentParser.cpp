@@ -6,6 +6,7 @@
 #include "Framework/XMLSupport/NodeCounter.h"
 #include "Framework/XMLSupport/ParserMemory.h"
 #include "Framework/XMLSupport/ParserMessages.h"
+#include "Framework/XMLSupport/SpareParsers.h"
 #include "Framework/XMLSupport/TagScanner.h"
 #include "Framework/XMLSupport/TextHash.h"
 #include "Framework/XMLSupport/ThreadTime.h"
@@ -13,7 +14,6 @@
 #include <expat.h>
 
 #include <exception>
-#include <memory>
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -34,9 +34,7 @@ public:
     ParserRun(DocumentData& data, const LoadLimits& limits, double startSeconds)
         : m_data(data), m_limits(limits), m_startSeconds(startSeconds), m_builder(data, limits),
           m_scanner(data.source.text, limits), m_memory(limits.memory),
-          // With the encoding named, a declaration of the encoding that the document once had is not applied to its
-          // UTF-8 text.
-          m_parser(::XML_ParserCreate_MM("UTF-8", &ParserMemory::Suite(), nullptr)) {
+          m_parser(TakeParser(data.source.text.size(), m_memory)) {
         if (!m_parser) {
             FailForMemory(0);
         }
@@ -204,10 +202,6 @@ private:
     static constexpr std::size_t kPieceBytes = std::size_t{64} * 1024;
     static constexpr std::size_t kShareForCopy = 16;
 
-    struct ParserDeleter {
-        void operator()(XML_Parser parser) const { ::XML_ParserFree(parser); }
-    };
-
     DocumentData& m_data;
     const LoadLimits& m_limits;
     double m_startSeconds;
@@ -216,7 +210,7 @@ private:
     Builder m_builder;
     TagScanner m_scanner;
     ParserMemory m_memory;
-    std::unique_ptr<XML_ParserStruct, ParserDeleter> m_parser;
+    ParserPtr m_parser;
 };
 
 /// Refuses a document that has more nodes than are allowed before any memory is spent on them. Whatever else is wrong
