@@ -22,6 +22,7 @@
 
 #include "Framework/FrameworkDataContainers/Walks/TableIndex.h"
 #include "Framework/XMLSupport/FaultPoint.h"
+#include "Framework/XMLSupport/SpareParsers.h"
 #include "Framework/XMLSupport/XmlRuntime.h"
 #include "FrameworkDataContainers/FrameworkDataContainers.h"
 
@@ -467,7 +468,12 @@ struct Fault {
 
 Fault MemoryFault(bool fromThenOn, FailingMemory::Level level = FailingMemory::Level::New) {
     const auto memory = std::make_shared<std::optional<FailingMemory>>();
-    return {[=](long k) { memory->emplace(k, fromThenOn, level); },
+    return {[=](long k) {
+                if (!fromThenOn) { // else a spare parser is taken, so that both are tried
+                    Framework::FreeSpareParsers();
+                }
+                memory->emplace(k, fromThenOn, level);
+            },
             [=] {
                 memory->reset();
                 return FailingMemory::HasFailed();

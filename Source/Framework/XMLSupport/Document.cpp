@@ -9,11 +9,13 @@
 namespace Framework {
 
 std::shared_ptr<const Document> Document::Parse(std::string bytes, std::string sourceName, const LoadLimits& limits) {
-    return std::shared_ptr<const Document>(
-        new Document(ParseDocument(std::move(bytes), std::move(sourceName), limits)));
+    return std::shared_ptr<const Document>(new Document(std::move(bytes), std::move(sourceName), limits));
 }
 
-Document::Document(DocumentData data) : m_data(std::move(data)) {}
+Document::Document(std::string bytes, std::string sourceName, const LoadLimits& limits)
+    : m_data(ParseDocument(std::move(bytes), std::move(sourceName), limits)) {}
+
+Document::Document(const DocumentData& data) : m_data(data) {}
 
 Document::~Document() = default;
 

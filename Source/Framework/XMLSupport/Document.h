@@ -90,7 +90,8 @@ public:
 private:
     friend class DocumentEditor;
 
-    explicit Document(DocumentData data);
+    Document(std::string bytes, std::string sourceName, const LoadLimits& limits);
+    explicit Document(const DocumentData& data);
     std::string_view ValueElsewhere(const NodeRecord::Leaf& leaf) const;
 
     static NodeRef Ref(std::uint32_t number) { return NodeRef{number}; }

@@ -7,6 +7,7 @@
 #include "Framework/XMLSupport/NodeCounter.h"
 #include "Framework/XMLSupport/ParserMemory.h"
 #include "Framework/XMLSupport/ParserMessages.h"
+#include "Framework/XMLSupport/SpareParsers.h"
 #include "Framework/XMLSupport/TagScanner.h"
 #include "Framework/XMLSupport/TextHash.h"
 #include "Framework/XMLSupport/ThreadTime.h"
@@ -14,7 +15,6 @@
 #include <expat.h>
 
 #include <exception>
-#include <memory>
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -38,10 +38,7 @@ template <typename Builder> class ParserRun {
 public:
     ParserRun(DocumentData& data, const LoadLimits& limits, double startSeconds)
         : m_data(data), m_limits(limits), m_startSeconds(startSeconds), m_builder(data, limits),
-          m_memory(limits.memory),
-          // With the encoding named, a declaration of the encoding that the document once had is not applied to its
-          // UTF-8 text.
-          m_parser(::XML_ParserCreate_MM("UTF-8", &ParserMemory::Suite(), nullptr)) {
+          m_memory(limits.memory), m_parser(TakeParser(data.source.text.size(), m_memory)) {
         if (!m_parser) {
             FailForMemory(0);
         }
@@ -257,9 +254,6 @@ private:
     }
 
     static constexpr std::size_t kPieceBytes = std::size_t{64} * 1024;
-    struct ParserDeleter {
-        void operator()(XML_Parser parser) const { ::XML_ParserFree(parser); }
-    };
 
     DocumentData& m_data;
     const LoadLimits& m_limits;
@@ -273,7 +267,7 @@ private:
     std::uint32_t m_told = 0; ///< the end of the last event
     bool m_eventIsWhole = true;
     ParserMemory m_memory;
-    std::unique_ptr<XML_ParserStruct, ParserDeleter> m_parser;
+    ParserPtr m_parser;
 };
 
 /// Refuses a document that has more nodes than are allowed before any memory is spent on them. Whatever else is wrong

@@ -13,9 +13,8 @@ namespace {
 constinit thread_local ParserMemory* current = nullptr;
 
 /// The size stands in front of what the parser gets; releasing does not tell it.
-union Header {
+struct alignas(std::max_align_t) Header {
     std::size_t size;
-    std::max_align_t alignment;
 };
 
 Header* HeaderOf(void* memory) {

@@ -19,6 +19,9 @@ public:
     static const XML_Memory_Handling_Suite& Suite();
 
     std::size_t Used() const { return m_used; }
+    std::size_t Most() const { return m_most; }
+    /// A parser comes that holds this much from an earlier document.
+    void Add(std::size_t held) { m_used += held; }
     /// Whether the parser asked for more than the limit.
     bool IsExceeded() const { return m_exceeded; }
     /// The limit from now on.
