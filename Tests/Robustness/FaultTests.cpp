@@ -100,7 +100,6 @@ std::string BytesOf(const std::string& path) {
     return text.str();
 }
 
-constexpr const char* kStore = "FaultTests";
 constexpr const char* kOldBytes = "<old/>";
 
 struct Scene {
@@ -128,17 +127,8 @@ struct Scene {
 
 /// The keys of entries stay: two of them would get the same.
 void ChangeValues(Scene& scene) {
-    static const std::set<std::string_view> keys = [] {
-        std::set<std::string_view> names;
-        for (const CatalogClass& type : ContainerCatalog::Classes()) {
-            for (const CatalogField& field : type.OwnFields()) {
-                names.insert(field.KeyAttribute());
-            }
-        }
-        return names;
-    }();
     for (const Value& value : ValuesOf(*scene.object)) {
-        if (!keys.contains(value.field.Name())) {
+        if (value.field.GetForm() != CatalogField::Attribute || value.object == scene.object.get()) {
             value.Set(OtherThan(value.field, value.Get()));
         }
     }
@@ -269,9 +259,6 @@ void WriteFile(Scene& scene) {
     std::ofstream(kIn) << scene.content.override;
     std::ofstream(kOut) << kOldBytes;
 }
-void Register(Scene& scene) {
-    EXPECT_TRUE(TypedDataContainer::RegisterTemplate(kStore, scene.name.c_str(), scene.content.override));
-}
 void TakeDomNode(Scene& scene) {
     LoadOverride(scene);
     scene.node = scene.source.GetDOMNode(true, false);
@@ -342,8 +329,6 @@ const Operation operations[] = {
      [](Scene& s) { return s.object->LoadFromDataPacket(nullptr, &s.source, false); }},
     {"LoadFromFile", Promise::EndsSomehow, Leaves::AsItWasOrInvalid, &WriteFile,
      [](Scene& s) { return s.object->LoadFromFile(nullptr, kIn.c_str(), true); }},
-    {"LoadFromTemplate", Promise::EndsSomehow, Leaves::AsItWasOrInvalid, &Register,
-     [](Scene& s) { return s.object->LoadFromTemplate(nullptr, kStore, s.name.c_str(), false); }},
     {"LoadFromDOMNode", Promise::EndsSomehow, Leaves::AsItWasOrInvalid, &TakeDomNode,
      [](Scene& s) { return s.object->LoadFromDOMNode(nullptr, s.node, false); }},
     {"SetContainedDataPtr", Promise::EndsSomehow, Leaves::Whole, &LoadOther,
@@ -352,8 +337,6 @@ const Operation operations[] = {
      [](Scene& s) { return s.object->MergeFromDataPacket(nullptr, std::move(s.feature), &s.source, false); }},
     {"MergeFromFile", Promise::EndsSomehow, Leaves::AsItWasOrMerged, &WriteFile,
      [](Scene& s) { return s.object->MergeFromFile(nullptr, kIn.c_str()); }},
-    {"MergeFromTemplate", Promise::EndsSomehow, Leaves::AsItWasOrMerged, &Register,
-     [](Scene& s) { return s.object->MergeFromTemplate(nullptr, kStore, s.name.c_str()); }},
     {"MergeFromDOMNode", Promise::EndsSomehow, Leaves::AsItWasOrMerged, &TakeDomNode,
      [](Scene& s) { return s.object->MergeFromDOMNode(nullptr, std::move(s.feature), s.node); }},
     {"UpdateContainedData", Promise::EndsSomehow, Leaves::AsItWas, &ChangeValues,
@@ -486,9 +469,10 @@ Fault MemoryFault(bool fromThenOn, FailingMemory::Level level = FailingMemory::L
 thread_local long stepsLeft = -1;
 thread_local int thrownKind = 0;
 thread_local bool wasRefusal = false;
+thread_local std::string_view onlyStep; ///< of that name; empty: any
 
 void FailAtStep(const char* where) {
-    if (stepsLeft < 0 || stepsLeft-- > 0) {
+    if (stepsLeft < 0 || (!onlyStep.empty() && onlyStep != where) || stepsLeft-- > 0) {
         return;
     }
     wasRefusal = thrownKind == 0 && (std::string_view(where) == "WriteNode" || std::string_view(where) == "Find");
@@ -700,7 +684,7 @@ TEST(Faults, WalksEndWithTheirFixedTexts) {
              return s.object->DumpMergeContentsII(nullptr, &s.output, passed, true);
          }},
     };
-    static thread_local const char* step;
+    const Fault fault = StepFault();
     const Content content{ContainerCatalog::FindClass("ChildThreadType"),
                           "<ChildThread UniqueName='u'><LibraryPath>l</LibraryPath></ChildThread>", "<ChildThread/>",
                           "<ChildThread UniqueName='u'><LibraryPath>m</LibraryPath></ChildThread>"};
@@ -710,23 +694,17 @@ TEST(Faults, WalksEndWithTheirFixedTexts) {
             Scene scene(content);
             LoadOverride(scene);
             StartOutput(scene);
-            step = walk.step;
-            stepsLeft = k / kKinds;
-            thrownKind = static_cast<int>(k % kKinds);
-            Framework::faultFunction = [](const char* where) {
-                if (std::string_view(where) == step) {
-                    FailAtStep(where);
-                }
-            };
+            onlyStep = walk.step;
+            fault.arm(k);
             const bool success = walk.run(scene);
-            Framework::faultFunction = nullptr;
-            failed = stepsLeft < 0;
+            failed = fault.disarm();
             EXPECT_EQ(scene.object->GetLastError(), failed ? walk.text : "") << walk.step << " with chance " << k;
             EXPECT_EQ(scene.object->GetLastErrorNum(), failed ? -1 : 0);
             EXPECT_TRUE(failed ? !success || !walk.isFalse : success);
         }
         EXPECT_GE(k, 3 * kKinds) << walk.step;
     }
+    onlyStep = {};
 }
 
 TEST(Faults, AnyAllocationMayFail) {
