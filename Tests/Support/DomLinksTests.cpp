@@ -69,11 +69,7 @@ TEST(DomLinks, LeaveTheDomAsXercesDoes) {
             append(*s.root, *s.b);
             append(*s.root, *s.a);
             append(*s.b, *s.a);
-        },
-        [](Scene& s, Append append) { // taken out, and put back
-            append(*s.root, *s.a);
-            append(*s.root, *s.b);
-            s.root->removeChild(s.a);
+            s.b->removeChild(s.a);
             append(*s.root, *s.a);
         },
         [](Scene& s, Append append) { // the root, which the document then has no more
@@ -111,13 +107,12 @@ TEST(DomLinks, AttributesAreThoseOfXerces) {
     Scene s;
     for (const XMLCh* const name : {u"m", u"z", u"a", u"n"}) {
         DOMAttr* const attribute = s.document->createAttribute(name);
-        AddAttribute(*s.root, *attribute, name[0] == u'a' ? u"" : u"value");
+        AddAttribute(*s.root, *attribute, name);
         EXPECT_EQ(s.root->getAttributeNode(name), attribute);
-        EXPECT_EQ(attribute->getOwnerElement(), s.root);
-        EXPECT_TRUE(attribute->getSpecified());
-        EXPECT_EQ(zelString(ValueOf(*attribute)), name[0] == u'a' ? "" : "value");
-        EXPECT_EQ(zelString(attribute->getValue()), zelString(ValueOf(*attribute)));
-        EXPECT_EQ(Name(attribute->getFirstChild()->getParentNode()), Name(attribute));
+        EXPECT_TRUE(attribute->getOwnerElement() == s.root && attribute->getSpecified());
+        EXPECT_EQ(zelString(ValueOf(*attribute)), Name(attribute));
+        EXPECT_EQ(zelString(attribute->getValue()), Name(attribute));
+        EXPECT_EQ(attribute->getFirstChild()->getParentNode(), attribute);
     }
     std::string names;
     for (XMLSize_t i = 0; i < s.root->getAttributes()->getLength(); ++i) {
@@ -126,7 +121,7 @@ TEST(DomLinks, AttributesAreThoseOfXerces) {
     EXPECT_EQ(names, "amnz");
     DOMAttr* const first = s.root->getAttributeNode(u"m");
     first->appendChild(s.document->createTextNode(u" more"));
-    EXPECT_EQ(zelString(ValueOf(*first)), "value more"); // of two texts
+    EXPECT_EQ(zelString(ValueOf(*first)), "m more"); // of two texts
     first->setValue(u"set");
     EXPECT_EQ(zelString(ValueOf(*first)), "set");
 }
