@@ -46,14 +46,12 @@ private:
 
 /// What a tree holds, and what of it does not come back from a dump or an update for reasons that are known.
 struct Reading {
-    std::vector<std::string> lines; ///< one for each value; entries by position, and by key where keys are kept
+    std::vector<std::string> lines; ///< of its sample, without keys that a load makes anew
     bool hasStrangeWords = false;   ///< its document has texts that are no words of their vocabulary
     bool hasEqualKeys = false;      ///< two keys of a list are written differently and are the same number
-
-    bool operator==(const Reading& other) const { return lines == other.lines; }
 };
 
-/// Reads every value through the catalogue, and asks all that the catalogue answers about it.
+/// Reads every value through the catalogue.
 Reading ReadAll(TypedDataContainer& object);
 
 /// Throws a Violation with the first line that differs.
