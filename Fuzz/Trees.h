@@ -10,11 +10,14 @@
 /// What the targets share about trees of containers.
 namespace Fuzz {
 
-/// Collects what goes to the override log while it lives.
+/// Collects what this thread's work tells the override log while it lives.
 class OverrideLog {
 public:
-    OverrideLog() { TypedDataContainer::SetOverrideIssueHandler(&Record, this); }
-    ~OverrideLog() { TypedDataContainer::SetOverrideIssueHandler(nullptr, nullptr); }
+    OverrideLog() {
+        s_current = this;
+        TypedDataContainer::SetOverrideIssueHandler(&Record, nullptr);
+    }
+    ~OverrideLog() { s_current = nullptr; }
     OverrideLog(const OverrideLog&) = delete;
     OverrideLog& operator=(const OverrideLog&) = delete;
 
@@ -22,10 +25,13 @@ public:
     std::string_view Last() const { return m_texts.empty() ? std::string_view() : m_texts.back(); }
 
 private:
-    static void Record(void* context, const OverrideIssue& issue) {
-        static_cast<OverrideLog*>(context)->m_texts.push_back(issue.ErrorText);
+    static void Record(void*, const OverrideIssue& issue) {
+        if (s_current != nullptr) {
+            s_current->m_texts.push_back(issue.ErrorText);
+        }
     }
 
+    static inline thread_local OverrideLog* s_current = nullptr;
     std::vector<std::string> m_texts;
 };
 
