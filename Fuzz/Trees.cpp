@@ -36,11 +36,12 @@ void NoteKeys(Samples::Sample& sample, Reading& reading) {
     }
 }
 
+/// The first entry of a list answers for all: its texts are those of the field.
 bool HasStrangeWords(const Value& value) {
-    const std::vector<zelString> texts = value.field.DocumentTexts(*value.object);
-    if (value.field.GetValue() != CatalogField::Enumeration) {
+    if (value.position.value_or(0) != 0 || value.field.GetValue() != CatalogField::Enumeration) {
         return false;
     }
+    const std::vector<zelString> texts = value.field.DocumentTexts(*value.object);
     const std::vector<zelString> words = value.field.Words();
     return std::any_of(texts.begin(), texts.end(), [&](const zelString& text) {
         return !text.empty() && std::find(words.begin(), words.end(), text) == words.end();

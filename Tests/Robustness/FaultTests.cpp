@@ -1,16 +1,15 @@
 // An allocation or a call of the XML layer may fail at any moment. Each operation is run with chance number 0, 1, 2 and
 // so on failing, until it gets through; after every failure the object must be whole, and good for all that comes next.
 
+#include "Commands.h"
 #include "Containers/EveryClass.h"
 #include "Containers/Values.h"
 #include "Robustness/FailingMemory.h"
 #include "Robustness/Sizes.h"
 
 #include <filesystem>
-#include <fstream>
 #include <limits>
 #include <set>
-#include <sstream>
 
 #include <unistd.h>
 #include <xercesc/dom/DOMDocument.hpp>
@@ -91,24 +90,12 @@ std::string PathFor(const char* name) {
 const std::string kIn = PathFor("in");
 const std::string kOut = PathFor("out");
 const zelString kNewValue = "a new value that is longer than what a string holds in itself";
-const zelString kNewKey = "a key that needs some memory";
 const zelString kXPath = "//*[contains('a long text, ' , ', ') and last() >= 1]";
-
-std::string BytesOf(const std::string& path) {
-    std::ostringstream text;
-    text << std::ifstream(path).rdbuf();
-    return text.str();
-}
-
-constexpr const char* kOldBytes = "<old/>";
 
 struct Scene {
     explicit Scene(const Content& which) : content(which), name(which.type.ElementName()) {
         EXPECT_TRUE(document.LoadXMLText(content.xml, false)) << document.GetLastError();
-        Load(*object);
-    }
-    void Load(TypedDataContainer& into) {
-        EXPECT_TRUE(into.LoadFromDataPacket(nullptr, &document, false)) << into.GetLastError();
+        EXPECT_TRUE(object->LoadFromDataPacket(nullptr, &document, false)) << object->GetLastError();
     }
 
     const Content& content;
@@ -244,20 +231,17 @@ struct Operation {
     void (*check)(Scene& scene) = nullptr;
 };
 
-void LoadSource(Scene& scene, const std::string& xml) {
-    EXPECT_TRUE(scene.source.LoadXMLText(xml, false)) << scene.source.GetLastError();
-}
 void LoadOther(Scene& scene) {
-    LoadSource(scene, scene.content.other);
+    EXPECT_TRUE(scene.source.LoadXMLText(scene.content.other, false)) << scene.source.GetLastError();
 }
 void LoadOverride(Scene& scene) {
-    LoadSource(scene, scene.content.override);
+    EXPECT_TRUE(scene.source.LoadXMLText(scene.content.override, false)) << scene.source.GetLastError();
 }
 void Nothing(Scene&) {}
 
 void WriteFile(Scene& scene) {
-    std::ofstream(kIn) << scene.content.override;
-    std::ofstream(kOut) << kOldBytes;
+    Framework::WriteText(kIn, scene.content.override);
+    Framework::WriteText(kOut, "<old/>");
 }
 void TakeDomNode(Scene& scene) {
     LoadOverride(scene);
@@ -318,7 +302,7 @@ zelString GivenText(Scene& scene) {
     return scene.text;
 }
 zelString OutBytes(Scene& scene) {
-    const zelString bytes = BytesOf(kOut);
+    const zelString bytes = Framework::ReadText(kOut);
     XMLDataWrapper saved;
     EXPECT_TRUE(saved.LoadXMLText(bytes, true)) << saved.GetLastError() << " of " << scene.name;
     return bytes;
