@@ -125,6 +125,8 @@ TEST_F(SaveRefusal, OtherFilesAreSafeAndNewOnesAreMade) {
     ExpectSaved(wrapper, m_folder / "copy.xml");
     ExpectSaved(wrapper, m_folder / "copy.xml");
     ExpectSaved(wrapper, m_path); // what was loaded is still known
+    ExpectSaved(wrapper, m_folder / "sub" / "link", false);
+    EXPECT_TRUE(fs::is_symlink(m_folder / "sub" / "link"));
     ExpectSaved(wrapper, m_folder / "sub" / "link");
     ExpectSaved(wrapper, m_folder / "copy.xml");
     fs::remove(m_folder / "copy.xml");

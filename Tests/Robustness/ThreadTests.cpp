@@ -83,6 +83,11 @@ public:
         try {
             const std::string document = Framework::ReadText(m_example.document);
             Fuzz::Load(document);
+            const Framework::TemporaryFolder folder;
+            const std::string file = folder / "saved.xml";
+            XMLDataWrapper wrapper;
+            EXPECT_TRUE(wrapper.LoadXMLFile(m_example.document.c_str(), false) && wrapper.SaveXMLFile(file.c_str()));
+            EXPECT_EQ(Framework::ReadText(file), document);
             for (const std::filesystem::path& path : m_example.overrides) {
                 Fuzz::Merge(document + "\n====\n" + Framework::ReadText(path));
             }
