@@ -44,12 +44,9 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
                                                unsigned int seed) {
     static const Fuzz::Target& target = TheTarget();
     const std::string_view input = AsText(data, size);
-    const std::vector<std::string_view> documents = target.documents(input);
-    if (documents.empty() || seed % 3 == 0) {
-        return LLVMFuzzerMutate(data, size, maxSize);
-    }
+    const std::vector<std::string_view> documents = Fuzz::DocumentsIn(input);
     const std::string_view document = documents[seed / 3 % documents.size()];
-    if (document.empty()) {
+    if (!target.takesDocuments || seed % 3 == 0 || document.empty()) {
         return LLVMFuzzerMutate(data, size, maxSize);
     }
     const auto begin = static_cast<std::size_t>(document.data() - input.data());

@@ -11,8 +11,6 @@ namespace Fuzz {
 
 namespace {
 
-constexpr std::string_view kSeparator = "\n====\n";
-
 std::unique_ptr<TypedDataContainer> LoadedObject(const zelString& name, XMLDataWrapper& wrapper) {
     std::unique_ptr<TypedDataContainer> object = ObjectFor(name);
     Expect(object->LoadFromDataPacket(nullptr, &wrapper, false), "a document does not load into its class",
@@ -122,16 +120,8 @@ void ExpectJournal(const zelString& name, XMLDataWrapper& base, XMLDataWrapper& 
 
 } // namespace
 
-std::vector<std::string_view> DocumentsOfMerge(std::string_view input) {
-    const std::size_t at = input.find(kSeparator);
-    if (at == std::string_view::npos) {
-        return {input};
-    }
-    return {input.substr(0, at), input.substr(at + kSeparator.size())};
-}
-
 void Merge(std::string_view input) {
-    const std::vector<std::string_view> documents = DocumentsOfMerge(input);
+    const std::vector<std::string_view> documents = DocumentsIn(input);
     if (documents.size() != 2) {
         return;
     }

@@ -118,19 +118,6 @@ void ExpectFoundAsByXPath(const XmlTree& tree, NodeRef context, const QueryPath&
     }
 }
 
-/// A query may ask XPath for more than it can do in a lifetime.
-class ShortTime {
-public:
-    ShortTime() {
-        LoadLimits limits;
-        limits.cpuSeconds = 0.05;
-        LoadLimits::SetDefault(limits);
-    }
-    ~ShortTime() { LoadLimits::SetDefault(LoadLimits()); }
-    ShortTime(const ShortTime&) = delete;
-    ShortTime& operator=(const ShortTime&) = delete;
-};
-
 class Lookups {
 public:
     explicit Lookups(const XmlTree& tree) : m_tree(tree), m_index(tree) {
@@ -179,7 +166,9 @@ void ExpectMakes(FullFunctionXMLDataWrapper& output, const zelString& query) {
 
 void Paths(std::string_view input) {
     static const Trees trees;
-    const ShortTime shortTime;
+    LoadLimits shortTime; // a query may ask XPath for more than it can do in a lifetime
+    shortTime.cpuSeconds = 0.05;
+    const LoadLimits::Scope scope(shortTime);
     constexpr int kMostQueries = 8;
     Lookups inDocument(*trees.document);
     Lookups inDom(*trees.dom);

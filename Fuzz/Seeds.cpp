@@ -44,14 +44,6 @@ std::vector<Seed> FilesIn(const fs::path& folder) {
     return files;
 }
 
-std::string RootOf(const Seed& example) {
-    return example.name.substr(0, example.name.find('.'));
-}
-
-bool IsOverride(const Seed& example) {
-    return example.name.find('.') != example.name.rfind('.');
-}
-
 std::vector<Seed> Examples() {
     std::vector<Seed> examples = FilesIn(FRAMEWORK_EXAMPLES);
     std::erase_if(examples, [](const Seed& each) {
@@ -74,21 +66,22 @@ std::optional<std::string> MadeUp(CatalogClass type, unsigned firstSeed, int fir
 }
 
 std::vector<Seed> Documents() {
-    std::vector<Seed> documents = Examples();
+    std::vector<Seed> seeds = Examples();
     for (const CatalogClass& type : ContainerCatalog::Classes()) {
         if (const auto text = MadeUp(type, 1, 1)) {
-            documents.push_back({"made-" + std::string(type.Name()), *text});
+            seeds.push_back({"made-" + std::string(type.Name()), *text});
         }
     }
-    return documents;
+    return seeds;
 }
 
 std::vector<Seed> Merges() {
     std::vector<Seed> seeds;
     const std::vector<Seed> examples = Examples();
     for (const Seed& base : examples) {
+        const std::string start = base.name.substr(0, base.name.rfind("xml")); // of the names of its overrides
         for (const Seed& override : examples) {
-            if (!IsOverride(base) && IsOverride(override) && RootOf(base) == RootOf(override)) {
+            if (override.name.starts_with(start) && override.name != base.name) {
                 seeds.push_back({override.name, base.bytes + "\n====\n" + override.bytes});
             }
         }
@@ -112,14 +105,12 @@ std::vector<Seed> LinesOf(const Seed& file) {
     return seeds;
 }
 
-std::vector<Seed> MadeSeeds(std::string_view target) {
-    return target == "Load" ? Documents() : target == "Merge" ? Merges() : std::vector<Seed>();
-}
-
 } // namespace
 
 std::vector<Seed> SeedsOf(const Target& target) {
-    std::vector<Seed> seeds = MadeSeeds(target.name);
+    std::vector<Seed> seeds = target.name == "Load"    ? Documents()
+                              : target.name == "Merge" ? Merges()
+                                                       : std::vector<Seed>();
     for (const Seed& file : FilesIn(fs::path(FRAMEWORK_FUZZ_FOLDER) / "Seeds" / target.name)) {
         if (file.name.ends_with(".lines")) {
             const std::vector<Seed> lines = LinesOf(file);

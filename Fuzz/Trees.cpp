@@ -1,11 +1,14 @@
 #include "Trees.h"
 
 #include <algorithm>
+#include <regex>
 #include <set>
 
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include "Containers/Sample.h"
+#include "Containers/Values.h"
 #include "Framework/XMLDataWrapper.h"
 #include "Target.h"
 
@@ -13,67 +16,37 @@ namespace Fuzz {
 
 namespace {
 
-class Reader {
-public:
-    Reading Read(TypedDataContainer& object) {
-        ReadObject(object, "");
-        return std::move(m_reading);
-    }
-
-private:
-    void Line(const std::string& path, const std::string& text) { m_reading.lines.push_back(path + "=" + text); }
-
-    void ReadObject(TypedDataContainer& object, const std::string& path) {
-        Line(path, object.GetContainerName());
-        const CatalogClass type = ContainerCatalog::ClassOf(object);
-        Expect(static_cast<bool>(type), "an object is of no class", path);
-        object.GetAttributeList();
-        for (const CatalogField& field : type.Fields()) {
-            const std::string here = path + "/" + std::string(field.Name());
-            NoteStrangeWords(object, field);
-            if (field.IsScalar()) {
-                field.StandsInDocument(object);
-                Line(here, field.GetText(object));
-            } else if (TypedDataContainer* const child = field.GetChild(object)) {
-                ReadObject(*child, here);
-            }
-            ReadList(object, field, here);
-        }
-    }
-
-    void ReadList(TypedDataContainer& object, const CatalogField& list, const std::string& path) {
+/// Takes the keys away that a load makes anew.
+void NoteKeys(Samples::Sample& sample, Reading& reading) {
+    for (Samples::FieldSample& field : sample.fields) {
         std::set<std::string> keys;
-        const std::size_t length = list.Length(object);
-        for (std::size_t i = 0; i < length; ++i) {
-            std::string here = path + "[" + std::to_string(i);
-            if (list.GetForm() == CatalogField::KeyedList && !list.HasNumberedKeys()) {
-                const std::string key = list.EntryKey(object, i);
-                m_reading.hasEqualKeys |= !keys.insert(key).second;
-                here += "|" + key;
+        for (Samples::EntrySample& entry : field.entries) {
+            if (field.field.HasNumberedKeys()) {
+                entry.key.clear();
+            } else if (field.field.GetForm() == CatalogField::KeyedList) {
+                reading.hasEqualKeys |= !keys.insert(entry.key).second;
             }
-            here += "]";
-            if (TypedDataContainer* const entry = list.Entry(object, i)) {
-                object.BuildUpdateQuery(zelString(list.Name()), entry);
-                ReadObject(*entry, here);
-            } else {
-                Expect(list.GetValue() != CatalogField::Container, "an entry is null", here);
-                Line(here, list.EntryText(object, i));
+            if (entry.object != nullptr) {
+                NoteKeys(*entry.object, reading);
             }
         }
-    }
-
-    void NoteStrangeWords(TypedDataContainer& object, const CatalogField& field) {
-        const std::vector<zelString> texts = field.DocumentTexts(object);
-        if (field.GetValue() == CatalogField::Enumeration) {
-            const std::vector<zelString> words = field.Words();
-            m_reading.hasStrangeWords |= std::any_of(texts.begin(), texts.end(), [&](const zelString& text) {
-                return !text.empty() && std::find(words.begin(), words.end(), text) == words.end();
-            });
+        if (field.child != nullptr) {
+            NoteKeys(*field.child, reading);
         }
     }
+}
 
-    Reading m_reading;
-};
+/// The first entry of a list answers for all: its texts are those of the field.
+bool HasStrangeWords(const Value& value) {
+    if (value.position.value_or(0) != 0 || value.field.GetValue() != CatalogField::Enumeration) {
+        return false;
+    }
+    const std::vector<zelString> texts = value.field.DocumentTexts(*value.object);
+    const std::vector<zelString> words = value.field.Words();
+    return std::any_of(texts.begin(), texts.end(), [&](const zelString& text) {
+        return !text.empty() && std::find(words.begin(), words.end(), text) == words.end();
+    });
+}
 
 } // namespace
 
@@ -91,7 +64,14 @@ MemoryFile::~MemoryFile() {
 }
 
 Reading ReadAll(TypedDataContainer& object) {
-    return Reader().Read(object);
+    Reading reading;
+    for (const Value& value : ValuesOf(object)) {
+        reading.hasStrangeWords |= HasStrangeWords(value);
+    }
+    Samples::Sample sample = Samples::Read(object);
+    NoteKeys(sample, reading);
+    reading.lines = Samples::Lines(sample);
+    return reading;
 }
 
 void ExpectEqual(const Reading& present, const Reading& expected, std::string_view what) {
@@ -111,11 +91,9 @@ std::unique_ptr<TypedDataContainer> ObjectFor(const zelString& root) {
         const auto named = std::find_if(classes.begin(), classes.end(), [&root](const CatalogClass& each) {
             return each.ElementName() == std::string_view(root);
         });
-        std::size_t any = 0;
-        for (const char c : root) {
-            any = any * 31 + static_cast<unsigned char>(c);
-        }
-        type = named != classes.end() ? *named : classes[any % classes.size()];
+        type = named != classes.end()
+                   ? *named
+                   : classes[(root.size() + static_cast<unsigned char>(root.front())) % classes.size()];
     }
     std::unique_ptr<TypedDataContainer> object = type.Create(false);
     object->SetContainerName(root.c_str());
@@ -144,20 +122,9 @@ void ExpectDumpLoadsEqual(TypedDataContainer& object, const Reading& reading, co
 }
 
 void ExpectNamesPlace(std::string_view error, std::string_view source) {
-    std::string_view rest = error;
-    const auto skipNumber = [&rest] {
-        const std::size_t end = std::min(rest.find_first_not_of("0123456789"), rest.size());
-        rest.remove_prefix(end);
-        return end > 0;
-    };
-    bool holds = rest.starts_with(source);
-    rest.remove_prefix(holds ? source.size() : 0);
-    for (int number = 0; holds && number < 2; ++number) {
-        holds = rest.starts_with(":");
-        rest.remove_prefix(holds ? 1 : 0);
-        holds = holds && skipNumber();
-    }
-    Expect(holds && rest.size() > 2 && rest.starts_with(": "), "an error names no place", error);
+    const bool isFirst = error.starts_with(source);
+    const std::string rest(error.substr(isFirst ? source.size() : 0));
+    Expect(isFirst && std::regex_search(rest, std::regex("^:[0-9]+:[0-9]+: .")), "an error names no place", error);
 }
 
 } // namespace Fuzz

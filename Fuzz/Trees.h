@@ -10,11 +10,14 @@
 /// What the targets share about trees of containers.
 namespace Fuzz {
 
-/// Collects what goes to the override log while it lives.
+/// Collects what this thread's work tells the override log while it lives.
 class OverrideLog {
 public:
-    OverrideLog() { TypedDataContainer::SetOverrideIssueHandler(&Record, this); }
-    ~OverrideLog() { TypedDataContainer::SetOverrideIssueHandler(nullptr, nullptr); }
+    OverrideLog() {
+        s_current = this;
+        TypedDataContainer::SetOverrideIssueHandler(&Record, nullptr);
+    }
+    ~OverrideLog() { s_current = nullptr; }
     OverrideLog(const OverrideLog&) = delete;
     OverrideLog& operator=(const OverrideLog&) = delete;
 
@@ -22,10 +25,13 @@ public:
     std::string_view Last() const { return m_texts.empty() ? std::string_view() : m_texts.back(); }
 
 private:
-    static void Record(void* context, const OverrideIssue& issue) {
-        static_cast<OverrideLog*>(context)->m_texts.push_back(issue.ErrorText);
+    static void Record(void*, const OverrideIssue& issue) {
+        if (s_current != nullptr) {
+            s_current->m_texts.push_back(issue.ErrorText);
+        }
     }
 
+    static inline thread_local OverrideLog* s_current = nullptr;
     std::vector<std::string> m_texts;
 };
 
@@ -46,14 +52,12 @@ private:
 
 /// What a tree holds, and what of it does not come back from a dump or an update for reasons that are known.
 struct Reading {
-    std::vector<std::string> lines; ///< one for each value; entries by position, and by key where keys are kept
+    std::vector<std::string> lines; ///< of its sample, without keys that a load makes anew
     bool hasStrangeWords = false;   ///< its document has texts that are no words of their vocabulary
     bool hasEqualKeys = false;      ///< two keys of a list are written differently and are the same number
-
-    bool operator==(const Reading& other) const { return lines == other.lines; }
 };
 
-/// Reads every value through the catalogue, and asks all that the catalogue answers about it.
+/// Reads every value through the catalogue.
 Reading ReadAll(TypedDataContainer& object);
 
 /// Throws a Violation with the first line that differs.

@@ -202,39 +202,34 @@ TEST_F(EncodedDocuments, ThatCannotBeWrittenBackAreKeptAndNotEdited) {
 /// The converter of the system is the judge of what an encoding makes of bytes.
 void CheckLie(const std::string& refusal, TypedDataContainer& object, const std::string& bytes, const Encoding& actual,
               const Encoding& declared) {
-    const bool isPlain = actual.isAscii && actual.mark.empty();
-    if (actual.name == declared.name) {
-        EXPECT_EQ(refusal, "");
-    } else if (IsOfLargeMachine(actual)) {
+    if (IsOfLargeMachine(actual)) { // their declarations are written alike
         EXPECT_TRUE(refusal.starts_with("1:") || IsOfLargeMachine(declared)) << refusal;
-    } else if (!isPlain || !declared.isAscii) {
-        EXPECT_EQ(refusal.rfind("1:31: the declaration says " + declared.name + ", but ", 0), 0U) << refusal;
+    } else if (!actual.isAscii || !actual.mark.empty() || !declared.isAscii) {
+        EXPECT_TRUE(refusal.starts_with("1:31: the declaration says " + declared.name + ", but ")) << refusal;
     } else if (const Converted text = Convert(bytes, declared.name, "UTF-8"); text.badByte) {
-        const std::string offset = "at byte offset " + std::to_string(*text.badByte) + " ";
-        EXPECT_EQ(refusal.rfind("2:", 0), 0U) << refusal; // where the first such text stands
-        EXPECT_NE(refusal.find(offset), refusal.npos) << refusal << "\n  expected " << offset;
+        EXPECT_NE(refusal.find("at byte offset " + std::to_string(*text.badByte) + " "), refusal.npos) << refusal;
     } else if (text.text.find('\x1B') != text.text.npos) {
         EXPECT_NE(refusal.find("the character U+001B is not allowed"), refusal.npos) << refusal;
     } else {
         ASSERT_EQ(refusal, "");
-        const std::size_t begin = text.text.find("<ResultValue >") + 14;
-        EXPECT_EQ(ValueOf(object), text.text.substr(begin, text.text.find("</ResultValue>") - begin));
+        EXPECT_NE(text.text.find("<ResultValue >" + ValueOf(object) + "</ResultValue>"), text.text.npos);
     }
 }
 
 TEST_F(EncodedDocuments, ThatLieAreRefusedWhereItShowsElseLoadAsDeclared) {
-    std::size_t refused = 0;
     for (const Encoding& actual : Encodings()) {
         for (const Encoding& declared : Encodings()) {
             SCOPED_TRACE(Title(actual) + " declared as " + declared.name);
             const std::string bytes = Document(actual, declared.name, actual.Bytes(actual.text), "");
             const auto object = New();
             const std::string refusal = Refusal(bytes, *object);
-            refused += refusal.empty() ? 0 : 1;
-            CheckLie(refusal, *object, bytes, actual, declared);
+            if (actual.name != declared.name) {
+                CheckLie(refusal, *object, bytes, actual, declared);
+            } else {
+                EXPECT_EQ(refusal, "");
+            }
         }
     }
-    EXPECT_GT(refused, Encodings().size() * Encodings().size() / 2);
 }
 
 TEST_F(EncodedDocuments, ThatAreBrokenAreRefusedWithTheOffset) {

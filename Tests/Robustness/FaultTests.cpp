@@ -1,16 +1,15 @@
 // An allocation or a call of the XML layer may fail at any moment. Each operation is run with chance number 0, 1, 2 and
 // so on failing, until it gets through; after every failure the object must be whole, and good for all that comes next.
 
+#include "Commands.h"
 #include "Containers/EveryClass.h"
 #include "Containers/Values.h"
 #include "Robustness/FailingMemory.h"
 #include "Robustness/Sizes.h"
 
 #include <filesystem>
-#include <fstream>
 #include <limits>
 #include <set>
-#include <sstream>
 
 #include <unistd.h>
 #include <xercesc/dom/DOMDocument.hpp>
@@ -92,25 +91,12 @@ std::string PathFor(const char* name) {
 const std::string kIn = PathFor("in");
 const std::string kOut = PathFor("out");
 const zelString kNewValue = "a new value that is longer than what a string holds in itself";
-const zelString kNewKey = "a key that needs some memory";
 const zelString kXPath = "//*[contains('a long text, ' , ', ') and last() >= 1]";
-
-std::string BytesOf(const std::string& path) {
-    std::ostringstream text;
-    text << std::ifstream(path).rdbuf();
-    return text.str();
-}
-
-constexpr const char* kStore = "FaultTests";
-constexpr const char* kOldBytes = "<old/>";
 
 struct Scene {
     explicit Scene(const Content& which) : content(which), name(which.type.ElementName()) {
         EXPECT_TRUE(document.LoadXMLText(content.xml, false)) << document.GetLastError();
-        Load(*object);
-    }
-    void Load(TypedDataContainer& into) {
-        EXPECT_TRUE(into.LoadFromDataPacket(nullptr, &document, false)) << into.GetLastError();
+        EXPECT_TRUE(object->LoadFromDataPacket(nullptr, &document, false)) << object->GetLastError();
     }
 
     const Content& content;
@@ -129,17 +115,8 @@ struct Scene {
 
 /// The keys of entries stay: two of them would get the same.
 void ChangeValues(Scene& scene) {
-    static const std::set<std::string_view> keys = [] {
-        std::set<std::string_view> names;
-        for (const CatalogClass& type : ContainerCatalog::Classes()) {
-            for (const CatalogField& field : type.OwnFields()) {
-                names.insert(field.KeyAttribute());
-            }
-        }
-        return names;
-    }();
     for (const Value& value : ValuesOf(*scene.object)) {
-        if (!keys.contains(value.field.Name())) {
+        if (value.field.GetForm() != CatalogField::Attribute || value.object == scene.object.get()) {
             value.Set(OtherThan(value.field, value.Get()));
         }
     }
@@ -255,23 +232,17 @@ struct Operation {
     void (*check)(Scene& scene) = nullptr;
 };
 
-void LoadSource(Scene& scene, const std::string& xml) {
-    EXPECT_TRUE(scene.source.LoadXMLText(xml, false)) << scene.source.GetLastError();
-}
 void LoadOther(Scene& scene) {
-    LoadSource(scene, scene.content.other);
+    EXPECT_TRUE(scene.source.LoadXMLText(scene.content.other, false)) << scene.source.GetLastError();
 }
 void LoadOverride(Scene& scene) {
-    LoadSource(scene, scene.content.override);
+    EXPECT_TRUE(scene.source.LoadXMLText(scene.content.override, false)) << scene.source.GetLastError();
 }
 void Nothing(Scene&) {}
 
 void WriteFile(Scene& scene) {
-    std::ofstream(kIn) << scene.content.override;
-    std::ofstream(kOut) << kOldBytes;
-}
-void Register(Scene& scene) {
-    EXPECT_TRUE(TypedDataContainer::RegisterTemplate(kStore, scene.name.c_str(), scene.content.override));
+    Framework::WriteText(kIn, scene.content.override);
+    Framework::WriteText(kOut, "<old/>");
 }
 void TakeDomNode(Scene& scene) {
     LoadOverride(scene);
@@ -332,7 +303,7 @@ zelString GivenText(Scene& scene) {
     return scene.text;
 }
 zelString OutBytes(Scene& scene) {
-    const zelString bytes = BytesOf(kOut);
+    const zelString bytes = Framework::ReadText(kOut);
     XMLDataWrapper saved;
     EXPECT_TRUE(saved.LoadXMLText(bytes, true)) << saved.GetLastError() << " of " << scene.name;
     return bytes;
@@ -343,8 +314,6 @@ const Operation operations[] = {
      [](Scene& s) { return s.object->LoadFromDataPacket(nullptr, &s.source, false); }},
     {"LoadFromFile", Promise::EndsSomehow, Leaves::AsItWasOrInvalid, &WriteFile,
      [](Scene& s) { return s.object->LoadFromFile(nullptr, kIn.c_str(), true); }},
-    {"LoadFromTemplate", Promise::EndsSomehow, Leaves::AsItWasOrInvalid, &Register,
-     [](Scene& s) { return s.object->LoadFromTemplate(nullptr, kStore, s.name.c_str(), false); }},
     {"LoadFromDOMNode", Promise::EndsSomehow, Leaves::AsItWasOrInvalid, &TakeDomNode,
      [](Scene& s) { return s.object->LoadFromDOMNode(nullptr, s.node, false); }},
     {"SetContainedDataPtr", Promise::EndsSomehow, Leaves::Whole, &LoadOther,
@@ -353,8 +322,6 @@ const Operation operations[] = {
      [](Scene& s) { return s.object->MergeFromDataPacket(nullptr, std::move(s.feature), &s.source, false); }},
     {"MergeFromFile", Promise::EndsSomehow, Leaves::AsItWasOrMerged, &WriteFile,
      [](Scene& s) { return s.object->MergeFromFile(nullptr, kIn.c_str()); }},
-    {"MergeFromTemplate", Promise::EndsSomehow, Leaves::AsItWasOrMerged, &Register,
-     [](Scene& s) { return s.object->MergeFromTemplate(nullptr, kStore, s.name.c_str()); }},
     {"MergeFromDOMNode", Promise::EndsSomehow, Leaves::AsItWasOrMerged, &TakeDomNode,
      [](Scene& s) { return s.object->MergeFromDOMNode(nullptr, std::move(s.feature), s.node); }},
     {"UpdateContainedData", Promise::EndsSomehow, Leaves::AsItWas, &ChangeValues,
@@ -492,9 +459,10 @@ Fault MemoryFault(bool fromThenOn, FailingMemory::Level level = FailingMemory::L
 thread_local long stepsLeft = -1;
 thread_local int thrownKind = 0;
 thread_local bool wasRefusal = false;
+thread_local std::string_view onlyStep; ///< of that name; empty: any
 
 void FailAtStep(const char* where) {
-    if (stepsLeft < 0 || stepsLeft-- > 0) {
+    if (stepsLeft < 0 || (!onlyStep.empty() && onlyStep != where) || stepsLeft-- > 0) {
         return;
     }
     wasRefusal = thrownKind == 0 && (std::string_view(where) == "WriteNode" || std::string_view(where) == "Find");
@@ -706,7 +674,7 @@ TEST(Faults, WalksEndWithTheirFixedTexts) {
              return s.object->DumpMergeContentsII(nullptr, &s.output, passed, true);
          }},
     };
-    static thread_local const char* step;
+    const Fault fault = StepFault();
     const Content content{ContainerCatalog::FindClass("ChildThreadType"),
                           "<ChildThread UniqueName='u'><LibraryPath>l</LibraryPath></ChildThread>", "<ChildThread/>",
                           "<ChildThread UniqueName='u'><LibraryPath>m</LibraryPath></ChildThread>"};
@@ -716,23 +684,17 @@ TEST(Faults, WalksEndWithTheirFixedTexts) {
             Scene scene(content);
             LoadOverride(scene);
             StartOutput(scene);
-            step = walk.step;
-            stepsLeft = k / kKinds;
-            thrownKind = static_cast<int>(k % kKinds);
-            Framework::faultFunction = [](const char* where) {
-                if (std::string_view(where) == step) {
-                    FailAtStep(where);
-                }
-            };
+            onlyStep = walk.step;
+            fault.arm(k);
             const bool success = walk.run(scene);
-            Framework::faultFunction = nullptr;
-            failed = stepsLeft < 0;
+            failed = fault.disarm();
             EXPECT_EQ(scene.object->GetLastError(), failed ? walk.text : "") << walk.step << " with chance " << k;
             EXPECT_EQ(scene.object->GetLastErrorNum(), failed ? -1 : 0);
             EXPECT_TRUE(failed ? !success || !walk.isFalse : success);
         }
         EXPECT_GE(k, 3 * kKinds) << walk.step;
     }
+    onlyStep = {};
 }
 
 TEST(Faults, AnyAllocationMayFail) {

@@ -79,36 +79,20 @@ void UseXalan() {
 /// One letter for each thing that happens: small for the end of what the capital letter starts.
 void Live(const char* life) {
     static Ours ours; // destroyed at the very end
+    static const std::map<char, void (*)()> steps = {
+        {'X', [] { xercesc::XMLPlatformUtils::Initialize(); }},
+        {'x', [] { xercesc::XMLPlatformUtils::Terminate(); }},
+        {'P', [] { XALAN_CPP_NAMESPACE::XPathEvaluator::initialize(); }},
+        {'p', [] { XALAN_CPP_NAMESPACE::XPathEvaluator::terminate(); }},
+        {'T', [] { XALAN_CPP_NAMESPACE::XalanTransformer::initialize(); }},
+        {'t', [] { XALAN_CPP_NAMESPACE::XalanTransformer::terminate(); }},
+        {'h', &UseXerces},
+        {'e', &UseXalan},
+        {'o', [] { EXPECT_TRUE(ours.Use()) << ours.document.GetLastError() << ours.object->GetLastError(); }},
+    };
     for (const char* step = life; *step != '\0'; ++step) {
         SCOPED_TRACE(step);
-        switch (*step) {
-        case 'X':
-            xercesc::XMLPlatformUtils::Initialize();
-            break;
-        case 'x':
-            xercesc::XMLPlatformUtils::Terminate();
-            break;
-        case 'P':
-            XALAN_CPP_NAMESPACE::XPathEvaluator::initialize();
-            break;
-        case 'p':
-            XALAN_CPP_NAMESPACE::XPathEvaluator::terminate();
-            break;
-        case 'T':
-            XALAN_CPP_NAMESPACE::XalanTransformer::initialize();
-            break;
-        case 't':
-            XALAN_CPP_NAMESPACE::XalanTransformer::terminate();
-            break;
-        case 'h':
-            UseXerces();
-            break;
-        case 'e':
-            UseXalan();
-            break;
-        default:
-            EXPECT_TRUE(ours.Use()) << ours.document.GetLastError() << ours.object->GetLastError();
-        }
+        steps.at (*step)();
     }
     std::exit(testing::Test::HasFailure() ? 1 : 0);
 }

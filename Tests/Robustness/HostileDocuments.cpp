@@ -16,7 +16,8 @@ using namespace std::literals;
 /// Makes the text that a line of HostileDocuments.txt describes; the first lines there tell the language.
 class Maker {
 public:
-    Maker(std::string_view text, std::size_t size, const Trap& trap) : m_rest(text), m_size(size), m_trap(trap) {}
+    Maker(std::string_view text, std::size_t size, const std::string& folder)
+        : m_rest(text), m_size(size), m_folder(folder) {}
 
     /// Up to the closing brace, or to the end.
     std::string Make() {
@@ -62,10 +63,7 @@ private:
             const std::string inside = Make();
             made = head == "value" ? InValue(inside) : head == "root" ? InRoot(inside) : InTag(inside);
         } else {
-            return head == "folder"   ? m_trap.folder
-                   : head == "port"   ? std::to_string(m_trap.port)
-                   : head == "canary" ? std::string(kCanary)
-                                      : "<?xml version='1.0'?>\n";
+            return head == "folder" ? m_folder : head == "canary" ? std::string(kCanary) : "<?xml version='1.0'?>\n";
         }
         Take(); // the closing brace
         return made;
@@ -106,7 +104,7 @@ private:
 
     std::string_view m_rest;
     std::size_t m_size;
-    const Trap& m_trap;
+    const std::string& m_folder;
 };
 
 /// Without the blanks around it.
@@ -117,12 +115,12 @@ std::string Cell(std::istream& line) {
     return cell.substr(begin, cell.find_last_not_of(' ') + 1 - begin);
 }
 
-HostileDocument Read(const std::string& row, const Trap& trap) {
+HostileDocument Read(const std::string& row, const std::string& folder) {
     HostileDocument document;
     std::istringstream cells(row);
     document.name = Cell(cells);
     std::istringstream options(Cell(cells));
-    document.refusal = Maker(Cell(cells), 0, trap).Make();
+    document.refusal = Maker(Cell(cells), 0, folder).Make();
     for (std::string option; options >> option;) {
         if (const std::size_t slash = option.find('/'); slash != option.npos) {
             document.small = std::stoul(option);
@@ -141,17 +139,13 @@ HostileDocument Read(const std::string& row, const Trap& trap) {
     std::string text;
     std::getline(cells, text);
     text.erase(0, text.starts_with(' ') ? 1 : 0);
-    document.text = [text, trap](std::size_t size) { return Maker(text, size, trap).Make(); };
+    document.text = [text, folder](std::size_t size) { return Maker(text, size, folder).Make(); };
     return document;
-}
-
-HostileDocument Fixed(std::string name, std::string refusal, std::string text) {
-    return {std::move(name), std::move(refusal), [text = std::move(text)](std::size_t) { return text; }};
 }
 
 } // namespace
 
-HostileDocuments DocumentsOf(std::string_view group, const Trap& trap) {
+HostileDocuments DocumentsOf(std::string_view group, const std::string& folder) {
     std::ifstream file(FRAMEWORK_HOSTILE_DOCUMENTS, std::ios::binary);
     HostileDocuments documents;
     bool isIn = false;
@@ -159,7 +153,7 @@ HostileDocuments DocumentsOf(std::string_view group, const Trap& trap) {
         if (line.starts_with("== ")) {
             isIn = line.substr(3) == group;
         } else if (isIn && !line.empty() && line.front() != '#') {
-            documents.push_back(Read(line, trap));
+            documents.push_back(Read(line, folder));
         }
     }
     if (documents.empty()) {
@@ -190,42 +184,8 @@ HostileDocuments BadUtf8() {
             std::array<char, 100> refusal{};
             std::snprintf(refusal.data(), refusal.size(), "2:%zu: byte 0x%02X at byte offset %zu is not valid UTF-8",
                           before.size() + 1, static_cast<unsigned char>(bytes[0]), start.size());
-            documents.push_back(Fixed(std::string(refusal.data()), refusal.data(),
-                                      start + std::string(bytes) + std::string(behind) + "</TranslationConfig>"));
-        }
-    }
-    return documents;
-}
-
-HostileDocuments BadUnits() {
-    struct Unit {
-        std::size_t width;
-        std::uint32_t unit;
-        const char* refusal;
-    };
-    constexpr std::array<Unit, 11> units{{{2, 0xD83D, "byte 0x"},
-                                          {2, 0xDE42, "byte 0x"},
-                                          {2, 0xFFFE, "the character U+FFFE is not allowed"},
-                                          {2, 0xFFFF, "the character U+FFFF is not allowed"},
-                                          {2, 0, "NUL character"},
-                                          {2, 1, "the character U+0001 is not allowed"},
-                                          {4, 0xD83D, "byte 0x"},
-                                          {4, 0x110000, "byte 0x"},
-                                          {4, 0xFFFFFFFF, "byte 0x"},
-                                          {4, 0xFFFE, "the character U+FFFE is not allowed"},
-                                          {4, 0, "NUL character"}}};
-    HostileDocuments documents;
-    for (const auto& [width, odd, refusal] : units) {
-        for (const bool bigEndian : {false, true}) {
-            std::string bytes;
-            for (const char letter : "<TranslationConfig>\n#</TranslationConfig>"s) {
-                const std::uint32_t unit = letter == '#' ? odd : static_cast<unsigned char>(letter);
-                for (std::size_t byte = 0; byte < width; ++byte) {
-                    bytes += static_cast<char>(unit >> (8 * (bigEndian ? width - 1 - byte : byte)) & 255U);
-                }
-            }
-            documents.push_back(
-                Fixed(std::to_string(odd) + (bigEndian ? " in UTF-BE" : " in UTF-LE"), "2:1: "s + refusal, bytes));
+            const std::string text = start + std::string(bytes) + std::string(behind) + "</TranslationConfig>";
+            documents.push_back({refusal.data(), refusal.data(), [text](std::size_t) { return text; }});
         }
     }
     return documents;

@@ -11,13 +11,6 @@ namespace Robustness {
 /// A word that no value may hold: it stands in files that no load may open, and where a document type would inject it.
 inline constexpr std::string_view kCanary = "CANARY7F3A";
 
-/// What documents try to reach: a folder with the files canary.txt, canary.xml and canary.dtd, and a port of this
-/// machine at which somebody listens.
-struct Trap {
-    std::string folder;
-    int port = 0;
-};
-
 struct HostileDocument {
     std::string name;
     /// How the error goes on behind the name of the document: "2:1: a document type". Empty: it loads.
@@ -35,11 +28,9 @@ inline constexpr double kBombMegabytes = 40;
 
 using HostileDocuments = std::vector<HostileDocument>;
 
-/// A group of HostileDocuments.txt.
-HostileDocuments DocumentsOf(std::string_view group, const Trap& trap = {});
+/// A group of HostileDocuments.txt. What they try to reach is in the folder: canary.txt, canary.xml and canary.dtd.
+HostileDocuments DocumentsOf(std::string_view group, const std::string& folder = {});
 /// Every kind of broken UTF-8 in every kind of markup.
 HostileDocuments BadUtf8();
-/// Units of UTF-16 and UTF-32 that are no characters.
-HostileDocuments BadUnits();
 
 } // namespace Robustness

@@ -7,10 +7,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <ctime>
 #include <stdexcept>
 
-#include <arpa/inet.h>
 #include <fcntl.h>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
@@ -55,7 +53,6 @@ struct WatchBoard {
     bool finished;
     std::array<char, 512> step;
     TextRow<(1U << 18U)> failures;
-    TextRow<(1U << 16U)> facts;
     TextRow<(1U << 16U)> reached;
 };
 
@@ -72,64 +69,39 @@ constexpr std::array kHarmless{SYS_read,        SYS_write,        SYS_pread64,  
                                SYS_sched_yield, SYS_getrandom,    SYS_exit,           SYS_gettimeofday, SYS_exit_group,
                                SYS_prlimit64,   SYS_getrlimit,    SYS_ftruncate,      SYS_clock_getres, SYS_pipe2};
 
-struct CallName {
+struct PathCall {
     long number;
     const char* name;
-    int path; // which argument is one, or none
+    std::size_t path; // which argument it is
 };
 
-constexpr std::array kCalls {
-    CallName{SYS_openat, "openat", 1}, CallName{SYS_openat2, "openat2", 1}, CallName{SYS_newfstatat, "fstatat", 1},
-        CallName{SYS_statx, "statx", 1}, CallName{SYS_readlinkat, "readlink", 1}, CallName{SYS_faccessat, "access", 1},
-        CallName{SYS_unlinkat, "unlinkat", 1}, CallName{SYS_execve, "execve", 0}, CallName{SYS_socket, "socket", -1},
-        CallName{SYS_connect, "connect", -1}, CallName{SYS_clone, "clone", -1}, CallName{SYS_clone3, "clone3", -1},
+constexpr std::array kPathCalls {
+    PathCall{SYS_openat, "openat", 1}, PathCall{SYS_newfstatat, "fstatat", 1}, PathCall{SYS_statx, "statx", 1},
+        PathCall{SYS_readlinkat, "readlink", 1}, PathCall{SYS_faccessat, "access", 1},
 #if defined(__x86_64__)
-        CallName{SYS_open, "open", 0}, CallName{SYS_creat, "creat", 0}, CallName{SYS_stat, "stat", 0},
-        CallName{SYS_access, "access", 0}, CallName{SYS_readlink, "readlink", 0}, CallName{SYS_fork, "fork", -1},
-        CallName{SYS_vfork, "vfork", -1},
+        PathCall{SYS_open, "open", 0}, PathCall{SYS_stat, "stat", 0}, PathCall{SYS_access, "access", 0},
+        PathCall{SYS_readlink, "readlink", 0},
 #endif
-};
-
-constexpr std::array kRefused {
-    SYS_execve, SYS_execveat,
-#if defined(__x86_64__)
-        SYS_fork, SYS_vfork,
-#endif
-        SYS_clone, SYS_clone3
 };
 
 WatchBoard* board = nullptr; // of this process; a signal handler has no other way to it
 
 using Arguments = std::array<std::uint64_t, 6>;
 
-void Record(long number, const Arguments& arguments) {
+/// Records the call and carries it out.
+long Carry(long number, const Arguments& arguments) {
     std::array<char, 512> line{};
     const auto* const known =
-        std::find_if(kCalls.begin(), kCalls.end(), [&](const CallName& call) { return call.number == number; });
-    if (known == kCalls.end()) {
+        std::find_if(kPathCalls.begin(), kPathCalls.end(), [&](const PathCall& call) { return call.number == number; });
+    if (known == kPathCalls.end()) {
         std::snprintf(line.data(), line.size(), "system call %ld", number);
-    } else if (known->path >= 0) {
-        const auto* const path = reinterpret_cast<const char*>(arguments[static_cast<std::size_t>(known->path)]);
-        if (number == SYS_newfstatat && *path == '\0') {
-            return; // the status of an open descriptor
-        }
-        std::snprintf(line.data(), line.size(), "%s %s", known->name, path);
-    } else {
-        const auto* const address = reinterpret_cast<const sockaddr_in*>(arguments[1]);
-        if (number == SYS_connect && address->sin_family == AF_INET) {
-            const std::uint32_t host = ntohl(address->sin_addr.s_addr);
-            std::snprintf(line.data(), line.size(), "connect %u.%u.%u.%u:%u", host >> 24U, host >> 16U & 255U,
-                          host >> 8U & 255U, host & 255U, ntohs(address->sin_port));
-        } else {
-            std::snprintf(line.data(), line.size(), "%s", known->name);
-        }
-    }
-    board->reached.Add(line.data());
-}
-
-long Carry(long number, const Arguments& arguments) {
-    if (std::find(kRefused.begin(), kRefused.end(), number) != kRefused.end()) {
+        board->reached.Add(line.data());
         return -EPERM;
+    }
+    const auto* const path = reinterpret_cast<const char*>(arguments[known->path]);
+    if (number != SYS_newfstatat || *path != '\0') { // else it is the status of an open descriptor
+        std::snprintf(line.data(), line.size(), "%s %s", known->name, path);
+        board->reached.Add(line.data());
     }
     const long result = ::syscall(number, arguments[0], arguments[1], arguments[2], arguments[3], arguments[4],
                                   static_cast<std::uint64_t>(kOwnCall));
@@ -142,12 +114,10 @@ void OnCall(int /*signal*/, siginfo_t* info, void* context) {
 #if defined(__x86_64__)
     const auto at = [&](int which) { return static_cast<std::uint64_t>(machine.gregs[which]); };
     const Arguments arguments{at(REG_RDI), at(REG_RSI), at(REG_RDX), at(REG_R10), at(REG_R8), at(REG_R9)};
-    Record(info->si_syscall, arguments);
     machine.gregs[REG_RAX] = Carry(info->si_syscall, arguments);
 #elif defined(__aarch64__)
     Arguments arguments{};
     std::copy_n(machine.regs, arguments.size(), arguments.begin());
-    Record(info->si_syscall, arguments);
     machine.regs[0] = static_cast<std::uint64_t>(Carry(info->si_syscall, arguments));
 #else
 #error "tell where this machine keeps the arguments of a system call"
@@ -206,12 +176,6 @@ int peakDescriptor = -1; // set back to what is held now by writing there
     ::_exit(0);
 }
 
-double ProcessMilliseconds() {
-    timespec now{};
-    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) * 1e-6;
-}
-
 double PeakMegabytes() {
     rusage usage{};
     ::getrusage(RUSAGE_SELF, &usage);
@@ -230,19 +194,14 @@ void Watch::Fail(const std::string& failure) {
     m_board.failures.Add(std::string(m_board.step.data()) + ": " + failure);
 }
 
-void Watch::Tell(const std::string& fact) {
-    m_board.facts.Add(fact);
-}
-
-Cost Watch::Measure(const std::function<void()>& work) {
+double Watch::MegabytesOf(const std::function<void()>& work) {
     ::malloc_trim(0);
     if (::write(peakDescriptor, "5", 1) != 1) {
         Fail("the peak of the memory cannot be set back");
     }
-    const double megabytes = PeakMegabytes();
-    const double milliseconds = ProcessMilliseconds();
+    const double before = PeakMegabytes();
     work();
-    return {ProcessMilliseconds() - milliseconds, PeakMegabytes() - megabytes};
+    return PeakMegabytes() - before;
 }
 
 Watched RunWatched(unsigned mostSeconds, const std::function<void(Watch&)>& work) {
@@ -260,7 +219,7 @@ Watched RunWatched(unsigned mostSeconds, const std::function<void(Watch&)>& work
     if (child < 0 || ::waitpid(child, &status, 0) != child) {
         throw std::runtime_error("no child process");
     }
-    Watched watched{board->failures.Texts(), board->facts.Texts(), board->reached.Texts()};
+    Watched watched{board->failures.Texts(), board->reached.Texts()};
     if (WIFSIGNALED(status)) {
         const int signal = WTERMSIG(status);
         watched.failures.push_back(std::string(board->step.data()) + ": ended by signal " + std::to_string(signal) +

@@ -8,25 +8,17 @@
 namespace {
 
 struct Attempt {
-    bool failed = false; ///< memory was refused
-    bool merged = false; ///< and yet nothing is amiss with the tree
-    bool isComplete = false;
-    std::size_t entries = 0;
-};
-
-struct Content {
-    CatalogClass type;
-    std::string xml;
-    std::string override;
-    std::vector<std::string> merged = {};
+    bool failed = false;         ///< memory was refused
+    bool merged = false;         ///< and yet nothing is amiss with the tree
+    std::size_t entries = 0;     ///< of the journal
+    bool isJournalWhole = false; ///< it says so
 };
 
 /// One merge in which allocation number `k` fails.
-Attempt MergeOnce(const Content& content, bool hasJournal, long k) {
-    const auto object = content.type.Create(false);
-    EXPECT_TRUE(LoadText(*object, content.xml));
+Attempt MergeOnce(CatalogClass type, const std::vector<std::string>& merged, bool hasJournal, long k) {
+    const std::unique_ptr<TypedDataContainer> object = MakeLoaded(type, 1);
     XMLDataWrapper source;
-    EXPECT_TRUE(source.LoadXMLText(content.override, false));
+    EXPECT_TRUE(source.LoadXMLText(SampleText(type, 2), false));
     zelString feature = "the feature of the night";
     MergeJournal journal;
     std::optional<MergeJournal::Recording> recording;
@@ -39,9 +31,9 @@ Attempt MergeOnce(const Content& content, bool hasJournal, long k) {
         attempt.merged = object->MergeFromDataPacket(nullptr, std::move(feature), &source, false);
     }
     attempt.failed = FailingMemory::HasFailed();
-    attempt.merged = attempt.merged && Samples::Lines(*object) == content.merged;
-    attempt.isComplete = journal.IsComplete();
+    attempt.merged = attempt.merged && Samples::Lines(*object) == merged;
     attempt.entries = journal.Size();
+    attempt.isJournalWhole = journal.IsComplete();
     return attempt;
 }
 
@@ -49,25 +41,23 @@ TEST(JournalFaults, AMergeDoesNotFailForItsJournal) {
     IssueRecorder quiet;
     for (const char* const name : {"LoadConfig", "StateProcessingRoot"}) {
         const CatalogClass type = ContainerCatalog::FindRoot(name);
-        Content content{type, SampleText(type, 1), SampleText(type, 2)};
-        const auto object = type.Create(false);
-        ASSERT_TRUE(LoadText(*object, content.xml) && MergeText(*object, "F", content.override));
-        content.merged = Samples::Lines(*object);
-        const Attempt whole = MergeOnce(content, true, -1);
-        ASSERT_TRUE(whole.merged && whole.isComplete && !whole.failed);
-        long spoilt[2] = {0, 0}; // merges that went wrong, without a journal and with one
+        const std::unique_ptr<TypedDataContainer> object = MakeLoaded(type, 1);
+        ASSERT_TRUE(MergeText(*object, "F", SampleText(type, 2)));
+        const std::vector<std::string> merged = Samples::Lines(*object);
+        const Attempt whole = MergeOnce(type, merged, true, -1);
+        ASSERT_TRUE(whole.merged && whole.isJournalWhole && !whole.failed);
+        long spoilt = 0; // more merges that went wrong with a journal than without one
         long lost = 0;
-        for (const bool hasJournal : {false, true}) {
-            Attempt attempt;
-            for (long k = 0; (attempt = MergeOnce(content, hasJournal, k)).failed; ++k) {
-                spoilt[hasJournal ? 1 : 0] += attempt.merged ? 0 : 1;
-                lost += attempt.isComplete ? 0 : 1;
-                EXPECT_TRUE(!attempt.merged || !attempt.isComplete || attempt.entries == whole.entries || !hasJournal)
-                    << k;
-                EXPECT_TRUE(hasJournal || attempt.isComplete);
-            }
+        Attempt attempt;
+        for (long k = 0; (attempt = MergeOnce(type, merged, false, k)).failed; ++k) {
+            spoilt -= attempt.merged ? 0 : 1;
         }
-        EXPECT_EQ(spoilt[1], spoilt[0]) << name;
+        for (long k = 0; (attempt = MergeOnce(type, merged, true, k)).failed; ++k) {
+            spoilt += attempt.merged ? 0 : 1;
+            lost += attempt.isJournalWhole ? 0 : 1;
+            EXPECT_TRUE(!attempt.merged || !attempt.isJournalWhole || attempt.entries == whole.entries) << k;
+        }
+        EXPECT_EQ(spoilt, 0) << name;
         EXPECT_GT(lost, 0) << name;
     }
 }

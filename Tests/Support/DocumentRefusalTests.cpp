@@ -30,18 +30,6 @@ std::string Refusal(std::string bytes, const LoadLimits& limits = LoadLimits()) 
     return "accepted";
 }
 
-std::string Encoded(std::string_view text, const std::string& encoding, bool mark) {
-    return EncodeDocument(text, encoding, mark).value();
-}
-
-std::string Attributes(std::size_t count) {
-    std::string text = "<a";
-    for (std::size_t number = 0; number < count; ++number) {
-        text += " k" + std::to_string(number) + "=''";
-    }
-    return text + "/>";
-}
-
 TEST(DocumentRefusal, RefusesWhatPassesALimitAndTellsHowToRaiseIt) {
     LoadLimits small;
     small.bytes = 1000;
@@ -52,13 +40,6 @@ TEST(DocumentRefusal, RefusesWhatPassesALimitAndTellsHowToRaiseIt) {
     EXPECT_EQ(Refusal("<a k='1'>x<b/>\n<b/></a>", small),
               "f:2:1: the document has too many nodes, the limit is 5; raise "
               "LoadLimits::nodes with LoadLimits::Scope or SetDefault");
-    EXPECT_EQ(Refusal(Repeat("<e>", 256) + Repeat("</e>", 256)), "accepted");
-    EXPECT_EQ(Refusal(Repeat("<e>", 257) + Repeat("</e>", 257)),
-              "f:1:769: elements are nested too deeply, the limit is 256; raise LoadLimits::depth "
-              "with LoadLimits::Scope or SetDefault");
-    EXPECT_EQ(Refusal(Attributes(1000)), "accepted");
-    EXPECT_TRUE(
-        Refusal(Attributes(1001)).starts_with("f:1:7894: too many attributes in one tag, the limit is 1000; raise"));
     const std::string items = "<a>" + Repeat("<i/>", 3000) + "</a>";
     LoadLimits hasty;
     hasty.cpuSeconds = 0;
@@ -66,8 +47,6 @@ TEST(DocumentRefusal, RefusesWhatPassesALimitAndTellsHowToRaiseIt) {
     EXPECT_NE(what.find("the limit is 0 s; raise LoadLimits::cpuSeconds"), what.npos) << what;
     hasty.cpuSeconds = 1000;
     EXPECT_EQ(Refusal(items, hasty), "accepted");
-    EXPECT_EQ(Refusal(Repeat("<e>", 5000) + Repeat("</e>", 5000), LoadLimits::None()), "accepted");
-    EXPECT_EQ(Refusal(Attributes(5000), LoadLimits::None()), "accepted");
 }
 
 TEST(DocumentRefusal, RefusesTagsThatCostTheParserTooMuch) {
@@ -111,8 +90,8 @@ TEST(DocumentRefusal, RefusesWhatTakesTooMuchMemory) {
     }
     EXPECT_EQ(Refusal(text), "accepted");
     limits.memory = 100; // already the conversion to UTF-8
-    EXPECT_TRUE(Refusal(Encoded("<a>0123456789012345678901234567890123456789</a>", "UTF-16LE", true), limits)
-                    .starts_with("f:1:1: parsing takes too much memory"));
+    const std::string wide = EncodeDocument("<a>" + std::string(40, '0') + "</a>", "UTF-16LE", true).value();
+    EXPECT_TRUE(Refusal(wide, limits).starts_with("f:1:1: parsing takes too much memory"));
 }
 
 TEST(DocumentRefusal, LimitsHoldForTheProcessOrForOneThreadsBlock) {

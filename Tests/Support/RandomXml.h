@@ -7,7 +7,7 @@
 
 namespace Framework {
 
-/// Writes random documents together with the tree that a reader must find in them.
+/// Writes random documents together with what TreeText makes of the tree that a reader must find in them.
 class RandomWriter {
 public:
     explicit RandomWriter(unsigned seed) : m_random(seed) {}
@@ -21,13 +21,13 @@ public:
             const std::string attribute = "k" + std::to_string(number);
             const std::string quote = Pick({"'", "\""});
             m_text += Pick({" ", "\n\t", "\r\n"}) + attribute + Pick({"=", " = ", "\r="}) + quote;
-            m_tree += " " + attribute + "='";
+            m_tree += attribute + "=\"";
             Pieces(true);
             m_text += quote;
-            m_tree += "'";
+            m_tree += "\" ";
         }
         m_text += Pick({"", " ", "\n"});
-        m_tree += "|";
+        m_tree += ")[";
         if (Below(4) == 0) {
             m_text += "/>";
         } else {
@@ -35,7 +35,7 @@ public:
             Content(depth);
             m_text += "</" + name + Pick({"", " "}) + ">";
         }
-        m_tree += ")";
+        m_tree += "]";
     }
 
     const std::string& Text() const { return m_text; }
@@ -53,12 +53,12 @@ private:
             {"word", "word", "word"},
             {"plain words \xC3\xA9t\xC3\xA9", "plain words \xC3\xA9t\xC3\xA9", "plain words \xC3\xA9t\xC3\xA9"},
             {"&lt;", "<", "<"},
-            {"&#10;", "\\n", "\\n"},
-            {"\r\n", "\\n", " "},
-            {"\rx", "\\nx", " x"},
-            {"\n", "\\n", " "},
-            {"\t", "\\t", " "},
-            {"&#13;", "\\r", "\\r"},
+            {"&#10;", "\n", "\n"},
+            {"\r\n", "\n", " "},
+            {"\rx", "\nx", " x"},
+            {"\n", "\n", " "},
+            {"\t", "\t", " "},
+            {"&#13;", "\r", "\r"},
             {"]", "]", "]"},
             {"&amp;", "&", "&"},
             {"&#x20AC;", "\xE2\x82\xAC", "\xE2\x82\xAC"},
@@ -75,15 +75,15 @@ private:
         for (std::size_t count = Below(7); count > 0; --count) {
             const std::size_t choice = Below(6);
             if (choice == 0 && !afterText) {
-                m_tree += "\"";
+                m_tree += "'";
                 Pieces(false);
-                m_tree += "\"";
+                m_tree += "'";
             } else if (choice == 1) {
                 Marked("<![CDATA[", "]]>", "{", "}");
             } else if (choice == 2) {
-                Marked("<!--", "-->", "!", "");
+                Marked("<!--", "-->", "!", "!");
             } else if (choice == 3) {
-                Marked("<?t ", "?>", "?t:", "");
+                Marked("<?t ", "?>", "?t ", "?");
             } else if (depth > 0) {
                 Element(depth - 1);
             } else {
@@ -100,7 +100,7 @@ private:
         for (std::size_t count = Below(3); count > 0; --count) {
             const std::size_t choice = Below(5);
             m_text += std::vector<std::string>{"x&lt;", "1\r\n2", "3\r4", "\xC3\xA4>", "some more plain words"}[choice];
-            m_tree += std::vector<std::string>{"x&lt;", "1\\n2", "3\\n4", "\xC3\xA4>", "some more plain words"}[choice];
+            m_tree += std::vector<std::string>{"x&lt;", "1\n2", "3\n4", "\xC3\xA4>", "some more plain words"}[choice];
         }
         m_text += closing;
         m_tree += after;

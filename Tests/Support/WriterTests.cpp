@@ -54,50 +54,15 @@ const std::vector<std::string>& NastyTexts() {
         "&amp; &#13; <![CDATA[x]]> <!-- --> <?a?>",
         "\x7F \xC2\x80 \xC2\x85 \xE2\x80\xA8 \xEF\xBF\xBD \xF0\x9F\x98\x80 \xF4\x8F\xBF\xBF",
         "\xEE\x80\x80\xED\x9F\xBF",
-        std::string(100000, '>'),
     };
     return texts;
-}
-
-TEST(XmlWriter, EveryTextReadsBackFromTextAttributeAndCData) {
-    for (const std::string& text : NastyTexts()) {
-        SCOPED_TRACE(text.substr(0, 60));
-        const std::u16string wide = ToUtf16(text);
-        const DomDocumentPtr document = NewDomDocument();
-        DOMElement* const root = AddElement(*document, *document, u"r");
-        root->setAttribute(u"a", wide.c_str());
-        AddElement(*document, *root, u"t")->appendChild(document->createTextNode(wide.c_str()));
-        AddElement(*document, *root, u"c")->appendChild(document->createCDATASection(wide.c_str()));
-        const auto read = Load(Write(*document, WriteOptions{}));
-        EXPECT_EQ(AttributeOf(*read, read->Root(), "a"), text);
-        EXPECT_EQ(TextOf(*read, LastChildNamed(*read, read->Root(), "t")), text);
-        const NodeRef section = LastChildNamed(*read, read->Root(), "c");
-        EXPECT_EQ(CDataOf(*read, section), text);
-        EXPECT_EQ(TextOf(*read, section), text);
-    }
-}
-
-TEST(XmlWriter, CDataIsClosedOnlyWhereItMust) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"", "<![CDATA[]]>"},
-        {"a<&>b", "<![CDATA[a<&>b]]>"},
-        {"a]]>b", "<![CDATA[a]]]]><![CDATA[>b]]>"},
-        {"]]", "<![CDATA[]]]]>"},
-        {"\ra", "<![CDATA[]]>&#13;<![CDATA[a]]>"},
-        {"a\r", "<![CDATA[a]]>&#13;<![CDATA[]]>"},
-    };
-    for (const auto& [text, expected] : cases) {
-        std::string xml;
-        AppendCData(xml, text);
-        EXPECT_EQ(xml, expected);
-    }
 }
 
 /// Content of any shape, with neighbouring texts, which only a DOM can hold.
 void Grow(DOMDocument& document, DOMElement& parent, std::minstd_rand& random, int depth) {
     const auto& texts = NastyTexts();
     for (std::size_t count = random() % 5; count > 0; --count) {
-        const std::u16string text = ToUtf16(texts[random() % (texts.size() - 1)]);
+        const std::u16string text = ToUtf16(texts[random() % texts.size()]);
         switch (random() % 4) {
         case 0:
             parent.appendChild(document.createTextNode(text.c_str()));
@@ -138,18 +103,14 @@ TEST(XmlWriter, MixedContentOfAnyShapeSurvives) {
 
 TEST(XmlWriter, IndentsWhereNoTextStands) {
     const std::pair<const char*, const char*> cases[] = {
-        {"<a/>", "<a/>\n"},
-        {"<a><b/><c>t</c></a>", "<a>\n  <b/>\n  <c>t</c>\n</a>\n"},
-        {"<a>\n\n<b>\t<c/></b> </a>", "<a>\n  <b>\n    <c/>\n  </b>\n</a>\n"},
+        {"<a>\n\n<b>\t<c/></b> <c>t</c></a>", "<a>\n  <b>\n    <c/>\n  </b>\n  <c>t</c>\n</a>\n"},
         {"<!--x--><a><!--y--><b/><?p q?></a>", "<!--x-->\n<a>\n  <!--y-->\n  <b/>\n  <?p q?>\n</a>\n"},
         // Mixed content stays as it is, and all below.
-        {"<a>t <b> <c/> </b></a>", "<a>t <b> <c/> </b></a>\n"},
+        {"<a><m>t <b> <c/> </b></m><n><c/></n></a>", "<a>\n  <m>t <b> <c/> </b></m>\n  <n>\n    <c/>\n  </n>\n</a>\n"},
         {"<a><b/>&#160;</a>", "<a><b/>\xC2\xA0</a>\n"},
-        {"<a><m>t<b><c/></b></m><n><c/></n></a>", "<a>\n  <m>t<b><c/></b></m>\n  <n>\n    <c/>\n  </n>\n</a>\n"},
         // A section is text, whatever is in it, and blanks alone are a value.
         {"<a><b/><![CDATA[ ]]></a>", "<a><b/><![CDATA[ ]]></a>\n"},
         {"<a>  </a>", "<a>  </a>\n"},
-        {"<a><!--y--></a>", "<a><!--y--></a>\n"},
     };
     for (const auto& [xml, expected] : cases) {
         const auto tree = Load(xml);
@@ -228,9 +189,7 @@ TEST(XmlWriter, EveryNameItLetsThroughLoads) {
     const auto tree = Load(xml + "</r>");
     EXPECT_EQ(WriteXml(*tree, tree->DocumentNode(), kBare), xml + "</r>\n");
     EXPECT_NO_THROW(BuildDom(*tree));
-    EXPECT_FALSE(IsXmlName(""));
-    EXPECT_FALSE(IsXmlName("1a"));
-    EXPECT_FALSE(IsXmlName("a b"));
+    EXPECT_FALSE(IsXmlName("") || IsXmlName("1a") || IsXmlName("a b"));
 }
 
 } // namespace

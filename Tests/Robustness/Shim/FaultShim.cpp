@@ -139,15 +139,6 @@ int RenameAt(int fromFolder, const char* from, int toFolder, const char* to, uns
     });
 }
 
-int UnlinkAt(int folder, const char* path, int flags) {
-    return Call("unlink", PathAt(folder, path),
-                [&](std::size_t) { return static_cast<int>(::syscall(SYS_unlinkat, folder, path, flags)); });
-}
-
-int Sync(int file, long number) {
-    return Call("fsync", PathOf(file), [&](std::size_t) { return static_cast<int>(::syscall(number, file)); });
-}
-
 } // namespace
 
 extern "C" {
@@ -179,16 +170,7 @@ ssize_t read(int file, void* data, size_t size) {
 }
 
 int fsync(int file) {
-    return Sync(file, SYS_fsync);
-}
-
-int fdatasync(int file) {
-    return Sync(file, SYS_fdatasync);
-}
-
-int ftruncate(int file, off_t length) noexcept {
-    return Call("ftruncate", PathOf(file),
-                [&](std::size_t) { return static_cast<int>(::syscall(SYS_ftruncate, file, length)); });
+    return Call("fsync", PathOf(file), [&](std::size_t) { return static_cast<int>(::syscall(SYS_fsync, file)); });
 }
 
 int fchmod(int file, mode_t mode) noexcept {
@@ -207,10 +189,6 @@ int close(int file) {
     return Call("close", PathOf(file), real, 0, real);
 }
 
-int rename(const char* from, const char* to) noexcept {
-    return RenameAt(AT_FDCWD, from, AT_FDCWD, to, 0);
-}
-
 int renameat(int fromFolder, const char* from, int toFolder, const char* to) noexcept {
     return RenameAt(fromFolder, from, toFolder, to, 0);
 }
@@ -219,11 +197,8 @@ int renameat2(int fromFolder, const char* from, int toFolder, const char* to, un
     return RenameAt(fromFolder, from, toFolder, to, flags);
 }
 
-int unlink(const char* path) noexcept {
-    return UnlinkAt(AT_FDCWD, path, 0);
-}
-
 int unlinkat(int folder, const char* path, int flags) noexcept {
-    return UnlinkAt(folder, path, flags);
+    return Call("unlink", PathAt(folder, path),
+                [&](std::size_t) { return static_cast<int>(::syscall(SYS_unlinkat, folder, path, flags)); });
 }
 }
