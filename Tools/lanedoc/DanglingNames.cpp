@@ -3,8 +3,8 @@
 #include <array>
 #include <map>
 #include <optional>
+#include <set>
 #include <string_view>
-#include <unordered_set>
 
 #include "Framework/MergeJournal.h"
 #include "MessageCodes.h"
@@ -59,7 +59,7 @@ public:
     const std::vector<std::string>& InOrder() const { return m_inOrder; }
 
 private:
-    std::unordered_set<std::string> m_names;
+    std::set<std::string> m_names; // of the document, where texts may be chosen so that their hashes meet
     std::vector<std::string> m_inOrder;
 };
 

@@ -1,8 +1,8 @@
 #include "TreeDiff.h"
 
 #include <algorithm>
+#include <map>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 
 #include "TreeNode.h"
@@ -168,8 +168,8 @@ private:
     void CompareKeyedList(const CatalogField& list, const std::vector<SnapshotEntry>& before,
                           TypedDataContainer& after) {
         // Entries from before that are not yet found again, the first of a key last: keys may be the same once they are
-        // read as numbers.
-        std::unordered_map<std::string_view, std::vector<std::size_t>> left;
+        // read as numbers. Not by their hashes: in a document these may be made to meet.
+        std::map<std::string_view, std::vector<std::size_t>> left;
         for (std::size_t i = before.size(); i-- > 0;) {
             left[before[i].key].push_back(i);
         }

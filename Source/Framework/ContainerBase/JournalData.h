@@ -10,6 +10,7 @@
 #include "Framework/ContainerBase/FoundProblem.h"
 #include "Framework/MergeJournal.h"
 #include "Framework/XMLSupport/Document.h"
+#include "Framework/XMLSupport/TextHash.h"
 
 namespace Framework {
 
@@ -205,7 +206,7 @@ private:
     std::vector<std::shared_ptr<const Document>> m_documents;
     std::unordered_map<const Document*, Number> m_documentNumbers;
     std::vector<std::string> m_names;
-    std::unordered_map<std::string, Number> m_nameNumbers;
+    HashedMap<std::string, Number> m_nameNumbers;
     struct RecentName {
         const char* begin = nullptr;
         std::size_t size = 0;
