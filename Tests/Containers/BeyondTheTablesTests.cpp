@@ -1,12 +1,10 @@
-// What the field table of a class does not say: parents, keys, names and roots seen from outside, with what is expected
-// written out.
+// What the field table of a class does not say: keys and names seen from outside, with what is expected written out.
 
 #include "Containers/EveryClass.h"
 
 #include <algorithm>
 #include <iterator>
 #include <sstream>
-#include <type_traits>
 
 #include "FrameworkDataContainers/FrameworkDataContainers.h"
 
@@ -206,59 +204,6 @@ TEST(NameSake, FormAndLettersDecideInEveryOperation) {
         EXPECT_EQ(DumpedByNode(*loaded.object), row.merged);
         ASSERT_TRUE(loaded.object->UpdateContainedData());
         EXPECT_EQ(loaded.Text(), row.updated);
-    }
-}
-
-TEST(NameSake, TypesAndFormsOfOneNameDiffer) {
-    AddItemResponseType response(false);
-    const std::string content = "<Quantity>1.5</Quantity><RestrictedAge> 018 </RestrictedAge>";
-    ASSERT_TRUE(LoadText(response, "<AddItemResponse><CouponItem>" + content + "<ItemID>" + content +
-                                       "</ItemID></CouponItem><LineItem>" + content + "</LineItem></AddItemResponse>"));
-    EXPECT_EQ(response.GetLineItem(0)->GetRestrictedAge(), 18);
-    EXPECT_EQ(response.GetLineItem(0)->GetQuantity(), 0) << "no whole number";
-    EXPECT_EQ(response.GetCouponItem(0)->GetRestrictedAge(), " 018 ");
-    EXPECT_EQ(response.GetCouponItem(0)->GetQuantity(), 0);
-    EXPECT_EQ(response.GetCouponItem(0)->GetItemID()->GetQuantity(), 1.5);
-    ConfigurationDefinitionType definition(false);
-    const IssueRecorder recorder;
-    ASSERT_TRUE(LoadText(definition, "<ConfigurationDefinition><ConfigDef Type='t' Name='n'/><ConfigDef><Name>n</Name>"
-                                     "<Type>e</Type></ConfigDef></ConfigurationDefinition>"));
-    EXPECT_TRUE(recorder.issues.empty());
-    EXPECT_EQ(definition.GetConfigDef("n")->GetType(), "");
-    EXPECT_EQ(definition.GetConfigDef("")->GetType(), "e");
-}
-
-template <typename... Roots> constexpr bool noneIsLoader = !(std::is_base_of_v<StructuralConfigLoader, Roots> || ...);
-static_assert(noneIsLoader<VendraConfigType, CaptureDocType, ItemPurchaseTrackingType, ItemIdentifyEntryType,
-                           LoggingInformationPacketType, ItemHandlerLogDataType, SystemsManagementPacketType,
-                           LaneManagerPacketType>);
-static_assert(!noneIsLoader<VendraDBConfigType> && !noneIsLoader<TarnLoggingConfigType>);
-
-TEST(Root, IsLoadedMergedAndDumpedWithoutALoader) {
-    const struct {
-        const char* name;
-        const char* content;
-        const char* over;
-        const char* dumped;
-    } rows[] = {
-        {"VendraConfig", "<Config Name='a'><ConfigType>t</ConfigType></Config>",
-         "<Config Name='a'><Description><Doc>d</Doc></Description></Config>",
-         "<Config Name=\"a\"><ConfigType>t</ConfigType><Description><Doc>d</Doc></Description></Config>"},
-        {"CaptureDoc", "", "<Capture><Line>012</Line><Level>CAPTURE_LEVEL_DEBUG</Level></Capture>",
-         "<Capture><Msg/><Time/><File/><SubSystem/><UniqueName/><Class/><Line>012</Line>"
-         "<Level>CAPTURE_LEVEL_DEBUG</Level></Capture>"},
-        {"LoggingInformationPacket", "<Lane>3</Lane>", "", "<PacketType/><Lane>3</Lane><TimeStamp/>"},
-        {"SystemsManagementPacket", "<PacketType>LANE_ITEM</PacketType>", "<PacketType>LANE</PacketType>",
-         "<PacketType/>"},
-    };
-    for (const auto& [name, content, over, dumped] : rows) {
-        SCOPED_TRACE(name);
-        const std::string start = "<" + std::string(name) + ">";
-        const std::string end = "</" + std::string(name) + ">";
-        const auto object = ContainerCatalog::FindRoot(name).Create(false);
-        ASSERT_TRUE(LoadText(*object, start + content + end));
-        ASSERT_TRUE(MergeText(*object, "F", start + over + end));
-        EXPECT_EQ(DumpedByNode(*object), start + dumped + end);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "Containers/Examples.h"
 #include "Containers/Values.h"
 
+#include "Framework/MergeJournal.h"
 #include "Framework/XMLDataWrapper.h"
 
 namespace {
@@ -65,6 +66,8 @@ TEST(Examples, MergeWithoutAWordAndComeBackFromTheirDump) {
     const Framework::TemporaryFolder folder;
     ForEveryExample([&folder](CatalogClass type, const Example& example) {
         const IssueRecorder log;
+        MergeJournal journal; // whoever records one is told also of what a merge passes over
+        const MergeJournal::Recording recording(journal);
         const std::unique_ptr<TypedDataContainer> object = LoadFile(type, example.document);
         std::vector<std::string> lines = Samples::Lines(*object);
         const fs::path dump = folder / "dump.xml";

@@ -1,8 +1,6 @@
 // What is wrong with an override or a document: each mistake is told once, at its place, with the name that was meant.
 
-#include "Commands.h"
 #include "Containers/EveryClass.h"
-#include "Containers/Examples.h"
 #include "Containers/OverrideWriter.h"
 
 #include "Framework/DocumentCheck.h"
@@ -269,44 +267,6 @@ TEST(Findings, AreToldOnceForEveryClassAndAgreeWithTheCheck) {
             ASSERT_FALSE(testing::Test::HasFailure()) << "seed " << seed << "\n" << xml;
         }
     });
-}
-
-TEST(Findings, ExamplesHaveNone) {
-    const auto check = [](CatalogClass type, const std::filesystem::path& path, DocumentCheck::Kind kind) {
-        XMLDataWrapper document;
-        EXPECT_TRUE(document.LoadXMLFile(path.c_str(), true)) << document.GetLastError();
-        return DocumentCheck::Run(document, type, kind);
-    };
-    ForEveryExample([&check](CatalogClass type, const Example& example) {
-        EXPECT_TRUE(check(type, example.document, DocumentCheck::Kind::Document).empty());
-        const auto object = type.Create(false);
-        ASSERT_TRUE(object->LoadFromFile(nullptr, example.document.c_str(), false));
-        MergeJournal journal;
-        const MergeJournal::Recording recording(journal);
-        for (const std::filesystem::path& path : example.overrides) {
-            EXPECT_TRUE(check(type, path, DocumentCheck::Kind::Override).empty()) << path;
-            ASSERT_TRUE(object->MergeFromFile(nullptr, path.c_str()));
-        }
-        EXPECT_TRUE(journal.Problems().empty()) << journal.At(journal.Problems().front()).Path;
-    });
-}
-
-TEST(Findings, ExampleOfMistakesHasThemAll) {
-    const std::filesystem::path folder = FRAMEWORK_EXAMPLES, path = folder / "StateProcessingRoot.mistakes.xml";
-    StateProcessingRootType root(false);
-    ASSERT_TRUE(root.LoadFromFile(nullptr, (folder / "StateProcessingRoot.xml").c_str(), false));
-    MergeJournal journal;
-    const MergeJournal::Recording recording(journal);
-    const IssueRecorder log;
-    ASSERT_TRUE(root.MergeFromFile(nullptr, path.c_str()));
-    std::multiset<Code> codes;
-    for (const Finding& finding : ProblemsIn(journal)) {
-        codes.insert(finding.Code);
-        EXPECT_EQ(finding.Place.File, path.string());
-    }
-    EXPECT_EQ(codes, (std::multiset<Code>{Code::UnknownAttribute, Code::UnknownElement, Code::UnknownControlWord,
-                                          Code::MissingNeighbour, Code::MissingNeighbour, Code::MissingTarget,
-                                          Code::TargetExists, Code::MissingKey, Code::MisplacedControlWord}));
 }
 
 /// A host's class that has something to say of its own.

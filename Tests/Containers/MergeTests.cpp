@@ -87,31 +87,6 @@ TEST(Merge, NumberedListTakesIndexOrPosition) {
     EXPECT_EQ(object.GetDocLength(), 4);
 }
 
-TEST(Merge, WhatIsNotTakenOverIsReportedWithItsPlace) {
-    LoadConfigType object(false);
-    ASSERT_TRUE(LoadText(object, threads));
-    const std::vector<std::string> before = Samples::Lines(object);
-    const char* const sources[] = {
-        "<LoadConfig>\n  <ThreadChildList/>\n</LoadConfig>",
-        "<LoadConfig>\n  <ThreadChildList UniqueName='Z' MergeAction='Remove'/></LoadConfig>",
-        ("<LoadConfig>\n  <ThreadChildList UniqueName='A' MergeAction='merge'><ChildThread "
-         "UniqueName='X'/></ThreadChildList></LoadConfig>"),
-    };
-    for (const char* const source : sources) {
-        IssueRecorder recorder;
-        EXPECT_TRUE(MergeText(object, "F", source));
-        ASSERT_EQ(recorder.issues.size(), 1U) << source;
-        EXPECT_EQ(recorder.issues[0].Line, 2U) << source;
-        EXPECT_EQ(recorder.issues[0].Column, 3U) << source;
-        EXPECT_EQ(Samples::Lines(object), before) << source;
-    }
-    IssueRecorder recorder;
-    EXPECT_FALSE(
-        MergeText(object, "F", "<LoadConfig MergeAction='Remove'><ThreadChildList UniqueName='B'/></LoadConfig>"));
-    EXPECT_EQ(recorder.issues.size(), 1U);
-    EXPECT_EQ(Samples::Lines(object), before);
-}
-
 TEST(Merge, NestedObjectMergesFromWhereToldAndKeepsItsFlag) {
     StateProcessingRootType root(false);
     ASSERT_TRUE(LoadText(root, "<StateProcessingRoot><StateTable Name='T' InitialState='a'/></StateProcessingRoot>"));
@@ -196,21 +171,6 @@ TEST(Merge, EverySourceMergesAlike) {
     merged("NightModel", [&](TypedDataContainer& o) { return o.MergeFromModel(nullptr, "NightModel", "LoadConfig"); });
     merged("F", [&](TypedDataContainer& o) {
         return o.MergeFromDOMNode(nullptr, "F", wrapper.GetDOMNode("//LoadConfig", true));
-    });
-}
-
-TEST(Merge, WhatEveryClassTookFromTheSourceLivesOnWithoutIt) {
-    ForEveryClass([](CatalogClass type) {
-        const auto object = type.Create(false);
-        ASSERT_TRUE(MergeText(*object, "F", SampleText(type, 7, true)));
-        for (const CatalogField& field : type.Fields()) {
-            TypedDataContainer* const part = field.IsList() ? field.Entry(*object, 0) : field.GetChild(*object);
-            if (part != nullptr) {
-                const std::unique_ptr<TypedDataContainer> clone(part->Clone());
-                ASSERT_NE(clone, nullptr) << part->GetLastError();
-                EXPECT_EQ(Samples::Lines(*clone), Samples::Lines(*part)) << field.Name();
-            }
-        }
     });
 }
 
