@@ -1,7 +1,6 @@
 #include "Commands.h"
 #include "Containers/EveryClass.h"
 #include "Containers/Examples.h"
-#include "Containers/Values.h"
 
 #include "Framework/MergeJournal.h"
 #include "Framework/XMLDataWrapper.h"
@@ -86,38 +85,6 @@ TEST(Examples, MergeWithoutAWordAndComeBackFromTheirDump) {
             expectDumped();
         }
         EXPECT_TRUE(log.issues.empty()) << log.issues.front().ErrorText.c_str();
-    });
-}
-
-/// Whatever else stands in a file that people keep, comments, blanks and order, stays where it is.
-TEST(Examples, TakeEveryValueAndGiveTheirBytesBack) {
-    ForEveryExample([](CatalogClass type, const Example& example) {
-        const std::string bytes = ReadText(example.document);
-        XMLDataWrapper wrapper;
-        ASSERT_TRUE(wrapper.LoadXMLText(bytes, false)) << wrapper.GetLastError();
-        const std::unique_ptr<TypedDataContainer> object = type.Create(false);
-        ASSERT_TRUE(object->LoadFromDataPacket(nullptr, &wrapper, false)) << object->GetLastError();
-        const std::vector<Value> values = ValuesOf(*object);
-        std::vector<zelString> old;
-        for (const Value& value : values) {
-            old.push_back(value.Get());
-            const bool isUnsetWord = value.field.GetValue() == CatalogField::Enumeration && old.back().empty();
-            if (!isUnsetWord) {
-                ASSERT_TRUE(value.Set(OtherThan(value.field, old.back())));
-            }
-        }
-        ASSERT_TRUE(object->UpdateContainedData()) << wrapper.GetLastError();
-        const std::unique_ptr<TypedDataContainer> again = type.Create(false);
-        const IssueRecorder equalKeys; // whole numbers that are keys have become the same
-        ASSERT_TRUE(LoadText(*again, wrapper.GetXMLText()));
-        if (equalKeys.issues.empty()) {
-            EXPECT_EQ(Samples::Lines(*again), Samples::Lines(*object));
-        }
-        for (std::size_t i = 0; i < values.size(); ++i) {
-            values[i].Set(old[i]);
-        }
-        ASSERT_TRUE(object->UpdateContainedData()) << wrapper.GetLastError();
-        EXPECT_EQ(wrapper.GetXMLText(), bytes);
     });
 }
 

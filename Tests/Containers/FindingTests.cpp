@@ -305,22 +305,6 @@ TEST(Findings, OfAHostAndOfWhatCannotBeLoadedAreInTheJournalToo) {
     EXPECT_EQ(list.GetChildThreadLength(), 1);
 }
 
-TEST(Findings, EveryCodeHasAMistakeANameAndAnExplanation) {
-    std::set<Code> codes = {Code::OtherIssue, Code::NotLoaded}; // of the test above
-    for (const Scenario& scenario : Scenarios()) {
-        for (const Mistake& mistake : scenario.mistakes) {
-            codes.insert(mistake.code);
-        }
-    }
-    std::set<std::string_view> names;
-    for (const Code code : AllFindingCodes()) {
-        EXPECT_TRUE(codes.contains(code)) << FindingName(code);
-        EXPECT_TRUE(names.insert(FindingName(code)).second) << FindingName(code);
-        EXPECT_FALSE(FindingExplanation(code).empty()) << FindingName(code);
-    }
-    EXPECT_EQ(AllFindingCodes().size(), codes.size());
-}
-
 TEST(Findings, NearestNamesAreThoseThatMayHaveBeenMeant) {
     const std::vector<std::string> known = {"Doc", "State", "StateTable", "StateTrigger", "BaseState", "Name"};
     const auto nearest = [&known](const char* name, std::size_t limit) { return NearestNames(name, known, limit); };

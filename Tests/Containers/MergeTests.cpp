@@ -53,28 +53,6 @@ TEST(Merge, SourceThatCannotBeReadChangesNothing) {
 const char* const threads = "<LoadConfig><ThreadChildList UniqueName='A'><ChildThread UniqueName='T'>"
                             "<LibraryPath>old</LibraryPath></ChildThread></ThreadChildList></LoadConfig>";
 
-TEST(Merge, FeatureOfAnEntryIsTheOneThatAddedIt) {
-    LoadConfigType object(false);
-    object.SetFeatureID("Base");
-    ASSERT_TRUE(LoadText(object, threads));
-    ASSERT_TRUE(MergeText(
-        object, "Night",
-        "<LoadConfig><ThreadChildList UniqueName='A'><ChildThread UniqueName='T'><LibraryPath>new</LibraryPath>"
-        "</ChildThread><ChildThread UniqueName='U'/></ThreadChildList><ThreadChildList UniqueName='B'/></LoadConfig>"));
-    ThreadChildListType& list = *object.GetThreadChildList("A");
-    EXPECT_EQ(list.GetFeatureID(), "Base");
-    EXPECT_EQ(list.GetChildThread("T")->GetFeatureID(), "Base");
-    EXPECT_EQ(list.GetChildThread("T")->GetLibraryPath(), "new");
-    EXPECT_EQ(list.GetChildThread("U")->GetFeatureID(), "Night");
-    EXPECT_EQ(object.GetThreadChildList("B")->GetFeatureID(), "Night");
-    EXPECT_EQ(object.GetThreadChildList("B")->GetContainerName(), "ThreadChildList");
-    EXPECT_EQ(list.GetChildThread("T")->GetMergeAttributes(), " and @FeatureID='Night' ");
-    EXPECT_EQ(object.GetMergeAttributes(), " and @FeatureID='Night' ");
-    const std::unique_ptr<ParameterList> attributes(list.GetPLAttributeList());
-    list.GetPLMergeAttributes(attributes.get());
-    EXPECT_EQ(attributes->ItemData(attributes->size() - 1)->ElementName, "FeatureID");
-}
-
 TEST(Merge, NumberedListTakesIndexOrPosition) {
     StateActionBasicType object(false);
     ASSERT_TRUE(LoadText(object, "<StateActionBasic><Doc>a</Doc><Doc>b</Doc></StateActionBasic>"));

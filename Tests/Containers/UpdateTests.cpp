@@ -34,18 +34,6 @@ std::string MakeDocument(CatalogClass type, unsigned seed) {
     return seed % 2 == 0 ? Samples::ToXmlWithRepeats(sample, random) : Samples::ToXml(sample, random, seed % 4 == 1);
 }
 
-TEST(Update, LeavesAnUnchangedDocumentAlone) {
-    const IssueRecorder doubledKeys;
-    ForEveryClass([](CatalogClass type) {
-        for (unsigned seed = 1; seed <= 12; ++seed) {
-            const std::string xml = MakeDocument(type, seed);
-            Loaded loaded(type, xml);
-            EXPECT_TRUE(loaded.object->UpdateContainedData());
-            EXPECT_EQ(loaded.Text(), xml) << "seed " << seed;
-        }
-    });
-}
-
 TEST(Update, WritesOneChangedValueAndNothingElse) {
     const IssueRecorder doubledKeys;
     ForEveryClass([](CatalogClass type) {

@@ -185,24 +185,4 @@ TEST(Case, EnumerationsCompareWithEverythingTheyAreMadeOf) {
     EXPECT_EQ(SizeEnum::SMALL, 1);
 }
 
-TEST(Case, CatalogueKnowsTheClasses) {
-    EXPECT_EQ(ContainerCatalog::Classes().size(), 7U);
-    const CatalogClass derived = ContainerCatalog::FindClass("EmptyDerivedType");
-    ASSERT_TRUE(derived);
-    EXPECT_TRUE(derived.IsStructuralConfigLoader());
-    EXPECT_EQ(derived.Parent().Name(), "DerivedType");
-    EXPECT_TRUE(derived.OwnFields().empty());
-    ASSERT_EQ(derived.Fields().size(), 4U);
-    EXPECT_EQ(derived.Fields()[3].Name(), "Number");
-    EXPECT_EQ(ContainerCatalog::Roots(), (std::vector<std::string_view>{"Lists", "Scalars"}));
-    const auto shade = ContainerCatalog::FindField(ContainerCatalog::FindRoot("Scalars"), "Shade");
-    ASSERT_TRUE(shade);
-    EXPECT_EQ(shade->LoadText(), "black");
-    EXPECT_EQ(shade->Words().size(), 3U);
-    const auto line = ContainerCatalog::FindField(ContainerCatalog::FindClass("ListsType"), "Line");
-    EXPECT_TRUE(line && line->HasNumberedKeys() && line->KeyAttribute() == "Index");
-    const auto raw = ContainerCatalog::FindField(ContainerCatalog::FindClass("ScalarsType"), "Raw");
-    EXPECT_TRUE(raw && raw->IsCData());
-}
-
 } // namespace
