@@ -96,7 +96,7 @@ std::vector<Scenario> Scenarios() {
          "<ItemQuantity> 7 </ItemQuantity><MeasuredWeight>99999999999</MeasuredWeight>\n"
          "<MeasuredHeight>2.5</MeasuredHeight><NofPrice>-2.5e3</NofPrice><NofMod1></NofMod1>\n"
          "<NofMod2>-99999999999</NofMod2><NofMod3>+007</NofMod3><PricePerUnitUsed>1e-999</PricePerUnitUsed>\n"
-         "<NewItem> Off</NewItem><OverrideMode/>\n"
+         "<NewItem PlacementOrder='First'> Off</NewItem><OverrideMode/>\n"
          "<PassAround>YES</PassAround><LongItem><![CDATA[not]]></LongItem><ItemDesc>7</ItemDesc></ItemInformation>",
          {
              {Code::UnknownWord, "<LaneType", Check, "LTYPE_KIOSK"},
@@ -106,6 +106,7 @@ std::vector<Scenario> Scenarios() {
              {Code::NotANumber, "<NofMod1"},
              {Code::NumberOutOfRange, "<NofMod2"},
              {Code::NumberOutOfRange, "<PricePerUnitUsed"},
+             {Code::MisplacedControlWord, "PlacementOrder", Both}, // and the value is taken
              {Code::NotABool, "<LongItem"},
          }},
         {type("StateProcessingRootType"),

@@ -285,7 +285,7 @@ TEST(MergeControl, FeaturesOfWhatIsPlacedReplacedAndCleared) {
                                Thread("'A' MergeAction='Clear'") + Thread("'D' MergeAction='Replace'"))));
     EXPECT_TRUE(recorder.issues.empty());
     ThreadChildListType& list = *object.GetThreadChildList("L");
-    EXPECT_EQ(Threads(list), "D N B A");
+    ASSERT_EQ(Threads(list), "D N B A");
     EXPECT_EQ(list.GetChildThread("D")->GetFeatureID(), "Night"); // it added what stands there now
     EXPECT_EQ(list.GetChildThread("N")->GetFeatureID(), "Night");
     for (TypedDataContainer* const kept :
