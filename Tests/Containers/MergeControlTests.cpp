@@ -288,6 +288,7 @@ TEST(MergeControl, FeaturesOfWhatIsPlacedReplacedAndCleared) {
     ASSERT_EQ(Threads(list), "D N B A");
     EXPECT_EQ(list.GetChildThread("D")->GetFeatureID(), "Night"); // it added what stands there now
     EXPECT_EQ(list.GetChildThread("N")->GetFeatureID(), "Night");
+    EXPECT_EQ(list.GetChildThread("N")->GetMergeAttributes(), " and @FeatureID='Night' ");
     for (TypedDataContainer* const kept :
          {static_cast<TypedDataContainer*>(list.GetChildThread("A")), static_cast<TypedDataContainer*>(&list),
           static_cast<TypedDataContainer*>(&object)}) {
