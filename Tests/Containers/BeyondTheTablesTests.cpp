@@ -121,6 +121,9 @@ TEST(IntKey, RemoveTakesTheFirstOfTheNumberAndLeavesNoKeyToIt) {
 TEST(Naming, CallersObjectsKeepTheirClassesNameUntilADocumentNamesThem) {
     AudioGlobalParamsType child(false);
     child.SetPathSearchOrder(new AudioPathSearchOrderType(false));
+    AudioGlobalParamsType loaded(false);
+    loaded.SetPathSearchOrder(new AudioPathSearchOrderType(false));
+    ASSERT_TRUE(LoadText(*loaded.GetPathSearchOrder(), "<AudioPathSearchOrder/>"));
     AudioExpandPhraseType keyed(false);
     keyed.AddNewCondition(new AudioExpandPhraseConditionType(false), "k");
     CaptureDocType plain(false); // whose entries are never merged into
@@ -132,6 +135,7 @@ TEST(Naming, CallersObjectsKeepTheirClassesNameUntilADocumentNamesThem) {
         const char* after;
     } rows[] = {
         {child, "<PathSearchOrder/>", "AudioPathSearchOrder", "PathSearchOrder"},
+        {loaded, "<PathSearchOrder/>", "AudioPathSearchOrder", "PathSearchOrder"},
         {keyed, "<Condition description='k'/>", "AudioExpandPhraseCondition", "Condition"},
         {plain, "<Capture/>", "CaptureDoc", "CaptureDoc Capture"},
     };

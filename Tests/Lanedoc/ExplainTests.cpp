@@ -89,6 +89,14 @@ TEST_F(LanedocExplain, ExplainsRefusalsRemovalsAndParts) {
   day.xml:3:32   day    added StateTable/State[Name=C]
   night.xml:4:1  night  removed StateTable/State[Name=C]
 )"));
+    Put("doc.xml", Table("<State Name='A'><Doc Index='1' MergeAction='Add'>no</Doc></State>"));
+    Put("late.xml", Table("<State Name='A'><Doc Index='1'>two</Doc></State>"));
+    EXPECT_EQ(Run("explain base.xml doc.xml late.xml --path StateTable/State[Name=A]/Doc[1]").out,
+              R"(StateTable/State[Name=A]/Doc[Index=1] is "two"
+  base.xml:3:31  base  "one"
+  doc.xml:3:17   doc   refused: MergeAction="Add": the entry is there already
+* late.xml:3:17  late  "two"
+)");
     EXPECT_EQ(Run("blame --quiet --no-defaults base.xml day.xml | cut -f 1,2,4").out,
               "base.xml:3:31\tBase\tone\nbase.xml:3:8\tBase\tA\nday.xml:3:17\tday\tY\nbase.xml:3:60\tBase\tB\n"
               "day.xml:3:39\tday\tC\nday.xml:3:62\tday\ttrue\nday.xml:3:48\tday\tQ\n");
