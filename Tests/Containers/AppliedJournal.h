@@ -5,6 +5,7 @@
 
 #include "Containers/EveryClass.h"
 #include "Containers/ValueOrigins.h"
+#include "Framework/FieldPath.h"
 
 /// The tree that the entries of a journal make of a base. Made from what the entries say and from the catalogue alone,
 /// as literally as can be.
@@ -65,18 +66,9 @@ private:
     using Action = MergeJournal::Action;
 
     static std::string Step(const Samples::FieldSample& field, std::size_t position) {
-        const std::string name(field.field.Name()), keyName(field.field.KeyAttribute());
-        if (field.field.GetForm() != CatalogField::KeyedList) {
-            return name + "[" + std::to_string(position + 1) + "]";
-        }
-        std::string key = field.entries[position].key;
-        if (key.find_first_of("]/\"") != std::string::npos) {
-            for (std::size_t at = key.find('"'); at != std::string::npos; at = key.find('"', at + 2)) {
-                key.insert(at, 1, '"');
-            }
-            key = "\"" + key + "\"";
-        }
-        return name + "[" + keyName + "=" + key + "]";
+        return field.field.GetForm() == CatalogField::KeyedList
+                   ? FieldPath::KeyStep(field.field.Name(), field.field.KeyAttribute(), field.entries[position].key)
+                   : FieldPath::PositionStep(field.field.Name(), position + 1);
     }
 
     /// What a path leads to. Of an entry that is not there the list, and the step by which it would be found.

@@ -33,6 +33,7 @@ void Build(TypedDataContainer& object, const Samples::Sample& sample) {
             }
             TypedDataContainer* const entry = field.AddEntry(object, one.key);
             ASSERT_NE(entry, nullptr) << one.key;
+            EXPECT_EQ(entry->GetFeatureID(), object.GetFeatureID());
             EXPECT_EQ(field.EntryKey(object, field.Length(object) - 1), one.key); // before Build sets it
             Build(*entry, *one.object);
         }

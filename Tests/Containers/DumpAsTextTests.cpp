@@ -119,10 +119,6 @@ TEST(DumpAsText, GivesTheBytesOfTheDomForEveryClass) {
     });
 }
 
-TEST(DumpAsText, IsWhatTheOperationsSave) {
-    ExpectSameOutcome(*MakeLoaded(ContainerCatalog::FindClass("StateProcessingRootType"), 1, true));
-}
-
 /// A tree of three levels, with an entry of the given class in the middle.
 template <class Thread> LoadConfigType& MakeTree(LoadConfigType& root, Thread* middle) {
     EXPECT_TRUE(LoadText(root, "<LoadConfig><ThreadChildList UniqueName='A'><ChildThread UniqueName='1'/>"

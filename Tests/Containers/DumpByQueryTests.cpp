@@ -88,16 +88,9 @@ TEST(DumpByQuery, WritesWhatTheDumpByNodeWritesWhereTheElementsStand) {
             EXPECT_EQ(DumpedInto(*object, Skeleton(*object, false)), Canonical(byNode)) << byNode.GetXMLText();
             EXPECT_EQ(Samples::Lines(*object), lines);
             EXPECT_EQ(object->GetLastError(), "");
-        }
-    });
-}
-
-TEST(DumpByQuery, LeavesOutOfAFreshDocumentWhatHasNoAttributes) {
-    ForEveryClass([](CatalogClass type) {
-        for (unsigned seed = 1; seed <= 4; ++seed) {
-            const auto object = MakeLoaded(type, seed, seed == 1, true);
-            const std::string all = DumpedInto(*object, Skeleton(*object, true));
-            EXPECT_EQ(DumpedInto(*object, "<" + std::string(type.ElementName()) + "/>"), all);
+            EXPECT_EQ(DumpedInto(*object, "<" + std::string(type.ElementName()) + "/>"),
+                      DumpedInto(*object, Skeleton(*object, true)))
+                << "of a fresh document what has no attributes is left out";
         }
     });
 }

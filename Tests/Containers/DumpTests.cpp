@@ -1,38 +1,13 @@
-// Dumping by node: order of elements, texts that need care, roots, and that a dump loads as what was dumped.
+// Dumping by node: roots, and that a dump loads as what was dumped.
 
 #include "Commands.h"
 #include "Containers/EveryClass.h"
-
-#include <algorithm>
 
 #include <xercesc/dom/DOMElement.hpp>
 
 #include "FrameworkDataContainers/FrameworkDataContainers.h"
 
 namespace {
-
-TEST(Dump, WritesFieldsInTableOrder) {
-    ForEveryClass([](CatalogClass type) {
-        const auto object = MakeLoaded(type, 1, true, true);
-        const std::unique_ptr<XMLDataWrapper> output(object->BuildAndReturnDataContent());
-        ASSERT_NE(output, nullptr) << object->GetLastError();
-        std::vector<std::string> names;
-        for (const DOMNode* child = output->GetDOMNode(true, false)->getFirstChild(); child != nullptr;
-             child = child->getNextSibling()) {
-            if (child->getNodeType() == DOMNode::ELEMENT_NODE) {
-                names.push_back(zelString(child->getNodeName()));
-            }
-        }
-        names.erase(std::unique(names.begin(), names.end()), names.end());
-        std::vector<std::string> expected;
-        for (const CatalogField& field : type.Fields()) {
-            if (field.GetForm() != CatalogField::Attribute) {
-                expected.emplace_back(field.Name());
-            }
-        }
-        EXPECT_EQ(names, expected);
-    });
-}
 
 TEST(Dump, LoadsAsWhatWasDumped) {
     const Framework::TemporaryFolder folder;

@@ -21,6 +21,22 @@ inline void ForEveryClass(const std::function<void(CatalogClass)>& check) {
     }
 }
 
+/// Runs a check for everything that hangs below an object.
+inline void ForEveryPart(TypedDataContainer& object, const std::function<void(TypedDataContainer&)>& check) {
+    for (const CatalogField& field : ContainerCatalog::ClassOf(object).Fields()) {
+        std::vector<TypedDataContainer*> parts{field.GetChild(object)};
+        for (std::size_t i = 0; i < field.Length(object); ++i) {
+            parts.push_back(field.Entry(object, i));
+        }
+        for (TypedDataContainer* const part : parts) {
+            if (part != nullptr) {
+                check(*part);
+                ForEveryPart(*part, check);
+            }
+        }
+    }
+}
+
 /// A made-up document of the class.
 inline std::string SampleText(CatalogClass type, unsigned seed, bool everything = false, bool noise = false) {
     Samples::Random random(seed);

@@ -1,8 +1,8 @@
 #include "Commands.h"
 #include "Containers/EveryClass.h"
 #include "Containers/Examples.h"
-#include "Containers/Values.h"
 
+#include "Framework/MergeJournal.h"
 #include "Framework/XMLDataWrapper.h"
 
 namespace {
@@ -65,6 +65,8 @@ TEST(Examples, MergeWithoutAWordAndComeBackFromTheirDump) {
     const Framework::TemporaryFolder folder;
     ForEveryExample([&folder](CatalogClass type, const Example& example) {
         const IssueRecorder log;
+        MergeJournal journal; // whoever records one is told also of what a merge passes over
+        const MergeJournal::Recording recording(journal);
         const std::unique_ptr<TypedDataContainer> object = LoadFile(type, example.document);
         std::vector<std::string> lines = Samples::Lines(*object);
         const fs::path dump = folder / "dump.xml";
@@ -83,38 +85,6 @@ TEST(Examples, MergeWithoutAWordAndComeBackFromTheirDump) {
             expectDumped();
         }
         EXPECT_TRUE(log.issues.empty()) << log.issues.front().ErrorText.c_str();
-    });
-}
-
-/// Whatever else stands in a file that people keep, comments, blanks and order, stays where it is.
-TEST(Examples, TakeEveryValueAndGiveTheirBytesBack) {
-    ForEveryExample([](CatalogClass type, const Example& example) {
-        const std::string bytes = ReadText(example.document);
-        XMLDataWrapper wrapper;
-        ASSERT_TRUE(wrapper.LoadXMLText(bytes, false)) << wrapper.GetLastError();
-        const std::unique_ptr<TypedDataContainer> object = type.Create(false);
-        ASSERT_TRUE(object->LoadFromDataPacket(nullptr, &wrapper, false)) << object->GetLastError();
-        const std::vector<Value> values = ValuesOf(*object);
-        std::vector<zelString> old;
-        for (const Value& value : values) {
-            old.push_back(value.Get());
-            const bool isUnsetWord = value.field.GetValue() == CatalogField::Enumeration && old.back().empty();
-            if (!isUnsetWord) {
-                ASSERT_TRUE(value.Set(OtherThan(value.field, old.back())));
-            }
-        }
-        ASSERT_TRUE(object->UpdateContainedData()) << wrapper.GetLastError();
-        const std::unique_ptr<TypedDataContainer> again = type.Create(false);
-        const IssueRecorder equalKeys; // whole numbers that are keys have become the same
-        ASSERT_TRUE(LoadText(*again, wrapper.GetXMLText()));
-        if (equalKeys.issues.empty()) {
-            EXPECT_EQ(Samples::Lines(*again), Samples::Lines(*object));
-        }
-        for (std::size_t i = 0; i < values.size(); ++i) {
-            values[i].Set(old[i]);
-        }
-        ASSERT_TRUE(object->UpdateContainedData()) << wrapper.GetLastError();
-        EXPECT_EQ(wrapper.GetXMLText(), bytes);
     });
 }
 

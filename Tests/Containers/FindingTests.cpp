@@ -1,8 +1,6 @@
 // What is wrong with an override or a document: each mistake is told once, at its place, with the name that was meant.
 
-#include "Commands.h"
 #include "Containers/EveryClass.h"
-#include "Containers/Examples.h"
 #include "Containers/OverrideWriter.h"
 
 #include "Framework/DocumentCheck.h"
@@ -98,7 +96,7 @@ std::vector<Scenario> Scenarios() {
          "<ItemQuantity> 7 </ItemQuantity><MeasuredWeight>99999999999</MeasuredWeight>\n"
          "<MeasuredHeight>2.5</MeasuredHeight><NofPrice>-2.5e3</NofPrice><NofMod1></NofMod1>\n"
          "<NofMod2>-99999999999</NofMod2><NofMod3>+007</NofMod3><PricePerUnitUsed>1e-999</PricePerUnitUsed>\n"
-         "<NewItem> Off</NewItem><OverrideMode/>\n"
+         "<NewItem PlacementOrder='First'> Off</NewItem><OverrideMode/>\n"
          "<PassAround>YES</PassAround><LongItem><![CDATA[not]]></LongItem><ItemDesc>7</ItemDesc></ItemInformation>",
          {
              {Code::UnknownWord, "<LaneType", Check, "LTYPE_KIOSK"},
@@ -108,6 +106,7 @@ std::vector<Scenario> Scenarios() {
              {Code::NotANumber, "<NofMod1"},
              {Code::NumberOutOfRange, "<NofMod2"},
              {Code::NumberOutOfRange, "<PricePerUnitUsed"},
+             {Code::MisplacedControlWord, "PlacementOrder", Both}, // and the value is taken
              {Code::NotABool, "<LongItem"},
          }},
         {type("StateProcessingRootType"),
@@ -271,44 +270,6 @@ TEST(Findings, AreToldOnceForEveryClassAndAgreeWithTheCheck) {
     });
 }
 
-TEST(Findings, ExamplesHaveNone) {
-    const auto check = [](CatalogClass type, const std::filesystem::path& path, DocumentCheck::Kind kind) {
-        XMLDataWrapper document;
-        EXPECT_TRUE(document.LoadXMLFile(path.c_str(), true)) << document.GetLastError();
-        return DocumentCheck::Run(document, type, kind);
-    };
-    ForEveryExample([&check](CatalogClass type, const Example& example) {
-        EXPECT_TRUE(check(type, example.document, DocumentCheck::Kind::Document).empty());
-        const auto object = type.Create(false);
-        ASSERT_TRUE(object->LoadFromFile(nullptr, example.document.c_str(), false));
-        MergeJournal journal;
-        const MergeJournal::Recording recording(journal);
-        for (const std::filesystem::path& path : example.overrides) {
-            EXPECT_TRUE(check(type, path, DocumentCheck::Kind::Override).empty()) << path;
-            ASSERT_TRUE(object->MergeFromFile(nullptr, path.c_str()));
-        }
-        EXPECT_TRUE(journal.Problems().empty()) << journal.At(journal.Problems().front()).Path;
-    });
-}
-
-TEST(Findings, ExampleOfMistakesHasThemAll) {
-    const std::filesystem::path folder = FRAMEWORK_EXAMPLES, path = folder / "StateProcessingRoot.mistakes.xml";
-    StateProcessingRootType root(false);
-    ASSERT_TRUE(root.LoadFromFile(nullptr, (folder / "StateProcessingRoot.xml").c_str(), false));
-    MergeJournal journal;
-    const MergeJournal::Recording recording(journal);
-    const IssueRecorder log;
-    ASSERT_TRUE(root.MergeFromFile(nullptr, path.c_str()));
-    std::multiset<Code> codes;
-    for (const Finding& finding : ProblemsIn(journal)) {
-        codes.insert(finding.Code);
-        EXPECT_EQ(finding.Place.File, path.string());
-    }
-    EXPECT_EQ(codes, (std::multiset<Code>{Code::UnknownAttribute, Code::UnknownElement, Code::UnknownControlWord,
-                                          Code::MissingNeighbour, Code::MissingNeighbour, Code::MissingTarget,
-                                          Code::TargetExists, Code::MissingKey, Code::MisplacedControlWord}));
-}
-
 /// A host's class that has something to say of its own.
 class OutspokenList : public ThreadChildListType {
 public:
@@ -343,22 +304,6 @@ TEST(Findings, OfAHostAndOfWhatCannotBeLoadedAreInTheJournalToo) {
     EXPECT_EQ(found[2].Place.Line, 2U);
     EXPECT_EQ(log.issues.size(), 3U);
     EXPECT_EQ(list.GetChildThreadLength(), 1);
-}
-
-TEST(Findings, EveryCodeHasAMistakeANameAndAnExplanation) {
-    std::set<Code> codes = {Code::OtherIssue, Code::NotLoaded}; // of the test above
-    for (const Scenario& scenario : Scenarios()) {
-        for (const Mistake& mistake : scenario.mistakes) {
-            codes.insert(mistake.code);
-        }
-    }
-    std::set<std::string_view> names;
-    for (const Code code : AllFindingCodes()) {
-        EXPECT_TRUE(codes.contains(code)) << FindingName(code);
-        EXPECT_TRUE(names.insert(FindingName(code)).second) << FindingName(code);
-        EXPECT_FALSE(FindingExplanation(code).empty()) << FindingName(code);
-    }
-    EXPECT_EQ(AllFindingCodes().size(), codes.size());
 }
 
 TEST(Findings, NearestNamesAreThoseThatMayHaveBeenMeant) {

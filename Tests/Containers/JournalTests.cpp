@@ -342,6 +342,17 @@ TEST(Journal, WritersOfAValueTellItsWholeStory) {
     }
 }
 
+TEST(Journal, WritersTellOfATextThatIsGone) {
+    Merges merges(ContainerCatalog::FindClass("StateDefinitionType"),
+                  "<StateDefinition><Doc>a</Doc></StateDefinition>");
+    merges.Merge("Day", "<StateDefinition><Doc Index='1' MergeAction='Remove'/></StateDefinition>");
+    const std::vector<Writer> writers = merges.journal.WritersOf(*merges.object, "Doc[Index=1]");
+    ASSERT_EQ(writers.size(), 2U);
+    EXPECT_EQ(writers[0].Value, "a");
+    EXPECT_EQ(writers[1].Value, "");
+    EXPECT_TRUE(writers[1].IsRemoval && writers[1].Wins);
+}
+
 TEST(Journal, KeepsWhatWasReadWhateverBecomesOfTheDocuments) {
     LoadConfigType config(false);
     XMLDataWrapper base, source;

@@ -58,33 +58,12 @@ TEST(KeyedList, RemoveTakesTheFirstMatchAndAlwaysTheKey) {
     EXPECT_NE(list.GetChildThread("c"), nullptr);
 }
 
-TEST(KeyedList, AddWithoutXmlNeedsBuildFromScratch) {
-    for (const bool fromScratch : {false, true}) {
-        ThreadChildListType list(fromScratch);
-        list.SetFeatureID("F");
-        list.AddChildThread(nullptr, nullptr, "k");
-        list.AddDataStorageContainer(nullptr, nullptr);
-        EXPECT_EQ(list.GetChildThreadLength(), fromScratch ? 1 : 0);
-        if (fromScratch) {
-            EXPECT_EQ(list.GetChildThread("k")->GetContainerName(), "ChildThread");
-            EXPECT_EQ(list.GetChildThread("k")->GetFeatureID(), "F");
-            EXPECT_EQ(list.GetDataStorageContainerLength(), 1);
-        }
-    }
-}
-
-TEST(KeyedStrings, DuplicatesAreReportedAndAbsenceIsEmpty) {
+TEST(KeyedStrings, AbsenceIsEmpty) {
     StateProcessingRootType root(false);
-    IssueRecorder recorder;
     root.AddRevisionHistory("text", "a.xml");
-    root.AddRevisionHistory("other", "a.xml");
-    EXPECT_EQ(root.GetRevisionHistoryLength(), 1);
     EXPECT_EQ(root.GetRevisionHistory("a.xml"), "text");
     EXPECT_EQ(root.GetRevisionHistory("b.xml"), "");
     EXPECT_EQ(root.GetRevisionHistory(1), "");
-    EXPECT_EQ(root.GetLastErrorNum(), -2);
-    EXPECT_EQ(root.GetLastError(), "Duplicate Index for RevisionHistory, Index = a.xml");
-    EXPECT_EQ(recorder.issues.size(), 1U);
 }
 
 TEST(PlainList, GrowsFromTheTemplateOnRead) {

@@ -275,6 +275,7 @@ TEST(MergeControl, WhatCannotBeDoneIsReportedWithItsPlaceAndTheRestGoesOn) {
 
 TEST(MergeControl, FeaturesOfWhatIsPlacedReplacedAndCleared) {
     LoadConfigType object(false);
+    object.SetFeatureID("Base");
     ASSERT_TRUE(LoadText(object, List(Thread("'A'") + Thread("'B'"))));
     ASSERT_TRUE(MergeText(object, "Day", List(Thread("'D' PlacementOrder='First'"))));
     IssueRecorder recorder;
@@ -284,10 +285,19 @@ TEST(MergeControl, FeaturesOfWhatIsPlacedReplacedAndCleared) {
                                Thread("'A' MergeAction='Clear'") + Thread("'D' MergeAction='Replace'"))));
     EXPECT_TRUE(recorder.issues.empty());
     ThreadChildListType& list = *object.GetThreadChildList("L");
-    EXPECT_EQ(Threads(list), "D N B A");
+    ASSERT_EQ(Threads(list), "D N B A");
     EXPECT_EQ(list.GetChildThread("D")->GetFeatureID(), "Night"); // it added what stands there now
-    EXPECT_EQ(list.GetChildThread("A")->GetFeatureID(), "");
-    EXPECT_EQ(list.GetChildThread("A")->GetMergeAttributes(), " and @FeatureID='Night' ");
+    EXPECT_EQ(list.GetChildThread("N")->GetFeatureID(), "Night");
+    EXPECT_EQ(list.GetChildThread("N")->GetMergeAttributes(), " and @FeatureID='Night' ");
+    for (TypedDataContainer* const kept :
+         {static_cast<TypedDataContainer*>(list.GetChildThread("A")), static_cast<TypedDataContainer*>(&list),
+          static_cast<TypedDataContainer*>(&object)}) {
+        EXPECT_EQ(kept->GetFeatureID(), "Base");
+        EXPECT_EQ(kept->GetMergeAttributes(), " and @FeatureID='Night' ");
+    }
+    ASSERT_TRUE(MergeText(object, "Late", "<LoadConfig><ThreadChildList UniqueName='M'/></LoadConfig>"));
+    EXPECT_EQ(object.GetThreadChildList("M")->GetFeatureID(), "Late");
+    EXPECT_EQ(object.GetThreadChildList("M")->GetContainerName(), "ThreadChildList");
 }
 
 TEST(MergeControl, BelowSomethingNewWordsAreReportedAndWhatBearsThemIsLeftOut) {
@@ -327,30 +337,6 @@ TEST(MergeControl, BelowSomethingNewWordsAreReportedAndWhatBearsThemIsLeftOut) {
     ASSERT_TRUE(LoadText(plain, "<StateProcessingRoot>" + text.erase(text.find('%'), 1) + "</StateProcessingRoot>"));
     EXPECT_EQ(plain.GetStateTable()->GetStateLength(), 5);
     EXPECT_TRUE(recorder.issues.empty());
-}
-
-TEST(MergeControl, SingleValueIsTakenAndItsWordReported) {
-    ForEveryClass([](CatalogClass type) {
-        for (const CatalogField& field : type.Fields()) {
-            if (field.GetForm() != CatalogField::Element) {
-                continue;
-            }
-            Random random(9);
-            const Sample sample = Samples::Make(type, std::string(type.ElementName()), random, 1, true);
-            const auto object = type.Create(false);
-            const std::string name(field.Name());
-            IssueRecorder recorder;
-            for (const char* const word : {"MergeAction='Remove'", "PlacementOrder='First'", "MergeAction='Merge'"}) {
-                const auto made = std::find_if(sample.fields.begin(), sample.fields.end(),
-                                               [&](const FieldSample& f) { return f.field.Name() == name; });
-                ASSERT_TRUE(MergeText(*object, "F",
-                                      "<" + sample.name + "><" + name + " " + word + ">" +
-                                          Samples::Escaped(made->text) + "</" + name + "></" + sample.name + ">"));
-                EXPECT_EQ(field.GetText(*object), made->text);
-            }
-            EXPECT_EQ(recorder.issues.size(), 2U) << name;
-        }
-    });
 }
 
 /// A host's class that does something of its own to list and source while a merge walks them.

@@ -53,28 +53,6 @@ TEST(Merge, SourceThatCannotBeReadChangesNothing) {
 const char* const threads = "<LoadConfig><ThreadChildList UniqueName='A'><ChildThread UniqueName='T'>"
                             "<LibraryPath>old</LibraryPath></ChildThread></ThreadChildList></LoadConfig>";
 
-TEST(Merge, FeatureOfAnEntryIsTheOneThatAddedIt) {
-    LoadConfigType object(false);
-    object.SetFeatureID("Base");
-    ASSERT_TRUE(LoadText(object, threads));
-    ASSERT_TRUE(MergeText(
-        object, "Night",
-        "<LoadConfig><ThreadChildList UniqueName='A'><ChildThread UniqueName='T'><LibraryPath>new</LibraryPath>"
-        "</ChildThread><ChildThread UniqueName='U'/></ThreadChildList><ThreadChildList UniqueName='B'/></LoadConfig>"));
-    ThreadChildListType& list = *object.GetThreadChildList("A");
-    EXPECT_EQ(list.GetFeatureID(), "Base");
-    EXPECT_EQ(list.GetChildThread("T")->GetFeatureID(), "Base");
-    EXPECT_EQ(list.GetChildThread("T")->GetLibraryPath(), "new");
-    EXPECT_EQ(list.GetChildThread("U")->GetFeatureID(), "Night");
-    EXPECT_EQ(object.GetThreadChildList("B")->GetFeatureID(), "Night");
-    EXPECT_EQ(object.GetThreadChildList("B")->GetContainerName(), "ThreadChildList");
-    EXPECT_EQ(list.GetChildThread("T")->GetMergeAttributes(), " and @FeatureID='Night' ");
-    EXPECT_EQ(object.GetMergeAttributes(), " and @FeatureID='Night' ");
-    const std::unique_ptr<ParameterList> attributes(list.GetPLAttributeList());
-    list.GetPLMergeAttributes(attributes.get());
-    EXPECT_EQ(attributes->ItemData(attributes->size() - 1)->ElementName, "FeatureID");
-}
-
 TEST(Merge, NumberedListTakesIndexOrPosition) {
     StateActionBasicType object(false);
     ASSERT_TRUE(LoadText(object, "<StateActionBasic><Doc>a</Doc><Doc>b</Doc></StateActionBasic>"));
@@ -85,31 +63,6 @@ TEST(Merge, NumberedListTakesIndexOrPosition) {
     EXPECT_EQ(object.GetDoc("7"), "g");
     EXPECT_EQ(object.GetDoc("3"), "c");
     EXPECT_EQ(object.GetDocLength(), 4);
-}
-
-TEST(Merge, WhatIsNotTakenOverIsReportedWithItsPlace) {
-    LoadConfigType object(false);
-    ASSERT_TRUE(LoadText(object, threads));
-    const std::vector<std::string> before = Samples::Lines(object);
-    const char* const sources[] = {
-        "<LoadConfig>\n  <ThreadChildList/>\n</LoadConfig>",
-        "<LoadConfig>\n  <ThreadChildList UniqueName='Z' MergeAction='Remove'/></LoadConfig>",
-        ("<LoadConfig>\n  <ThreadChildList UniqueName='A' MergeAction='merge'><ChildThread "
-         "UniqueName='X'/></ThreadChildList></LoadConfig>"),
-    };
-    for (const char* const source : sources) {
-        IssueRecorder recorder;
-        EXPECT_TRUE(MergeText(object, "F", source));
-        ASSERT_EQ(recorder.issues.size(), 1U) << source;
-        EXPECT_EQ(recorder.issues[0].Line, 2U) << source;
-        EXPECT_EQ(recorder.issues[0].Column, 3U) << source;
-        EXPECT_EQ(Samples::Lines(object), before) << source;
-    }
-    IssueRecorder recorder;
-    EXPECT_FALSE(
-        MergeText(object, "F", "<LoadConfig MergeAction='Remove'><ThreadChildList UniqueName='B'/></LoadConfig>"));
-    EXPECT_EQ(recorder.issues.size(), 1U);
-    EXPECT_EQ(Samples::Lines(object), before);
 }
 
 TEST(Merge, NestedObjectMergesFromWhereToldAndKeepsItsFlag) {
@@ -196,21 +149,6 @@ TEST(Merge, EverySourceMergesAlike) {
     merged("NightModel", [&](TypedDataContainer& o) { return o.MergeFromModel(nullptr, "NightModel", "LoadConfig"); });
     merged("F", [&](TypedDataContainer& o) {
         return o.MergeFromDOMNode(nullptr, "F", wrapper.GetDOMNode("//LoadConfig", true));
-    });
-}
-
-TEST(Merge, WhatEveryClassTookFromTheSourceLivesOnWithoutIt) {
-    ForEveryClass([](CatalogClass type) {
-        const auto object = type.Create(false);
-        ASSERT_TRUE(MergeText(*object, "F", SampleText(type, 7, true)));
-        for (const CatalogField& field : type.Fields()) {
-            TypedDataContainer* const part = field.IsList() ? field.Entry(*object, 0) : field.GetChild(*object);
-            if (part != nullptr) {
-                const std::unique_ptr<TypedDataContainer> clone(part->Clone());
-                ASSERT_NE(clone, nullptr) << part->GetLastError();
-                EXPECT_EQ(Samples::Lines(*clone), Samples::Lines(*part)) << field.Name();
-            }
-        }
     });
 }
 

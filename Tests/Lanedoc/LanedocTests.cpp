@@ -166,24 +166,6 @@ TEST_F(Lanedoc, ShowsTheTreeWithPathsThatLeadBack) {
     ::unsetenv("NO_COLOR");
 }
 
-TEST_F(Lanedoc, MergesIntoAFileAndToStandardOutput) {
-    const std::string arguments =
-        "merge examples/StateProcessingRoot.xml Coupons=examples/StateProcessingRoot.coupons.xml --quiet";
-    const Result toFile = Run(arguments + " -o merged.xml");
-    EXPECT_EQ(toFile.code, 0) << toFile.errors;
-    EXPECT_EQ(toFile.out + toFile.errors, "");
-    const Result toOutput = Run(arguments + " -o -");
-    EXPECT_EQ(toOutput.out, Get("merged.xml"));
-    EXPECT_EQ(Run("get merged.xml Version").out, "4.2.1-C3\n");
-    EXPECT_EQ(Run("get merged.xml 'StateTable/State[Name=CouponEntry]/BaseState'").out, "LaneBase\n");
-    EXPECT_EQ(Run("get merged.xml 'StateTable/InitialState'").out, "StartUp\n") << "what no override names stays";
-
-    // Merged a second time, the same override finds all it brings, but for lists without a key, which grow.
-    const Result again = Run("merge merged.xml examples/StateProcessingRoot.coupons.xml -o again.xml --summary");
-    EXPECT_TRUE(Holds(again.errors, "\n  2 added\n")) << again.errors;
-    EXPECT_TRUE(Holds(again.errors, "ActionData/Data[Name=Coupons]/VarInput/InputSource[2]")) << again.errors;
-}
-
 TEST_F(Lanedoc, WritesNothingWhenAnythingIsWrong) {
     Put("nokey.xml", State("<State Transient='true'/>\n  <State Name='New'/>"));
     Put("broken.xml", "<StateProcessingRoot>");

@@ -103,7 +103,8 @@ private:
     void PutInOrder() {
         auto writer = m_writers.begin();
         const auto takeWriters = [&](std::size_t before) {
-            for (; writer != m_writers.end() && writer->Entry.value_or(0) < before; ++writer) {
+            const auto isBefore = [before](const Writer& each) { return !each.Entry || *each.Entry < before; };
+            for (; writer != m_writers.end() && isBefore(*writer); ++writer) { // the base has no entry
                 m_history.steps.push_back(StepOf(*writer, m_journal, m_history.path));
             }
         };
