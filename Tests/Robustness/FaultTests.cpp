@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <limits>
 #include <set>
+#include <thread>
 
 #include <unistd.h>
 #include <xercesc/dom/DOMDocument.hpp>
@@ -714,6 +715,29 @@ TEST(Faults, AnyMallocMayFail) {
     if (Robustness::FullSizes()) {
         SweepAll(MemoryFault(true, FailingMemory::Level::Malloc));
     }
+}
+
+/// What a thread does for the first time may need more than what others have done before.
+TEST(Faults, AThreadMayBeginWithoutMemory) {
+    if (!FailingMemory::CanFailMalloc()) {
+        GTEST_SKIP() << "the sanitizers have a malloc of their own";
+    }
+    long failures = 0;
+    for (bool hasFailed = true; hasFailed; failures += hasFailed ? 1 : 0) {
+        std::thread([&] {
+            TranslationConfigType object(false);
+            zelString expected = "a name of the host's own";
+            try {
+                const FailingMemory memory(failures, false, FailingMemory::Level::Malloc);
+                object.SetContainerName("a name of the host's own");
+            } catch (const std::bad_alloc&) {
+                expected = "TranslationConfig";
+            }
+            hasFailed = FailingMemory::HasFailed();
+            EXPECT_EQ(object.GetContainerName(), expected);
+        }).join();
+    }
+    EXPECT_GE(failures, 2);
 }
 
 TEST(Faults, AnyStepOfTheXmlLayerMayFail) {
