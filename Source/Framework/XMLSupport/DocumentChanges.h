@@ -40,4 +40,8 @@ struct DocumentChanges {
     std::vector<std::uint32_t> freeValues;
 };
 
+/// Sorts the numbers and leaves each once. They come mostly as a few runs, each in order: an update goes through a
+/// document from its beginning to its end.
+void SortEachOnce(std::vector<std::uint32_t>& numbers);
+
 } // namespace Framework

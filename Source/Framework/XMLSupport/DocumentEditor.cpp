@@ -89,8 +89,7 @@ DocumentEditor::Region DocumentEditor::TextRegion(Number element, TextForm form)
 void DocumentEditor::Touch(Number element) {
     std::vector<Number>& touched = m_changes.touched;
     if (touched.size() == touched.capacity()) {
-        std::sort(touched.begin(), touched.end());
-        touched.erase(std::unique(touched.begin(), touched.end()), touched.end());
+        SortEachOnce(touched);
         touched.reserve(std::max<std::size_t>(64, touched.size() * 2));
     }
     touched.push_back(element);

@@ -36,8 +36,7 @@ public:
 
     std::vector<Patch> Make() {
         std::vector<std::uint32_t> touched = m_data.changes.touched;
-        std::sort(touched.begin(), touched.end());
-        touched.erase(std::unique(touched.begin(), touched.end()), touched.end());
+        SortEachOnce(touched);
         for (const std::uint32_t element : touched) {
             PatchAttributes(element);
             PatchRemoved(element);
