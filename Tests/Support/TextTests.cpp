@@ -126,6 +126,14 @@ void ForEveryOffset(const auto& check) {
     }
 }
 
+/// In texts that are long enough to be looked through in blocks.
+void ExpectNoXmlIn(const std::string& before, std::string_view bad) {
+    const std::string accented = "\xC3\xA9" + before;
+    const std::string filling(100, 'x');
+    EXPECT_EQ(Framework::FindNonXmlText(accented + std::string(bad) + filling), accented.size());
+    EXPECT_EQ(Framework::FindNonXmlText(accented + filling + std::string(bad)), accented.size() + filling.size());
+}
+
 TEST(Utf, RefusesWhatIsNotUtf8) {
     const char* malformed[] = {"\x80",          "\xC0\x80",         "\xC3",
                                "\xC3(",         "\xE0\x9F\xBF",     "\xE2\x82",
@@ -138,6 +146,7 @@ TEST(Utf, RefusesWhatIsNotUtf8) {
                 EXPECT_EQ(Framework::FindNonXmlText(text), offset);
                 EXPECT_THROW(Framework::ToUtf16(text), std::invalid_argument);
             }
+            ExpectNoXmlIn(before, bad);
         });
     }
 }
@@ -146,6 +155,7 @@ TEST(Utf, TellsWhatXmlAllows) {
     ForEveryOffset([](const std::string& before, std::size_t offset) {
         for (const std::string_view no : {"\0"sv, "\x08"sv, "\x0B"sv, "\x1F"sv, "\xEF\xBF\xBE"sv, "\xEF\xBF\xBF"sv}) {
             EXPECT_EQ(Framework::FindNonXmlText(before + std::string(no) + "behind it"), offset);
+            ExpectNoXmlIn(before, no);
         }
         EXPECT_TRUE(Framework::IsXmlText(before + "\t\n\r \x7F\xC2\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBD"
                                                   "\xF0\x9F\xBF\xBF"));
@@ -169,6 +179,7 @@ TEST(Utf, EveryCharacterConvertsThereAndBack) {
     }
     const zelString text(all.c_str());
     EXPECT_EQ(Framework::FindInvalidUtf8(text), std::string::npos);
+    EXPECT_EQ(Framework::FindNonXmlText(std::string_view(text).substr(0x1F)), text.find("\xEF\xBF\xBE") - 0x1F);
     EXPECT_EQ(Framework::CountCodePoints(text), count);
     EXPECT_TRUE(Framework::ToUtf16(text) == all);
     EXPECT_TRUE(Framework::ToUtf16("plain ASCII, \xE2\x82\xAC, \xF0\x9F\x98\x80") ==

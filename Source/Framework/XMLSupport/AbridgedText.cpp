@@ -1,10 +1,9 @@
 #include "Framework/XMLSupport/AbridgedText.h"
 
-#include "Framework/XMLSupport/Utf.h"
+#include "Framework/XMLSupport/ByteSearch.h"
 
 #include <algorithm>
 #include <cstring>
-#include <experimental/simd>
 
 namespace Framework {
 
@@ -14,16 +13,7 @@ namespace {
 constexpr std::size_t kWorthwhile = 16;
 constexpr std::size_t kLongestReference = 12; // &#x0010FFFF;
 
-namespace simd = std::experimental;
-
-using Bytes = simd::native_simd<signed char>;
-
-signed char Number(char byte) {
-    return static_cast<signed char>(byte);
-}
-
-// What follows is asked of single bytes and of many at once. As signed numbers, the bytes of longer characters come
-// before all others: here they count as controls.
+// The bytes of longer characters count as controls here.
 constexpr auto isNotPlainInText = [](auto byte) {
     return (byte < ' ' && byte != '\n' && byte != '\t') || (byte | 2) == '>' || byte == '&' || byte == ']';
 };
@@ -32,73 +22,6 @@ constexpr auto isNotPlainInValue = [](auto byte) {
     return byte < ' ' || byte == '<' || byte == '&' || byte == '"' || byte == '\'';
 };
 constexpr auto isTagMark = [](auto byte) { return byte == '>' || byte == '"' || byte == '\''; };
-
-/// Where a longer character is not well formed, or is one that has to be looked at: those of four bytes are, and what
-/// begins with EF BF, which may not be allowed. Looks at two bytes in front.
-Bytes::mask_type IsDoubtful(const char* at) {
-    constexpr auto number = [](unsigned byte) { return static_cast<signed char>(byte); };
-    const Bytes byte(at, simd::element_aligned);
-    const Bytes before(at - 1, simd::element_aligned);
-    const Bytes second(at - 2, simd::element_aligned);
-    const auto follows = byte < number(0xC0);
-    const auto mustFollow = (before >= number(0xC0) && before < 0) || (second >= number(0xE0) && second < 0);
-    const auto isOverlong = before == number(0xE0) && byte < number(0xA0);
-    const auto isSurrogate = before == number(0xED) && byte >= number(0xA0);
-    const auto isLast = before == number(0xEF) && byte == number(0xBF);
-    const auto isRare = (byte < 0 && byte >= number(0xF0)) || byte == number(0xC0) || byte == number(0xC1);
-    return follows != mustFollow || isOverlong || isSurrogate || isLast || isRare;
-}
-
-/// Where the last character before `at` begins, when its end is missing; else `at`.
-std::size_t BeforeBroken(std::string_view text, std::size_t at) {
-    if (at == 0 || Number(text[at - 1]) >= 0) {
-        return at;
-    }
-    std::size_t begin = at - 1;
-    while (begin > 0 && at - begin < 4 && Number(text[begin]) < Number('\xC0')) {
-        --begin;
-    }
-    return BehindLongCharacters(text.substr(0, at), begin) == at ? at : begin;
-}
-
-enum class Characters { Any, WellFormed };
-
-/// The first byte at or behind `at` that is of the kind, or where characters are to be well formed and that is in
-/// doubt; else the end of the text.
-template <Characters characters, typename Kind> std::size_t Find(std::string_view text, std::size_t at, Kind isOfKind) {
-    constexpr std::size_t inFront = 2;
-    for (; at >= inFront && text.size() - at >= Bytes::size(); at += Bytes::size()) {
-        const char* const here = text.data() + at;
-        const Bytes bytes(here, simd::element_aligned);
-        auto found = isOfKind(bytes);
-        if constexpr (characters == Characters::WellFormed) {
-            if (Number(here[-1]) < 0 || simd::any_of(bytes < 0)) {
-                found = (found && bytes >= 0) || IsDoubtful(here);
-            }
-        }
-        if (simd::any_of(found)) {
-            return at + static_cast<std::size_t>(simd::find_first_set(found));
-        }
-    }
-    if constexpr (characters == Characters::WellFormed) {
-        at = BeforeBroken(text, at);
-    }
-    while (at < text.size() && !isOfKind(Number(text[at]))) {
-        ++at;
-    }
-    return at;
-}
-
-/// The end of a plain stretch: `isNotPlain` tells the ASCII that is not.
-template <typename Kind> std::size_t EndOfPlain(std::string_view text, std::size_t begin, Kind isNotPlain) {
-    for (std::size_t at = begin;;) {
-        const std::size_t end = std::max(BeforeBroken(text, Find<Characters::WellFormed>(text, at, isNotPlain)), begin);
-        at = BehindLongCharacters(text, end);
-        if (at == end) {
-            return end;
-        }
-    }
-}
 
 } // namespace
 

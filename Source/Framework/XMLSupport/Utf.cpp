@@ -1,5 +1,7 @@
 #include "Framework/XMLSupport/Utf.h"
 
+#include "Framework/XMLSupport/ByteSearch.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
@@ -12,6 +14,7 @@ namespace {
 
 static_assert(std::is_same_v<XMLCh, char16_t>, "Xerces-C must be built with char16_t as its character type");
 
+constexpr std::size_t kLongText = 64; // worth the start of a search in blocks
 constexpr std::size_t WordSize = sizeof(std::uint64_t);
 constexpr std::uint64_t HighBits = 0x8080808080808080U;
 constexpr std::uint64_t Blanks = 0x2020202020202020U;
@@ -30,7 +33,12 @@ const char* SkipAscii(const char* p, const char* end) noexcept {
     return p;
 }
 
-/// The same for UTF-16.
+/// End of the run of ASCII that starts at `p`.
+const char* BehindAscii(const char* p, const char* end) noexcept {
+    return std::find_if(SkipAscii(p, end), end, [](char c) { return (static_cast<unsigned char>(c) & 0x80U) != 0; });
+}
+
+/// End of such a run of UTF-16, short of it by less than a word.
 const XMLCh* SkipAscii(const XMLCh* p, const XMLCh* end) noexcept {
     constexpr std::ptrdiff_t unitsInWord = WordSize / sizeof(XMLCh);
     constexpr std::uint64_t beyondAscii = 0xFF80FF80FF80FF80U;
@@ -139,9 +147,15 @@ std::size_t FindNonXmlText(std::string_view text) noexcept {
     const char* p = text.data();
     const char* const end = p + text.size();
     while ((p = SkipPrintableAscii(p, end)) != end) {
+        const auto at = static_cast<std::size_t>(p - text.data());
+        if (text.size() - at >= kLongText) {
+            const std::size_t stop = EndOfPlain(
+                text, at, [](auto byte) { return byte < ' ' && byte != '\t' && byte != '\n' && byte != '\r'; });
+            return stop == text.size() ? std::string_view::npos : stop;
+        }
         const Decoded decoded = Decode(p, end);
         if (decoded.length == 0 || !IsXmlCharacter(decoded.character)) {
-            return static_cast<std::size_t>(p - text.data());
+            return at;
         }
         p += decoded.length;
     }
@@ -153,7 +167,7 @@ std::size_t Utf16Length(std::string_view text) {
     const char* const end = p + text.size();
     std::size_t units = 0;
     while (p != end) {
-        const char* const behind = SkipAscii(p, end);
+        const char* const behind = BehindAscii(p, end);
         units += static_cast<std::size_t>(behind - p);
         p = behind;
         if (p == end) {
@@ -174,7 +188,7 @@ void CopyUtf16(std::string_view text, XMLCh* out) noexcept {
     const char* p = text.data();
     const char* const end = p + text.size();
     while (p != end) {
-        const char* const behind = SkipAscii(p, end);
+        const char* const behind = BehindAscii(p, end);
         out = std::transform(p, behind, out, [](char c) { return static_cast<XMLCh>(c); });
         p = behind;
         if (p == end) {

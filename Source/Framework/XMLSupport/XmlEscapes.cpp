@@ -1,9 +1,8 @@
 #include "Framework/XMLSupport/XmlEscapes.h"
 
-#include "Framework/XMLSupport/Utf.h"
+#include "Framework/XMLSupport/ByteSearch.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -15,24 +14,6 @@
 namespace Framework {
 
 namespace {
-
-/// Copies what needs no escape in one piece each.
-template <class Escape>
-void AppendEscaped(std::string& xml, std::string_view text, std::string_view special, Escape escape) {
-    std::array<bool, 256> isSpecial = {};
-    for (const char c : special) {
-        isSpecial[static_cast<unsigned char>(c)] = true;
-    }
-    std::size_t begin = 0;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (isSpecial[static_cast<unsigned char>(text[at])]) {
-            xml.append(text, begin, at - begin);
-            xml.append(escape(text[at]));
-            begin = at + 1;
-        }
-    }
-    xml.append(text, begin);
-}
 
 std::string_view Reference(char character) {
     switch (character) {
@@ -52,6 +33,19 @@ std::string_view Reference(char character) {
         return "&#10;";
     default:
         return "&#13;";
+    }
+}
+
+/// Copies what needs no escape in one piece each.
+template <typename Kind> void AppendEscaped(std::string& xml, std::string_view text, Kind isSpecial) {
+    for (std::size_t begin = 0;;) {
+        const std::size_t at = Find<Characters::Any>(text, begin, isSpecial);
+        xml.append(text, begin, at - begin);
+        if (at == text.size()) {
+            return;
+        }
+        xml.append(Reference(text[at]));
+        begin = at + 1;
     }
 }
 
@@ -140,11 +134,13 @@ bool NeedsNoEscape(std::string_view text) {
 }
 
 void AppendEscapedText(std::string& xml, std::string_view text) {
-    AppendEscaped(xml, text, "&<>\r", Reference);
+    AppendEscaped(xml, text, [](auto byte) { return byte == '&' || byte == '<' || byte == '>' || byte == '\r'; });
 }
 
 void AppendEscapedAttribute(std::string& xml, std::string_view value, char quote) {
-    AppendEscaped(xml, value, quote == '"' ? "&<\"\t\n\r" : "&<'\t\n\r", Reference);
+    AppendEscaped(xml, value, [quote = Number(quote)](auto byte) {
+        return byte == '&' || byte == '<' || byte == quote || byte == '\t' || byte == '\n' || byte == '\r';
+    });
 }
 
 void AppendCData(std::string& xml, std::string_view text) {
