@@ -8,6 +8,7 @@
 
 #include "Framework/XMLSupport/DomNodes.h"
 #include "Framework/XMLSupport/PathLookup.h"
+#include "Framework/XMLSupport/XmlEscapes.h"
 
 namespace Framework {
 
@@ -20,6 +21,13 @@ void CheckValues(const std::vector<PathCondition>& conditions) {
         if (values.try_emplace(condition.attribute, condition.value).first->second != condition.value) {
             throw std::runtime_error("the attribute " + condition.attribute + " is to have two values");
         }
+    }
+}
+
+/// Xerces takes names that no parser of ours reads back.
+void CheckName(const std::string& name) {
+    if (!IsXmlName(name)) {
+        throw std::runtime_error(name + " is no XML name");
     }
 }
 
@@ -114,8 +122,10 @@ DOMNode* PathMaker::NewElementFor(const PathStep& step) {
     }
     CheckValues(step.conditions);
     DOMNode* const element = NewElement(*m_tree.Document(), step.name);
+    CheckName(step.name);
     for (const PathCondition& condition : step.conditions) {
         SetAttribute(*element, *m_tree.Document(), condition.attribute, condition.value);
+        CheckName(condition.attribute);
     }
     return element;
 }
