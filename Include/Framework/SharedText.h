@@ -45,6 +45,7 @@ public:
     void SetFixed(const std::string_view& text) noexcept {
         *this = SharedText(reinterpret_cast<std::uintptr_t>(&text) | kFixed);
     }
+    void SetFixed(const std::string_view&& text) = delete;
     /// Good until this object is changed or destroyed.
     std::string_view View() const noexcept {
         if ((m_bits & kFixed) != 0) {

@@ -24,6 +24,7 @@ struct ContainerAccess {
     static void SetFixedName(TypedDataContainer& object, const std::string_view& name) noexcept {
         object.m_ContainerName.SetFixed(name);
     }
+    static void SetFixedName(TypedDataContainer& object, const std::string_view&& name) = delete;
     /// What an object gets from the place that it has in another one, where no host may have a say in it. The name is
     /// kept where it stands.
     static void SetPlace(TypedDataContainer& object, const std::string_view& name, const TypedDataContainer& parent) {
@@ -31,6 +32,8 @@ struct ContainerAccess {
         object.m_FeatureID = parent.m_FeatureID;
         object.m_pValueLookup = parent.m_pValueLookup;
     }
+    static void SetPlace(TypedDataContainer& object, const std::string_view&& name,
+                         const TypedDataContainer& parent) = delete;
     static void SetMergeFeature(TypedDataContainer& object, const zelString& feature) {
         object.m_MergeFeature.Set(feature);
     }

@@ -1,5 +1,6 @@
 #include "Framework/XMLSupport/PathMaker.h"
 
+#include <algorithm>
 #include <map>
 #include <stdexcept>
 #include <utility>
@@ -39,7 +40,10 @@ void AppendAll(DOMNode& parent, const std::vector<DOMNode*>& children) {
 
 } // namespace
 
+/// Everything is found and built before anything is changed, as each step may yet turn out to be one that cannot be
+/// made.
 void PathMaker::Make(const QueryPath& path, NodeRef start) {
+    std::vector<Standing> standing;
     NodeRef node = start;
     for (std::size_t at = 0; at < path.steps.size(); ++at) {
         const PathStep& step = path.steps[at];
@@ -51,14 +55,17 @@ void PathMaker::Make(const QueryPath& path, NodeRef start) {
         if (found == NodeRef::None) {
             found = FindStanding(node, step, isHead);
             if (found == NodeRef::None) {
-                Hang(node, path.steps, at, isHead);
+                const std::vector<DOMNode*> made = Build(node, path.steps, at, isHead);
+                std::for_each(standing.begin(), standing.end(), [this](const Standing& each) { SetAttributes(each); });
+                Hang(node, isHead, made);
                 return;
             }
-            SetAttributes(found, path.steps, at);
-            m_index.ForgetAttributes(node);
+            NewElementFor(step); // throws for attributes that cannot be set
+            standing.push_back({found, node, &step});
         }
         node = found;
     }
+    std::for_each(standing.begin(), standing.end(), [this](const Standing& each) { SetAttributes(each); });
 }
 
 /// The element that a step means although it has other attributes.
@@ -70,18 +77,16 @@ NodeRef PathMaker::FindStanding(NodeRef parent, const PathStep& step, bool isHea
     return isHead && root != NodeRef::None && m_tree.Name(root) == step.name ? root : NodeRef::None;
 }
 
-void PathMaker::SetAttributes(NodeRef element, const Steps& steps, std::size_t at) {
-    for (std::size_t later = at; later < steps.size(); ++later) {
-        NewElementFor(steps[later]); // throws before anything is changed
+void PathMaker::SetAttributes(const Standing& standing) {
+    for (const PathCondition& condition : standing.step->conditions) {
+        SetAttribute(*DomTree::Node(standing.element), *m_tree.Document(), condition.attribute, condition.value);
     }
-    for (const PathCondition& condition : steps[at].conditions) {
-        SetAttribute(*DomTree::Node(element), *m_tree.Document(), condition.attribute, condition.value);
-    }
+    m_index.ForgetAttributes(standing.parent);
 }
 
-/// Appends the steps from `at` on, each below the one before. They are built from the innermost out and hung last:
-/// appending looks at every ancestor, and what fails on the way leaves nothing behind.
-void PathMaker::Hang(NodeRef parent, const Steps& steps, std::size_t at, bool isHead) {
+/// The steps from `at` on, each below the one before, of which the first is still to be hung. They are built from the
+/// innermost out, as appending looks at every ancestor.
+std::vector<DOMNode*> PathMaker::Build(NodeRef parent, const Steps& steps, std::size_t at, bool isHead) {
     std::vector<DOMNode*> made;
     for (std::size_t next = steps.size(); next-- > at;) {
         const std::vector<DOMNode*> inner = std::exchange(made, {});
@@ -91,10 +96,14 @@ void PathMaker::Hang(NodeRef parent, const Steps& steps, std::size_t at, bool is
         made.push_back(NewElementFor(steps[next]));
         AppendAll(*made.back(), inner);
     }
-    const NodeRef root = m_tree.Root();
-    if (isHead && root == NodeRef::None && made.size() > 1) {
+    if (isHead && m_tree.Root() == NodeRef::None && made.size() > 1) {
         throw std::runtime_error("a document has one root");
     }
+    return made;
+}
+
+void PathMaker::Hang(NodeRef parent, bool isHead, const std::vector<DOMNode*>& made) {
+    const NodeRef root = m_tree.Root();
     DOMNode* const hook = !isHead                 ? DomTree::Node(parent)
                           : root == NodeRef::None ? m_tree.Document()
                                                   : DomTree::Node(root);

@@ -21,9 +21,17 @@ public:
 private:
     using Steps = std::vector<PathStep>;
 
+    /// An element that stands and is to get the attributes of its step.
+    struct Standing {
+        NodeRef element = NodeRef::None;
+        NodeRef parent = NodeRef::None;
+        const PathStep* step = nullptr;
+    };
+
     NodeRef FindStanding(NodeRef parent, const PathStep& step, bool isHead);
-    void SetAttributes(NodeRef element, const Steps& steps, std::size_t at);
-    void Hang(NodeRef parent, const Steps& steps, std::size_t at, bool isHead);
+    void SetAttributes(const Standing& standing);
+    std::vector<xercesc::DOMNode*> Build(NodeRef parent, const Steps& steps, std::size_t at, bool isHead);
+    void Hang(NodeRef parent, bool isHead, const std::vector<xercesc::DOMNode*>& made);
     std::size_t CountMissing(NodeRef parent, const PathStep& step, bool isHead, bool parentIsNew);
     xercesc::DOMNode* NewElementFor(const PathStep& step);
 
