@@ -238,6 +238,14 @@ TEST(XPath, RefusesWhatIsNoneOrTooMuch) {
         {"a" + Repeat("/.", 501), "500 steps"},
         {"a[" + Repeat("-", 4000) + "1]", "500 steps"},
         {"document('/etc/passwd')", "XPath"},
+        {"//a[" + std::string(31, '8') + "]", "30 digits"},
+        {"//a[@k=concat('', '1', " + std::string(15, '8') + "." + std::string(15, '8') + ")]", "30 digits"},
+        {"//a[string(number('1" + std::string(120, '0') + "'))]", "calculated"},
+        {"//a[string-length((1)*(2))]", "calculated"},
+        {"//a[contains('', - @k)]", "calculated"},
+        {"//a[substring((1 div 2), 1)]", "calculated"},
+        {"//a[concat('', 'a',\n@k mod 2)]", "calculated"},
+        {"//a[starts-with (sum(//a), '')]", "calculated"},
     };
     testing::internal::CaptureStderr();
     for (const auto& [expression, expected] : cases) {
@@ -253,6 +261,14 @@ TEST(XPath, RefusesWhatIsNoneOrTooMuch) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
     // Brackets in a quoted text do not nest.
     EXPECT_EQ(EvaluateXPath(*tree, tree->Root(), "//a[.='" + Repeat("(", 200) + "']"), NodeRef::None);
+    // What is calculated and stays a number, and what only looks as if it were calculated.
+    for (const char* const expression : {"//a[string-length(substring(name(), string-length('ab') - 1)) = 1]",
+                                         "//a[number(concat('1', '0')) * 2 = 20]", "//a[not(string(self::*[1 + 1]))]",
+                                         "//a[string(count(//*)) = '2']", "//a[string(../*[* or last() - 1 = 0]) = '']",
+                                         "//a[string(100000000000000000000) != 888888888888888888888888888888]",
+                                         "//a[name(//div | //a) = 'a' and 3 mod 2]"}) {
+        EXPECT_EQ(EvaluateXPath(*tree, tree->Root(), expression), tree->FirstChild(tree->Root())) << expression;
+    }
     // What just passes.
     EXPECT_EQ(EvaluateXPath(*tree, tree->Root(), "a" + Repeat("/.", 500)), tree->FirstChild(tree->Root()));
     EXPECT_EQ(EvaluateXPath(*tree, tree->Root(), "a['" + Repeat("/", 4000) + "']"), tree->FirstChild(tree->Root()));

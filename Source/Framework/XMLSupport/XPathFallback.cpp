@@ -7,6 +7,7 @@
 #include "Framework/XMLSupport/PathError.h"
 #include "Framework/XMLSupport/ThreadTime.h"
 #include "Framework/XMLSupport/Utf.h"
+#include "Framework/XMLSupport/XPathCheck.h"
 #include "Framework/XMLSupport/XPathMemory.h"
 #include "Framework/XMLSupport/XmlMemory.h"
 #include "Framework/XMLSupport/XmlRuntime.h"
@@ -37,42 +38,10 @@ namespace xalan = XALAN_CPP_NAMESPACE;
 
 namespace {
 
-constexpr std::size_t kLongestExpression = 4096;
-constexpr int kDeepestBrackets = 100;
-constexpr int kMostOperators = 500;
-
 [[noreturn]] void Refuse(std::string_view expression, const std::string& what) {
     constexpr std::size_t kShown = 200;
     std::string shown(expression.substr(0, kShown));
     throw PathError("XPath \"" + shown + (expression.size() > kShown ? "...\": " : "\": ") + what);
-}
-
-void CheckExpression(std::string_view expression) {
-    if (expression.size() > kLongestExpression) {
-        Refuse(expression, "longer than " + std::to_string(kLongestExpression) + " bytes");
-    }
-    if (!IsXmlText(expression)) {
-        Refuse(expression, "not a text in UTF-8");
-    }
-    int depth = 0;
-    int operators = 0;
-    for (std::size_t at = 0; at < expression.size(); ++at) {
-        const char c = expression[at];
-        if (c == '\'' || c == '"') {
-            at = expression.find(c, at + 1);
-            if (at == std::string_view::npos) {
-                Refuse(expression, "a quoted text without end");
-            }
-        } else if (c == '(' || c == '[') {
-            if (++depth > kDeepestBrackets) {
-                Refuse(expression, "brackets nested deeper than " + std::to_string(kDeepestBrackets));
-            }
-        } else if (c == ')' || c == ']') {
-            --depth;
-        } else if (std::string_view("/|+-*=!<>").find(c) != std::string_view::npos && ++operators > kMostOperators) {
-            Refuse(expression, "more than " + std::to_string(kMostOperators) + " steps and operators");
-        }
-    }
 }
 
 std::string ToUtf8(const xalan::XalanDOMString& message) {
@@ -81,12 +50,7 @@ std::string ToUtf8(const xalan::XalanDOMString& message) {
     return text;
 }
 
-/// What Xalan finds wrong. The stock contexts print it on standard error, which is the host's.
-class XPathProblem : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
+/// Throws what Xalan finds wrong. The stock contexts print it on standard error, which is the host's.
 template <class Base> class QuietContext : public Base {
 public:
     using Source = typename Base::eSource;
@@ -214,8 +178,8 @@ std::string Shortened(std::string message) {
 } // namespace
 
 NodeRef EvaluateXPath(const XmlTree& tree, NodeRef context, std::string_view expression) {
-    CheckExpression(expression);
     try {
+        CheckXPath(expression);
         EnsureXPathRuntime();
     } catch (const std::runtime_error& failure) {
         Refuse(expression, failure.what());

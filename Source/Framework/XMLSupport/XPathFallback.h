@@ -10,10 +10,8 @@ namespace Framework {
 /// nothing.
 ///
 /// Throws PathError naming the expression when it is malformed, does not select nodes, or names a variable or
-/// a prefix: neither is known here, ask for `*[name()='p:q']`. Also when it is longer than 4 KB, nests brackets deeper
-/// than 100 or has more than 500 steps and operators: Xalan recurses on those, and 256 KB of stack are enough for
-/// these. And when it takes more processor time than LoadLimits::cpuSeconds. Element and attribute names are compared
-/// without their prefix.
+/// a prefix: neither is known here, ask for `*[name()='p:q']`. Also when CheckXPath refuses it, or it takes more
+/// processor time than LoadLimits::cpuSeconds. Element and attribute names are compared without their prefix.
 ///
 /// For what the path language cannot say, not for every lookup. Paths with predicates take linear time; unions of large
 /// sets and many `//` in a row take what Xalan needs for them.
