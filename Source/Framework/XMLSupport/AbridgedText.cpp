@@ -15,7 +15,7 @@ constexpr std::size_t kLongestReference = 12; // &#x0010FFFF;
 
 // The bytes of longer characters count as controls here.
 constexpr auto isNotPlainInText = [](auto byte) {
-    return (byte < ' ' && byte != '\n' && byte != '\t') || (byte | 2) == '>' || byte == '&' || byte == ']';
+    return (byte < ' ' && !(byte == '\n' || byte == '\t')) || (byte | 2) == '>' || byte == '&' || byte == ']';
 };
 // A line end or a tab reads as a blank.
 constexpr auto isNotPlainInValue = [](auto byte) {
@@ -111,8 +111,10 @@ std::size_t AbridgedText::Behind(std::string_view delimiter, std::size_t from) c
 std::size_t AbridgedText::BehindSpecial(std::size_t at) const {
     if (m_text[at] == '&') {
         const std::string_view reference = m_text.substr(at, kLongestReference);
-        const std::size_t end = std::min(reference.find_first_of(";<", 1), reference.size());
-        return at + end + (end < reference.size() && reference[end] == ';' ? 1 : 0);
+        const auto isEnd = [](char c) { return c == ';' || c == '<'; };
+        const auto* const end = std::find_if(reference.begin() + 1, reference.end(), isEnd);
+        at += static_cast<std::size_t>(end - reference.begin());
+        return end != reference.end() && *end == ';' ? at + 1 : at;
     }
     ++at;
     while (at < m_text.size() && Number(m_text[at]) < 0) {

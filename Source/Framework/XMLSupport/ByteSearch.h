@@ -19,6 +19,20 @@ inline signed char Number(char byte) {
     return static_cast<signed char>(byte);
 }
 
+/// Whether all is ASCII and well formed characters of two bytes, which is told sooner than IsDoubtful tells of any. The
+/// last byte may lead one. Looks at two bytes in front.
+inline bool HasPairsOnly(const char* at) {
+    constexpr auto number = [](unsigned byte) { return static_cast<signed char>(byte); };
+    const Bytes byte(at, simd::element_aligned);
+    const Bytes before(at - 1, simd::element_aligned);
+    const auto mustFollow = before > number(0xBF) && before < 0;
+    const auto follows = byte < number(0xC0);
+    const auto isOther = byte >= number(0xE0) && byte < 0;
+    const auto isOverlong = (byte | 1) == number(0xC1);
+    return simd::none_of((follows != mustFollow) | isOther | isOverlong) & (static_cast<unsigned char>(at[-1]) < 0xE0) &
+           (static_cast<unsigned char>(at[-2]) < 0xE0);
+}
+
 /// Where a longer character is not well formed, or is one that has to be looked at: those of four bytes are, and what
 /// begins with EF BF, which may not be allowed. Looks at two bytes in front.
 inline Bytes::mask_type IsDoubtful(const char* at) {
@@ -47,6 +61,15 @@ inline std::size_t BeforeBroken(std::string_view text, std::size_t at) {
     return BehindLongCharacters(text.substr(0, at), begin) == at ? at : begin;
 }
 
+/// Whether no byte of the blocks, and not the one in front of them, is of a longer character.
+inline bool IsAscii(const char* at, std::size_t blocks) {
+    Bytes all = 0;
+    for (std::size_t i = 0; i < blocks; ++i) {
+        all |= Bytes(at + i * Bytes::size(), simd::element_aligned);
+    }
+    return Number(at[-1]) >= 0 && simd::none_of(all < 0);
+}
+
 enum class Characters { Any, WellFormed };
 
 /// The first byte at or behind `at` that is of the kind, or where characters are to be well formed and that is in
@@ -58,13 +81,25 @@ template <Characters characters, typename Kind> std::size_t Find(std::string_vie
             return at;
         }
     }
+    // Of some blocks at once, as whether one alone has longer characters is different from each to the next, and the
+    // processor would guess wrong.
+    constexpr std::size_t blocksAtOnce = 4;
+    std::size_t asked = 0;
+    bool isAscii = true;
     for (; text.size() - at >= Bytes::size(); at += Bytes::size()) {
         const char* const here = text.data() + at;
-        const Bytes bytes(here, simd::element_aligned);
-        auto found = isOfKind(bytes);
+        auto found = isOfKind(Bytes(here, simd::element_aligned));
         if constexpr (characters == Characters::WellFormed) {
-            if (Number(here[-1]) < 0 || simd::any_of(bytes < 0)) {
-                found = (found && bytes >= 0) || IsDoubtful(here);
+            if (at >= asked) {
+                const std::size_t blocks = std::min((text.size() - at) / Bytes::size(), blocksAtOnce);
+                isAscii = IsAscii(here, blocks);
+                asked = at + blocks * Bytes::size();
+            }
+            if (!isAscii) {
+                found = found && Bytes(here, simd::element_aligned) > Number('\xFF');
+                if (!HasPairsOnly(here)) {
+                    found = found || IsDoubtful(here);
+                }
             }
         }
         if (simd::any_of(found)) {

@@ -92,12 +92,12 @@ void DocumentBuilder::Text(std::string_view piece, ByteRange range) {
     const bool verbatim = piece.size() == range.Size() && (piece.size() != 1 || piece.front() == text[range.begin]);
     if (!verbatim && !m_run.inPool) {
         const std::size_t poolBegin = m_data.pool.size();
-        m_data.pool.append(text, m_run.valueBegin, range.begin - m_run.valueBegin);
+        AddToPool(std::string_view(text).substr(m_run.valueBegin, range.begin - m_run.valueBegin), range.begin);
         m_run.valueBegin = static_cast<std::uint32_t>(poolBegin);
         m_run.inPool = true;
     }
     if (m_run.inPool) {
-        m_data.pool.append(piece);
+        AddToPool(piece, range.begin);
     }
     m_run.end = range.end;
 }
@@ -146,8 +146,19 @@ void DocumentBuilder::SetValue(NodeRecord& record, std::string_view value, ByteR
     record.leaf.valueBegin = inPool ? static_cast<std::uint32_t>(m_data.pool.size()) : raw.begin;
     record.leaf.valueLength = (inPool ? value.size() : written.size()) & NodeRecord::kLengthMask;
     if (inPool) {
-        m_data.pool.append(value);
+        AddToPool(value, raw.begin);
     }
+}
+
+/// Takes room by what has been read, as MakeRoom does. No text is longer than it is written.
+void DocumentBuilder::AddToPool(std::string_view text, std::size_t consumed) {
+    std::string& pool = m_data.pool;
+    const std::size_t size = pool.size() + text.size();
+    if (size > pool.capacity()) {
+        const auto expected = static_cast<std::size_t>(static_cast<double>(size) * ShareOf(consumed));
+        pool.reserve(std::max(std::min(expected, m_data.source.text.size()), size + size / 2));
+    }
+    pool.append(text);
 }
 
 std::uint32_t DocumentBuilder::Add(NodeKind kind, ByteRange range) {
@@ -187,8 +198,7 @@ std::uint32_t DocumentBuilder::AddChild(NodeKind kind, ByteRange range) {
 // what is left is kept for the rest. Growing by half at least keeps the whole linear whatever the document does.
 void DocumentBuilder::MakeRoom(std::size_t consumed) {
     const std::size_t count = m_data.nodes.size();
-    const double share = static_cast<double>(m_data.source.text.size()) / static_cast<double>(consumed + 1);
-    const auto expected = static_cast<std::size_t>(static_cast<double>(count) * share * kSurplus);
+    const auto expected = static_cast<std::size_t>(static_cast<double>(count) * ShareOf(consumed));
     const std::size_t least = count + count / 2 + 16;
     const std::size_t used = MemoryOf(m_data);
     const std::size_t most = (m_limits.memory - std::min(used, m_limits.memory)) / sizeof(NodeRecord);
@@ -196,6 +206,11 @@ void DocumentBuilder::MakeRoom(std::size_t consumed) {
         throw ErrorAt(m_data, consumed, MemoryPassed(m_limits));
     }
     m_data.nodes.reserve(std::clamp(expected, least, std::max(least, most / 2)));
+}
+
+/// How many times as much as now there will be at the end of the document.
+double DocumentBuilder::ShareOf(std::size_t consumed) const {
+    return static_cast<double>(m_data.source.text.size()) / static_cast<double>(consumed + 1) * kSurplus;
 }
 
 std::uint32_t DocumentBuilder::SkipBlanks(std::uint32_t at) const {

@@ -46,7 +46,9 @@ private:
     void CloseChildren();
     void SetValue(NodeRecord& record, std::string_view value, ByteRange raw);
     void FlushRun();
+    void AddToPool(std::string_view text, std::size_t consumed);
     void MakeRoom(std::size_t consumed);
+    double ShareOf(std::size_t consumed) const;
     std::uint32_t SkipBlanks(std::uint32_t at) const;
 
     DocumentData& m_data;
