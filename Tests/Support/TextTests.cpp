@@ -1,7 +1,9 @@
+#include <algorithm>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -126,12 +128,24 @@ void ForEveryOffset(const auto& check) {
     }
 }
 
+/// In room of just the size that is asked for.
+void ExpectCopied(std::string_view text) {
+    const std::size_t allowed = std::min(Framework::FindNonXmlText(text), text.size());
+    std::vector<XMLCh> room(text.size());
+    const Framework::Utf16Copy copied = Framework::CopyXmlUtf16(text, room.data());
+    EXPECT_EQ(copied.bytes, allowed);
+    EXPECT_TRUE(std::u16string(room.data(), copied.units) == Framework::ToUtf16(text.substr(0, allowed)));
+}
+
 /// In texts that are long enough to be looked through in blocks.
 void ExpectNoXmlIn(const std::string& before, std::string_view bad) {
     const std::string accented = "\xC3\xA9" + before;
     const std::string filling(100, 'x');
     EXPECT_EQ(Framework::FindNonXmlText(accented + std::string(bad) + filling), accented.size());
     EXPECT_EQ(Framework::FindNonXmlText(accented + filling + std::string(bad)), accented.size() + filling.size());
+    ExpectCopied(accented + std::string(bad) + filling);
+    ExpectCopied(accented + filling + std::string(bad));
+    ExpectCopied(before + "\xF0\x9F\x98\x80\t" + accented);
 }
 
 TEST(Utf, RefusesWhatIsNotUtf8) {
@@ -182,12 +196,17 @@ TEST(Utf, EveryCharacterConvertsThereAndBack) {
     EXPECT_EQ(Framework::FindNonXmlText(std::string_view(text).substr(0x1F)), text.find("\xEF\xBF\xBE") - 0x1F);
     EXPECT_EQ(Framework::CountCodePoints(text), count);
     EXPECT_TRUE(Framework::ToUtf16(text) == all);
+    ExpectCopied(std::string_view(text).substr(0x1F));
+    ExpectCopied(std::string_view(text).substr(text.find("\xEF\xBF\xBF") + 3));
     EXPECT_TRUE(Framework::ToUtf16("plain ASCII, \xE2\x82\xAC, \xF0\x9F\x98\x80") ==
                 u"plain ASCII, \u20AC, \U0001F600");
 
     const char16_t lone[] = {'a', 0xD800, 'b', 0xDC00, 0xDC00, 0xD83D, 0xDE00, 0xD83D, 0};
-    EXPECT_EQ(zelString(lone), "a\xEF\xBF\xBD"
-                               "b\xEF\xBF\xBD\xEF\xBF\xBD\xF0\x9F\x98\x80\xEF\xBF\xBD");
+    ForEveryOffset([&lone](const std::string& before, std::size_t offset) {
+        EXPECT_EQ(zelString((std::u16string(offset, u'a') + lone).c_str()),
+                  before + "a\xEF\xBF\xBD"
+                           "b\xEF\xBF\xBD\xEF\xBF\xBD\xF0\x9F\x98\x80\xEF\xBF\xBD");
+    });
 }
 
 TEST(Utf, WideBufferIsUtf16OrRefused) {

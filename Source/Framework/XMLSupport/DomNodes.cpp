@@ -1,5 +1,6 @@
 #include "Framework/XMLSupport/DomNodes.h"
 
+#include <memory>
 #include <stdexcept>
 
 #include <xercesc/dom/DOM.hpp>
@@ -18,33 +19,35 @@ const XMLCh* Units(const std::u16string& text) {
 }
 
 /// A text for the DOM; refused when XML has no place for it, by the name of its element, or attribute with an '@'. What
-/// is short and of printable ASCII alone, nearly everything, takes no memory.
+/// is short, nearly everything, takes no memory.
 class DomText {
 public:
     DomText(std::string_view name, std::string_view text, const char* sign = "") {
-        if (text.size() < kShort && CopyPrintableAscii(text, m_short)) {
-            m_short[text.size()] = 0;
+        XMLCh* units = m_short;
+        if (text.size() >= kShort) {
+            m_long = std::make_unique_for_overwrite<XMLCh[]>(text.size() + 1);
+            units = m_long.get();
+        } else if (CopyPrintableAscii(text, units)) {
+            units[text.size()] = 0;
             return;
         }
-        const std::size_t bad = FindNonXmlText(text);
-        if (bad != std::string_view::npos) {
+        const Utf16Copy copied = CopyXmlUtf16(text, units);
+        if (copied.bytes != text.size()) {
             throw std::invalid_argument("the text of " + (sign + std::string(name)) + " cannot stand in XML: byte " +
-                                        std::to_string(bad + 1) + " is a forbidden character or no UTF-8");
+                                        std::to_string(copied.bytes + 1) + " is a forbidden character or no UTF-8");
         }
-        m_long = ToUtf16(text);
-        m_units = Units(m_long);
+        units[copied.units] = 0;
     }
     DomText(const DomText&) = delete;
     DomText& operator=(const DomText&) = delete;
 
-    const XMLCh* Get() const { return m_units; }
+    const XMLCh* Get() const { return m_long != nullptr ? m_long.get() : m_short; }
 
 private:
     static constexpr std::size_t kShort = 128;
 
     XMLCh m_short[kShort];
-    std::u16string m_long;
-    const XMLCh* m_units = m_short;
+    std::unique_ptr<XMLCh[]> m_long;
 };
 
 void MakeAttribute(DOMNode& element, DOMDocument& document, std::string_view name, const DomText& unitsOfName,

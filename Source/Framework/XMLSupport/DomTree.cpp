@@ -53,6 +53,12 @@ bool IsAttribute(const DOMNode* node) {
     return node->getNodeType() == DOMNode::ATTRIBUTE_NODE;
 }
 
+/// It knows how long its value is.
+bool HasLength(const DOMNode* node) {
+    const auto type = node->getNodeType();
+    return type == DOMNode::TEXT_NODE || type == DOMNode::CDATA_SECTION_NODE || type == DOMNode::COMMENT_NODE;
+}
+
 bool HasChildren(const DOMNode* node) {
     return node->getNodeType() == DOMNode::ELEMENT_NODE || node->getNodeType() == DOMNode::DOCUMENT_NODE;
 }
@@ -220,7 +226,9 @@ std::string_view DomTree::Value(NodeRef node, std::string& room) const {
     const XMLCh* const value =
         IsAttribute(dom) ? ValueOf(static_cast<const xercesc::DOMAttr&>(*dom)) : dom->getNodeValue();
     if (value != nullptr) {
-        AppendUtf8(room, value, xercesc::XMLString::stringLen(value));
+        AppendUtf8(room, value,
+                   HasLength(dom) ? static_cast<const xercesc::DOMCharacterData*>(dom)->getLength()
+                                  : xercesc::XMLString::stringLen(value));
     }
     return room;
 }

@@ -38,17 +38,6 @@ const char* BehindAscii(const char* p, const char* end) noexcept {
     return std::find_if(SkipAscii(p, end), end, [](char c) { return (static_cast<unsigned char>(c) & 0x80U) != 0; });
 }
 
-/// End of such a run of UTF-16, short of it by less than a word.
-const XMLCh* SkipAscii(const XMLCh* p, const XMLCh* end) noexcept {
-    constexpr std::ptrdiff_t unitsInWord = WordSize / sizeof(XMLCh);
-    constexpr std::uint64_t beyondAscii = 0xFF80FF80FF80FF80U;
-    std::uint64_t word = 0;
-    while (end - p >= unitsInWord && (std::memcpy(&word, p, WordSize), (word & beyondAscii) == 0)) {
-        p += unitsInWord;
-    }
-    return p;
-}
-
 /// The same for printable ASCII. Subtracting sets a byte's high bit when the byte, or a borrow from one below it, is
 /// less than a blank: it may stop early, never late.
 const char* SkipPrintableAscii(const char* p, const char* end) noexcept {
@@ -95,24 +84,64 @@ bool IsXmlCharacter(char32_t character) noexcept {
     return character != 0xFFFE && character != 0xFFFF;
 }
 
-void AppendCharacter(std::string& text, char32_t character) {
-    const auto append = [&text](char32_t byte) { text.push_back(static_cast<char>(byte)); };
+/// A character of two bytes, which most of those beyond ASCII are.
+bool IsPair(const char* p) noexcept {
+    return static_cast<unsigned char>(p[0] - '\xC2') <= 0xDF - 0xC2 && Number(p[1]) < Number('\xC0');
+}
+
+XMLCh* PutUnits(XMLCh* out, char32_t character) noexcept {
+    if (character < 0x10000) {
+        *out++ = static_cast<XMLCh>(character);
+        return out;
+    }
+    const char32_t offset = character - 0x10000;
+    *out++ = static_cast<XMLCh>(0xD800 + (offset >> 10));
+    *out++ = static_cast<XMLCh>(0xDC00 + (offset & 0x3FF));
+    return out;
+}
+
+char* PutBytes(char* out, char32_t character) noexcept {
+    const auto put = [&out](char32_t byte) { *out++ = static_cast<char>(byte); };
     if (character < 0x80) {
-        append(character);
-        return;
+        put(character);
+        return out;
     }
     if (character < 0x800) {
-        append(0xC0 | (character >> 6));
+        put(0xC0 | (character >> 6));
     } else {
         if (character < 0x10000) {
-            append(0xE0 | (character >> 12));
+            put(0xE0 | (character >> 12));
         } else {
-            append(0xF0 | (character >> 18));
-            append(0x80 | ((character >> 12) & 0x3F));
+            put(0xF0 | (character >> 18));
+            put(0x80 | ((character >> 12) & 0x3F));
         }
-        append(0x80 | ((character >> 6) & 0x3F));
+        put(0x80 | ((character >> 6) & 0x3F));
     }
-    append(0x80 | (character & 0x3F));
+    put(0x80 | (character & 0x3F));
+    return out;
+}
+
+constexpr std::size_t kBlock = Bytes::size();
+
+template <typename Number> using Block = simd::fixed_size_simd<Number, kBlock>;
+
+/// How many stand before the first that is marked.
+template <typename Mask> std::size_t CountBefore(const Mask& marks) noexcept {
+    return simd::none_of(marks) ? kBlock : static_cast<std::size_t>(simd::find_first_set(marks));
+}
+
+/// Copies a block whatever it holds, and says how much of its beginning is printable ASCII.
+std::size_t CopyBlock(const char* from, XMLCh* out) noexcept {
+    const Block<unsigned char> bytes(from, simd::element_aligned);
+    simd::static_simd_cast<Block<XMLCh>>(bytes).copy_to(out, simd::element_aligned);
+    return CountBefore(Bytes(from, simd::element_aligned) < Number(' ')); // the bytes of longer characters are too
+}
+
+/// The same the other way, for ASCII.
+std::size_t CopyBlock(const XMLCh* from, char* out) noexcept {
+    const Block<XMLCh> units(from, simd::element_aligned);
+    simd::static_simd_cast<Block<char>>(units).copy_to(out, simd::element_aligned);
+    return CountBefore(units > XMLCh{0x7F});
 }
 
 } // namespace
@@ -150,7 +179,7 @@ std::size_t FindNonXmlText(std::string_view text) noexcept {
         const auto at = static_cast<std::size_t>(p - text.data());
         if (text.size() - at >= kLongText) {
             const std::size_t stop = EndOfPlain(
-                text, at, [](auto byte) { return byte < ' ' && byte != '\t' && byte != '\n' && byte != '\r'; });
+                text, at, [](auto byte) { return byte < ' ' && !(byte == '\t' || byte == '\n' || byte == '\r'); });
             return stop == text.size() ? std::string_view::npos : stop;
         }
         const Decoded decoded = Decode(p, end);
@@ -184,6 +213,36 @@ std::size_t Utf16Length(std::string_view text) {
     return units;
 }
 
+Utf16Copy CopyXmlUtf16(std::string_view text, XMLCh* out) noexcept {
+    const char* p = text.data();
+    const char* const end = p + text.size();
+    XMLCh* const start = out;
+    while (p != end) {
+        if (static_cast<std::size_t>(end - p) >= kBlock) {
+            const std::size_t copied = CopyBlock(p, out);
+            p += copied;
+            out += copied;
+            if (copied == kBlock) {
+                continue;
+            }
+        }
+        do { // longer characters mostly stand together, or alone
+            if (end - p > 1 && IsPair(p)) {
+                *out++ = static_cast<XMLCh>(((p[0] & 0x1F) << 6) | (p[1] & 0x3F));
+                p += 2;
+                continue;
+            }
+            const Decoded decoded = Decode(p, end);
+            if (decoded.length == 0 || !IsXmlCharacter(decoded.character)) {
+                return {static_cast<std::size_t>(p - text.data()), static_cast<std::size_t>(out - start)};
+            }
+            out = PutUnits(out, decoded.character);
+            p += decoded.length;
+        } while (p != end && static_cast<unsigned char>(*p) >= 0x80);
+    }
+    return {text.size(), static_cast<std::size_t>(out - start)};
+}
+
 void CopyUtf16(std::string_view text, XMLCh* out) noexcept {
     const char* p = text.data();
     const char* const end = p + text.size();
@@ -195,13 +254,7 @@ void CopyUtf16(std::string_view text, XMLCh* out) noexcept {
             break;
         }
         const Decoded decoded = Decode(p, end);
-        if (decoded.length == 4) {
-            const char32_t offset = decoded.character - 0x10000;
-            *out++ = static_cast<XMLCh>(0xD800 + (offset >> 10));
-            *out++ = static_cast<XMLCh>(0xDC00 + (offset & 0x3FF));
-        } else {
-            *out++ = static_cast<XMLCh>(decoded.character);
-        }
+        out = PutUnits(out, decoded.character);
         p += decoded.length;
     }
 }
@@ -233,29 +286,32 @@ std::u16string ToUtf16(std::string_view text) {
 }
 
 void AppendUtf8(std::string& text, const XMLCh* pUnits, std::size_t length) {
+    constexpr std::size_t kMostBytes = 4; // of a character
+    char room[1024];
     const auto isHigh = [](XMLCh unit) { return (unit & 0xFC00) == 0xD800; };
     const auto isLow = [](XMLCh unit) { return (unit & 0xFC00) == 0xDC00; };
-    const XMLCh* const end = pUnits + length;
-    for (std::size_t i = 0; i < length; ++i) {
-        const XMLCh unit = pUnits[i];
-        char32_t character = unit;
-        if (unit < 0x80) { // nearly always, and then a whole run of it
-            const XMLCh* const start = pUnits + i;
-            const XMLCh* const behind =
-                std::find_if(SkipAscii(start, end), end, [](XMLCh next) { return next >= 0x80; });
-            const std::size_t before = text.size();
-            text.resize(before + static_cast<std::size_t>(behind - start));
-            std::transform(start, behind, text.data() + before, [](XMLCh next) { return static_cast<char>(next); });
-            i = static_cast<std::size_t>(behind - pUnits) - 1;
-            continue;
+    const XMLCh* p = pUnits;
+    const XMLCh* const end = p + length;
+    while (p != end) {
+        char* out = room;
+        while (p != end && out <= std::end(room) - kBlock - kMostBytes) {
+            if (static_cast<std::size_t>(end - p) >= kBlock) {
+                const std::size_t copied = CopyBlock(p, out);
+                p += copied;
+                out += copied;
+                if (copied == kBlock) {
+                    continue;
+                }
+            }
+            char32_t character = *p++;
+            if (isHigh(static_cast<XMLCh>(character)) && p != end && isLow(*p)) {
+                character = 0x10000 + ((character & 0x3FF) << 10) + (char32_t{*p++} & 0x3FF);
+            } else if (character >= 0xD800 && character <= 0xDFFF) {
+                character = 0xFFFD;
+            }
+            out = PutBytes(out, character);
         }
-        if (isHigh(unit) && i + 1 < length && isLow(pUnits[i + 1])) {
-            ++i;
-            character = 0x10000 + ((char32_t{unit} & 0x3FF) << 10) + (char32_t{pUnits[i]} & 0x3FF);
-        } else if (isHigh(unit) || isLow(unit)) {
-            character = 0xFFFD;
-        }
-        AppendCharacter(text, character);
+        text.append(room, out);
     }
 }
 

@@ -30,6 +30,16 @@ std::size_t Utf16Length(std::string_view text);
 /// Writes the units that Utf16Length counted, without a closing zero. The text must be well formed.
 void CopyUtf16(std::string_view text, XMLCh* out) noexcept;
 
+/// How far a text was turned into UTF-16.
+struct Utf16Copy {
+    std::size_t bytes; ///< of the text
+    std::size_t units; ///< that they gave
+};
+
+/// Checks and turns a text at once, up to the first malformed sequence or character that XML 1.0 does not allow. Needs
+/// room for as many units as the text has bytes, writes over all of it, and no closing zero.
+Utf16Copy CopyXmlUtf16(std::string_view text, XMLCh* out) noexcept;
+
 /// Writes a text that is of printable ASCII alone, without a closing zero. False, and nothing of use written, for any
 /// other.
 bool CopyPrintableAscii(std::string_view text, XMLCh* out) noexcept;
