@@ -89,12 +89,22 @@ void WriteAddedOperations(CodeText& code, const Container& container) {
     code.Line();
 }
 
+/// The small ones first: they come to stand in what the base leaves free, and close to each other.
+int RankOf(const Member& member) {
+    return member.type == "bool" ? 0 : member.type == "int" ? 1 : 2;
+}
+
 void WriteMembers(CodeText& code, const Container& container) {
-    code.Line("bool m_bAutoFillTypeInfo = false;");
+    std::vector<Member> members;
     for (const Field& field : container.fields) {
-        for (const Member& member : Members(field)) {
-            code.Line(member.type + " " + member.name + member.initializer + ";");
-        }
+        const std::vector<Member> ofField = Members(field);
+        members.insert(members.end(), ofField.begin(), ofField.end());
+    }
+    std::stable_sort(members.begin(), members.end(),
+                     [](const Member& a, const Member& b) { return RankOf(a) < RankOf(b); });
+    code.Line("bool m_bAutoFillTypeInfo = false;");
+    for (const Member& member : members) {
+        code.Line(member.type + " " + member.name + member.initializer + ";");
     }
     code.Line();
     code.Line("static const Framework::FieldTable s_Table;");

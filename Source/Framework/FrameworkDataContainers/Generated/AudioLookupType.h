@@ -64,13 +64,13 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_AllowAbort = true;
+    bool m_AllowQueueing = false;
     AudioPathSearchOrderType* m_PathSearchOrder = nullptr;
     zelString m_FileName;
     std::vector<TypedDataContainer*> m_FunctionList;
     std::vector<TypedDataContainer*> m_ExpandPhraseList;
     AudioPriorityEnum m_Priority{0};
-    bool m_AllowAbort = true;
-    bool m_AllowQueueing = false;
     zelString m_key;
 
     static const Framework::FieldTable s_Table;

@@ -57,13 +57,13 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_AddTrace = false;
+    bool m_ShowErrorMessageBox = false;
     zelString m_IsKindOf;
     zelString m_IsExactKindOf;
     zelString m_SubSystem;
     zelString m_UniqueName;
     std::vector<TypedDataEnumeration*> m_CaptureLevelList;
-    bool m_AddTrace = false;
-    bool m_ShowErrorMessageBox = false;
     zelString m_Output;
 
     static const Framework::FieldTable s_Table;

@@ -59,11 +59,11 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_ExtractOnErrorOptional = false;
     int m_WriteBufferSize = 100;
     int m_FlushTimerDelay = 3000;
     int m_MaxTransactions = 100;
     int m_DuplicateExtractTimeout = 60000;
-    bool m_ExtractOnErrorOptional = false;
     zelString m_AlternateCaptureFileName;
     CaptureHandlerType* m_CaptureHandler = nullptr;
     FilesListType* m_Files = nullptr;

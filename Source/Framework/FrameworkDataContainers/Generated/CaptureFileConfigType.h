@@ -51,12 +51,12 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
-    zelString m_Name;
-    zelString m_Output;
+    bool m_XmlOutputFormat = true;
     int m_MaxLines = 10000;
     int m_MaxFilesPerTransaction = 100;
     int m_TransactionsOnDisk = 5;
-    bool m_XmlOutputFormat = true;
+    zelString m_Name;
+    zelString m_Output;
     zelString m_RootElement{"CaptureDoc"};
 
     static const Framework::FieldTable s_Table;

@@ -60,16 +60,16 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    int m_Port = 0;
+    int m_NumConnections = 0;
+    int m_MaxBufferSize = 16384;
     zelString m_CommHandlerFactoryName;
     zelString m_CommHandlerFactoryMethod;
     CommModeType m_Mode{0};
     zelString m_FileName;
     zelString m_HostName;
-    int m_Port = 0;
-    int m_NumConnections = 0;
     SerialParametersType* m_SerialParameters = nullptr;
     zelString m_DeviceDescList;
-    int m_MaxBufferSize = 16384;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;

@@ -45,8 +45,8 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
-    ViewListType* m_ViewList = nullptr;
     bool m_ForceSaveRules = true;
+    ViewListType* m_ViewList = nullptr;
     zelString m_Level;
 
     static const Framework::FieldTable s_Table;

@@ -50,10 +50,10 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_IsPublic = false;
     Zelvon::SyncMap<zelString, TypedDataContainer*> m_MapConfigOptionList;
     std::vector<TypedDataContainer*> m_ConfigOptionList;
     zelString m_Name;
-    bool m_IsPublic = false;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;

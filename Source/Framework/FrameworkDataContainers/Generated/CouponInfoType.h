@@ -72,20 +72,20 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_ReducesFoodstampBalanceDueFlag = false;
+    bool m_ReducesTaxDueFlag = false;
+    bool m_ItemRepeatAllowedFlag = false;
+    int m_Quantity = 0;
+    int m_DealQuantity = 0;
     ItemIdentifierType* m_ItemID = nullptr;
     zelString m_TransactionLineItemInstanceNumber;
     CouponType m_CouponType{0};
     double m_RegularUnitPrice = 0.0;
-    int m_Quantity = 0;
     zelString m_Value;
     double m_Weight = 0.0;
     double m_DealPrice = 0.0;
-    int m_DealQuantity = 0;
     zelString m_LinkedItemID;
     zelString m_RestrictedAge;
-    bool m_ReducesFoodstampBalanceDueFlag = false;
-    bool m_ReducesTaxDueFlag = false;
-    bool m_ItemRepeatAllowedFlag = false;
     zelString m_PricingMethod;
     zelString m_ManufacturerNumber;
 

@@ -47,10 +47,10 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
-    zelString m_Type;
-    zelString m_Direction;
     int m_DataSize = 0;
     int m_Index = 0;
+    zelString m_Type;
+    zelString m_Direction;
     zelString m_Name;
 
     static const Framework::FieldTable s_Table;

@@ -56,10 +56,10 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_UseFullFunctionXMLDataWrapper = false;
+    int m_OutputDataSize = 0;
     zelString m_SQLQuery;
     zelString m_QueryType;
-    int m_OutputDataSize = 0;
-    bool m_UseFullFunctionXMLDataWrapper = false;
     Zelvon::SyncMap<zelString, TypedDataContainer*> m_MapParametersList;
     std::vector<TypedDataContainer*> m_ParametersList;
     zelString m_Name;

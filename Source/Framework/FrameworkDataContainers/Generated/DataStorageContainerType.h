@@ -57,11 +57,11 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
-    zelString m_StorageName;
     bool m_ListContainer = false;
     bool m_DBListContainer = false;
-    zelString m_InitializeListContainer;
     bool m_ReadOnly = false;
+    zelString m_StorageName;
+    zelString m_InitializeListContainer;
     std::vector<zelString> m_LoadPathList;
     PersistenceModelEnum m_PersistenceModel{0};
     zelString m_AltLoadPath;

@@ -55,6 +55,7 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_RootData = false;
     zelString m_Value;
     VarInputType* m_VarInput = nullptr;
     zelString m_Name;
@@ -62,7 +63,6 @@ protected:
     zelString m_SourceType;
     zelString m_Source;
     zelString m_PreProcess;
-    bool m_RootData = false;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;

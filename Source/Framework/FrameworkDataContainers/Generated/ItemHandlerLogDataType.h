@@ -72,15 +72,12 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
-    zelString m_RequestID;
-    int m_MeasuredHeight = 0;
-    int m_MeasuredWeight = 0;
-    MultiBreakDefinition m_BreadTail{0};
-    ItemValidationStatusType m_ValidationStatus{0};
     bool m_PassAround = false;
     bool m_FlagWithCheckCart = false;
     bool m_SkippedItemSecurityCheck = false;
     bool m_LongItem = false;
+    int m_MeasuredHeight = 0;
+    int m_MeasuredWeight = 0;
     int m_Type2PriceUsed = 0;
     int m_ByCountQuantityUsed = 0;
     int m_Type2ItemCount = 0;
@@ -88,6 +85,9 @@ protected:
     int m_Type2ExpectedWeightMin = 0;
     int m_Type2ExpectedWeightMax = 0;
     int m_BaseWeight = 0;
+    zelString m_RequestID;
+    MultiBreakDefinition m_BreadTail{0};
+    ItemValidationStatusType m_ValidationStatus{0};
     ItemHandlerCorrectionType m_Correction{0};
 
     static const Framework::FieldTable s_Table;

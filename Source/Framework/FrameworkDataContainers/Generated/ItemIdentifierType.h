@@ -71,8 +71,10 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
-    zelString m_KeyedItemID;
     bool m_ItemIDIncludesCheckDigit = false;
+    bool m_NonmerchandiseFlag = false;
+    bool m_VoidFlag = false;
+    zelString m_KeyedItemID;
     BarCodeType* m_BarCode = nullptr;
     zelString m_DepartmentNumber;
     double m_KeyedPrice = 0.0;
@@ -81,12 +83,10 @@ protected:
     double m_Tare = 0.0;
     double m_DealPrice = 0.0;
     double m_DealQuantity = 0.0;
-    bool m_NonmerchandiseFlag = false;
     zelString m_OriginalSalesperson;
     zelString m_VoidReasonCode;
     zelString m_PriceOverrideReasonCode;
     zelString m_RefundReasonCode;
-    bool m_VoidFlag = false;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;

@@ -69,21 +69,21 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
-    ItemIdentifierType* m_ItemIdentifier = nullptr;
-    double m_RegularUnitPrice = 0.0;
-    int m_Quantity = 0;
-    double m_ExtendedPrice = 0.0;
-    double m_Weight = 0.0;
-    double m_DealPrice = 0.0;
-    int m_DealQuantity = 0;
-    zelString m_LinkedItemID;
-    zelString m_MixAndMatchPricingGroup;
     bool m_TimeRestrictedFlag = false;
-    int m_RestrictedAge = 0;
     bool m_FoodStampEligibleFlag = false;
     bool m_WICEligibleFlag = false;
     bool m_ItemRepeatAllowedFlag = false;
     bool m_TaxableFlag = false;
+    int m_Quantity = 0;
+    int m_DealQuantity = 0;
+    int m_RestrictedAge = 0;
+    ItemIdentifierType* m_ItemIdentifier = nullptr;
+    double m_RegularUnitPrice = 0.0;
+    double m_ExtendedPrice = 0.0;
+    double m_Weight = 0.0;
+    double m_DealPrice = 0.0;
+    zelString m_LinkedItemID;
+    zelString m_MixAndMatchPricingGroup;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;

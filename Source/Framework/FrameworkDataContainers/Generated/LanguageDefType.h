@@ -45,9 +45,9 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_Default = false;
     zelString m_Name;
     zelString m_LanguageCode;
-    bool m_Default = false;
     zelString m_index;
 
     static const Framework::FieldTable s_Table;

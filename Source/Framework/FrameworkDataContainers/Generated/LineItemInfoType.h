@@ -47,10 +47,10 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
-    zelString m_Description;
     bool m_ReturnFlag = false;
     bool m_DepositFlag = false;
     bool m_VoidFlag = false;
+    zelString m_Description;
     zelString m_RequestID;
 
     static const Framework::FieldTable s_Table;

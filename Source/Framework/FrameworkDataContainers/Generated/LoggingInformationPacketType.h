@@ -54,8 +54,8 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
-    LogInformationTypeDefintion m_PacketType{0};
     int m_Lane = 0;
+    LogInformationTypeDefintion m_PacketType{0};
     zelString m_TimeStamp;
     SystemEventType* m_SystemEvent = nullptr;
     ItemInformationType* m_ItemInformation = nullptr;

@@ -44,9 +44,9 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_ExcludeOutput = false;
     LogInformationTypeDefintion m_PacketType{0};
     LogIdTypeDefintion m_SystemLogId{0};
-    bool m_ExcludeOutput = false;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;

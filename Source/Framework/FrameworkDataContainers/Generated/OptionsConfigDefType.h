@@ -98,16 +98,19 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
-    zelString m_Type;
-    zelString m_LongDescription;
-    zelString m_ShortDescription;
-    zelString m_DefaultValue;
-    zelString m_XMLDefaultValue;
     bool m_AllowReload = false;
     bool m_AllowRelease = false;
     bool m_AllowSessionManagement = false;
     bool m_MustBeSetInConfiguration = false;
     bool m_PreserveOnWarmStart = false;
+    bool m_RebootRequired = false;
+    bool m_LocalUpdate = false;
+    bool m_Hidden = false;
+    zelString m_Type;
+    zelString m_LongDescription;
+    zelString m_ShortDescription;
+    zelString m_DefaultValue;
+    zelString m_XMLDefaultValue;
     zelString m_CustomValidationCommand;
     zelString m_OnValidationFailed;
     zelString m_ValidationErrorEvent;
@@ -116,9 +119,6 @@ protected:
     zelString m_ValidationErrorData;
     ValidationDefType* m_ValidationDef = nullptr;
     zelString m_ReferenceLookup;
-    bool m_RebootRequired = false;
-    bool m_LocalUpdate = false;
-    bool m_Hidden = false;
     zelString m_Category;
     LinkedOptionListType* m_LinkedOptionList = nullptr;
     zelString m_TargetLevel;

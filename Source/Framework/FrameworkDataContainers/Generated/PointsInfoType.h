@@ -50,9 +50,9 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_IsRedeemed = false;
     std::vector<TypedDataContainer*> m_PointsTotalsList;
     zelString m_Type;
-    bool m_IsRedeemed = false;
     zelString m_Points;
 
     static const Framework::FieldTable s_Table;

@@ -43,9 +43,9 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_ForceOverride = false;
     zelString m_OptionName;
     zelString m_Value;
-    bool m_ForceOverride = false;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;

@@ -56,10 +56,10 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
-    zelString m_PortLoaderFactoryName;
-    zelString m_PortLoaderFactoryMethod;
     int m_BaudRate = 9600;
     int m_DataBits = 8;
+    zelString m_PortLoaderFactoryName;
+    zelString m_PortLoaderFactoryMethod;
     ParityType m_Parity{0};
     StopBitsType m_StopBits{0};
     FlowControlType m_Control{0};

@@ -56,14 +56,14 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_RootData = false;
+    bool m_ReadOnly = false;
     Zelvon::SyncMap<zelString, SimpleDataContainer*> m_MapDocList;
     std::vector<SimpleDataContainer*> m_DocList;
     zelString m_Value;
     zelString m_SourceType;
     zelString m_Source;
     zelString m_PreProcess;
-    bool m_RootData = false;
-    bool m_ReadOnly = false;
     zelString m_ExtraData;
 
     static const Framework::FieldTable s_Table;

@@ -50,10 +50,10 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_PreProcessor = false;
     std::vector<zelString> m_DocList;
     StateActionParametersListType* m_Parameters = nullptr;
     zelString m_ActionID;
-    bool m_PreProcessor = false;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;

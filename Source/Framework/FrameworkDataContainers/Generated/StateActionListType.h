@@ -57,13 +57,13 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_ActionListCached = false;
+    bool m_Transient = false;
     Zelvon::SyncMap<zelString, SimpleDataContainer*> m_MapDocList;
     std::vector<SimpleDataContainer*> m_DocList;
     Zelvon::SyncMap<zelString, TypedDataContainer*> m_MapActionItemList;
     std::vector<TypedDataContainer*> m_ActionItemList;
-    bool m_ActionListCached = false;
     zelString m_Trigger;
-    bool m_Transient = false;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;

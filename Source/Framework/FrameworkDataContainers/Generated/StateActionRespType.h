@@ -41,8 +41,8 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
-    zelString m_Unused;
     int m_Result = 0;
+    zelString m_Unused;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;

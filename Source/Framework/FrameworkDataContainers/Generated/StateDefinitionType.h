@@ -59,14 +59,14 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_Transient = false;
+    bool m_CacheActions = false;
     Zelvon::SyncMap<zelString, SimpleDataContainer*> m_MapDocList;
     std::vector<SimpleDataContainer*> m_DocList;
     ActionItemType* m_PreStateTrigger = nullptr;
     StateTriggersListType* m_StateTriggers = nullptr;
     ActionItemType* m_PostStateTrigger = nullptr;
     zelString m_Name;
-    bool m_Transient = false;
-    bool m_CacheActions = false;
     zelString m_BaseState;
 
     static const Framework::FieldTable s_Table;

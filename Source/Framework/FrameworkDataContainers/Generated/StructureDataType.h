@@ -58,16 +58,16 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_Complex = false;
+    bool m_Enum = false;
+    int m_Size = 0;
     Zelvon::SyncMap<zelString, SimpleDataContainer*> m_MapDocList;
     std::vector<SimpleDataContainer*> m_DocList;
     zelString m_Type;
-    int m_Size = 0;
     zelString m_DataType;
     zelString m_Default;
     zelString m_CodePage;
     zelString m_Name;
-    bool m_Complex = false;
-    bool m_Enum = false;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;

@@ -60,6 +60,8 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_AssistantVoid = false;
+    int m_EntryIndex = 0;
     TenderTypeDefinition m_TenderType{0};
     double m_CurrentEntry_TenderAmount_Reported = 0.0;
     double m_CurrentEntry_Cash_Collected = 0.0;
@@ -68,9 +70,7 @@ protected:
     double m_CurrentEntry_Cash_Dispense_Vouchered = 0.0;
     double m_CurrentEntry_CashBackAmount = 0.0;
     double m_CurrentEntry_ChangeAmount = 0.0;
-    bool m_AssistantVoid = false;
     zelString m_AssistantId;
-    int m_EntryIndex = 0;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;

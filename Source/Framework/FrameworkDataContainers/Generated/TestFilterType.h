@@ -49,9 +49,9 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_TestExists = false;
     zelString m_TestQuery;
     FilterPropertyTestType* m_TestValue = nullptr;
-    bool m_TestExists = false;
     zelString m_TriggerResponse;
     zelString m_Index;
 

@@ -43,8 +43,8 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
-    zelString m_Lookup;
     bool m_Visible = false;
+    zelString m_Lookup;
     zelString m_name;
 
     static const Framework::FieldTable s_Table;

@@ -45,10 +45,10 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    int m_plural = 0;
     zelString m_Key;
     zelString m_index;
     zelString m_type;
-    int m_plural = 0;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;

@@ -39,8 +39,8 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
-    zelString m_Extra;
     int m_Number = 0;
+    zelString m_Extra;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;

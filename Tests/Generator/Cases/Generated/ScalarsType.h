@@ -73,23 +73,23 @@ public:
 
 protected:
     bool m_bAutoFillTypeInfo = false;
+    bool m_Flag = false;
+    bool m_FlagSet = true;
+    bool m_Open = false;
+    bool m_OpenSet = true;
+    int m_Count = 0;
+    int m_CountSet = (-2147483647 - 1);
+    int m_Level = 0;
+    int m_LevelSet = 7;
     zelString m_Text;
     zelString m_TextSet{"a \"b\\c\""};
     zelString m_Raw;
-    bool m_Flag = false;
-    bool m_FlagSet = true;
-    int m_Count = 0;
-    int m_CountSet = (-2147483647 - 1);
     double m_Weight = 0.0;
     ShadeType m_Shade{0};
     SizeEnum m_Size{0};
     ScalarsType* m_Inner = nullptr;
     zelString m_name;
     zelString m_Label{"none"};
-    bool m_Open = false;
-    bool m_OpenSet = true;
-    int m_Level = 0;
-    int m_LevelSet = 7;
 
     static const Framework::FieldTable s_Table;
     friend struct Framework::FieldTableIndex;
