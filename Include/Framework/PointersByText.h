@@ -3,9 +3,9 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "Framework/FrameworkExport.h"
@@ -43,6 +43,10 @@ public:
     /// Adds a key of which the caller knows that it is not there. Fails as AddOrFind does.
     void AddAbsent(std::string_view key, void* value);
 
+    /// Makes room for a key that will be added when its value is ready. Few entries are found sooner close to the
+    /// object whose table this is than behind all that belongs to their values. Throws std::bad_alloc.
+    void MakeRoomFor(std::string_view key);
+
     /// Takes a key out. False when it is not there.
     bool Remove(std::string_view key) noexcept;
 
@@ -68,12 +72,12 @@ public:
     /// table.
     template <typename Work> void TakeOutInOrder(Work work) noexcept {
         PointersByText taken;
-        taken.m_few.swap(m_few);
-        taken.m_table.swap(m_table);
+        std::swap(taken.m_block, m_block);
+        Table* const table = taken.AsTable();
         std::array<void*, kFew> few;
-        const std::size_t count = taken.m_table == nullptr ? taken.OrderFew(few) : OrderOnce(*taken.m_table);
+        const std::size_t count = table == nullptr ? taken.OrderFew(few) : OrderOnce(*table);
         for (std::size_t i = 0; i < count; ++i) {
-            if (void* const value = taken.m_table == nullptr ? few[i] : taken.m_table->slots[i].value) {
+            if (void* const value = table == nullptr ? few[i] : table->words[table->slots[i].entry]) {
                 work(value);
             }
         }
@@ -84,36 +88,46 @@ public:
 private:
     static constexpr std::size_t kFew = 8;
 
+    // Many lists have no entry, and most few: the table itself is one pointer. Entries stand in words, each its
+    // pointer, then the bytes of the key's length and of the key: few behind their block.
+    struct Block {
+        std::uint32_t room = 0; // words; 0: it is a Table
+        std::uint32_t used = 0; // words, slots
+    };
     struct Slot {
-        void* value = nullptr;
-        std::uint32_t text = 0; // where the key stands among the texts; 0: free
+        std::uint32_t entry = 0; // its word; 0: free
         std::uint32_t hash = 0;
     };
-    struct Table {
+    struct Table : Block {
         std::vector<Slot> slots; // a power of two
-        std::string texts;       // each behind its length
-        std::uint32_t used = 0;
-        std::uint32_t gone = 0; // taken out, their places still part of the chains of others
+        std::vector<void*> words;
+        std::uint32_t gone = 0; // slots of what was taken out, still part of the chains of others
     };
 
-    // A place is one in the table, else that of the entry's pointer in m_few.
-    std::size_t Places() const noexcept { return m_table == nullptr ? m_few.size() : m_table->slots.size(); }
+    bool IsTable() const noexcept { return m_block != nullptr && m_block->room == 0; }
+    Table* AsTable() const noexcept { return IsTable() ? static_cast<Table*>(m_block) : nullptr; }
+    void** Words() const noexcept { return reinterpret_cast<void**>(m_block + 1); }
+    std::size_t UsedWords() const noexcept { return m_block == nullptr ? 0 : m_block->used; }
+
+    // A place is a slot of the table, else the word of the entry's pointer.
+    std::size_t Places() const noexcept { return IsTable() ? static_cast<Table*>(m_block)->slots.size() : UsedWords(); }
     std::size_t Next(std::size_t place) const noexcept;
     bool IsTaken(std::size_t place) const noexcept;
     Entry At(std::size_t place) const noexcept;
     bool RemoveAt(std::size_t place) noexcept;
     std::size_t PlaceInFew(std::string_view key) const noexcept;
-    std::size_t PlaceInTable(std::string_view key, std::uint32_t hash) const noexcept;
+    static std::size_t PlaceInTable(const Table& table, std::string_view key, std::uint32_t hash) noexcept;
     void AddToFew(std::string_view key, void* value);
-    void AddToTable(std::size_t place, std::string_view key, std::uint32_t hash, void* value);
-    bool MakeTable();
-    void MakeRoom();
-    void MoveTo(Table& larger) const;
+    void MakeRoomInFew(std::size_t words);
+    static void AddToTable(Table& table, std::string_view key, void* value);
+    Table& MakeTable();
+    void MakeRoom(Table& table) const;
+    void CopyTo(Table& fresh) const;
+    static void Free(Block* block) noexcept;
     std::size_t OrderFew(std::array<void*, kFew>& values) const noexcept;
     static std::size_t OrderOnce(Table& table) noexcept;
 
-    std::vector<void*> m_few;       // of each entry the pointer, then the bytes of the key's length and of the key
-    std::unique_ptr<Table> m_table; // once there are more
+    Block* m_block = nullptr;
 };
 
 } // namespace Zelvon

@@ -129,6 +129,14 @@ public:
         return found == nullptr ? nullptr : static_cast<V>(*found);
     }
 
+    /// Makes room for a value that addValue will bring, unless it stands in the std::map. Throws std::bad_alloc.
+    void makeRoomFor(std::string_view key) requires hasTextKeys {
+        const auto guard = WriteGuard();
+        if (this->m_pGuarded == nullptr) {
+            m_Texts.MakeRoomFor(key);
+        }
+    }
+
     /// Puts `value` under a text that is not there, which the caller has just found out. Fails as setValue does.
     void addValue(std::string_view key, V value) requires hasTextKeys {
         const auto guard = WriteGuard();

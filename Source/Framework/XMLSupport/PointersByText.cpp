@@ -6,6 +6,8 @@
 #include <cstring>
 #include <functional>
 #include <limits>
+#include <memory>
+#include <new>
 #include <stdexcept>
 #include <utility>
 
@@ -16,6 +18,7 @@ namespace {
 using Length = std::uint32_t;
 
 constexpr std::size_t kFirstTable = 32;
+constexpr std::size_t kFirstWords = 6; // two or three entries with short keys
 constexpr std::uint32_t kGone = std::numeric_limits<std::uint32_t>::max();
 
 std::uint32_t HashOf(std::string_view key) noexcept {
@@ -24,43 +27,45 @@ std::uint32_t HashOf(std::string_view key) noexcept {
 }
 
 /// A text that stands behind its length.
-std::string_view TextAt(const void* at) noexcept {
-    const char* const bytes = static_cast<const char*>(at);
+std::string_view TextAt(void* const* at) noexcept {
+    const char* const bytes = reinterpret_cast<const char*>(at);
     Length length = 0;
     std::memcpy(&length, bytes, sizeof length);
     return {bytes + sizeof length, length};
 }
 
-std::string_view TextAt(const std::string& texts, std::uint32_t at) noexcept {
-    return TextAt(texts.data() + at);
-}
-
-void CheckLength(std::size_t before, std::string_view key) {
-    if (key.size() >= kGone || before + sizeof(Length) + key.size() >= kGone) {
-        throw std::length_error("the keys of a list are too long");
-    }
-}
-
-/// Appends a text behind its length; its place, which is never 0.
-std::uint32_t AppendText(std::string& texts, std::string_view key) {
-    const std::size_t at = std::max<std::size_t>(texts.size(), 1);
-    CheckLength(at, key);
-    const auto length = static_cast<Length>(key.size());
-    texts.reserve(at + sizeof length + key.size()); // doubles at least
-    texts.resize(at + sizeof length);
-    std::memcpy(texts.data() + at, &length, sizeof length);
-    texts.append(key);
-    return static_cast<std::uint32_t>(at);
-}
-
-/// What an entry takes of m_few.
+/// What an entry takes.
 std::size_t WordsFor(std::size_t length) noexcept {
     return 1 + (sizeof(Length) + length + sizeof(void*) - 1) / sizeof(void*);
 }
 
+void WriteEntry(void** at, std::string_view key, void* value) noexcept {
+    const auto length = static_cast<Length>(key.size());
+    *at = value;
+    char* const bytes = reinterpret_cast<char*>(at + 1);
+    std::memcpy(bytes, &length, sizeof length);
+    std::copy(key.begin(), key.end(), bytes + sizeof length);
+}
+
+void CheckLength(std::size_t words, std::string_view key) {
+    constexpr std::size_t kMost = std::numeric_limits<std::uint32_t>::max();
+    if (key.size() >= kMost || words * sizeof(void*) + key.size() >= kMost) {
+        throw std::length_error("the keys of a list are too long");
+    }
+}
+
+/// Who looks up one of few entries mostly goes on to the next one, which is fetched meanwhile: what an object begins
+/// with, and where the lists and parts of most stand. To the compiler a function that does nothing else does nothing.
+[[gnu::always_inline]] inline void FetchAhead(const void* object) noexcept {
+    const auto at = reinterpret_cast<std::uintptr_t>(object);
+    __builtin_prefetch(object);
+    __builtin_prefetch(reinterpret_cast<const void*>(at + 128));
+    __builtin_prefetch(reinterpret_cast<const void*>(at + 192));
+}
+
 template <typename Slots> std::size_t FreePlace(const Slots& slots, std::uint32_t hash) noexcept {
     std::size_t place = hash & (slots.size() - 1);
-    while (slots[place].text != 0) {
+    while (slots[place].entry != 0) {
         place = (place + 1) & (slots.size() - 1);
     }
     return place;
@@ -69,63 +74,85 @@ template <typename Slots> std::size_t FreePlace(const Slots& slots, std::uint32_
 } // namespace
 
 PointersByText::PointersByText() noexcept = default;
-PointersByText::~PointersByText() = default;
+
+PointersByText::~PointersByText() {
+    Free(m_block);
+}
+
+void PointersByText::Free(Block* block) noexcept {
+    if (block != nullptr && block->room == 0) {
+        delete static_cast<Table*>(block);
+    } else {
+        ::operator delete(block);
+    }
+}
 
 std::size_t PointersByText::Size() const noexcept {
-    if (m_table != nullptr) {
-        return m_table->used - m_table->gone;
+    if (const Table* const table = AsTable()) {
+        return table->used - table->gone;
     }
     std::size_t count = 0;
-    for (std::size_t place = 0; place < m_few.size(); place = Next(place)) {
+    for (std::size_t place = 0; place < UsedWords(); place = Next(place)) {
         ++count;
     }
     return count;
 }
 
 std::size_t PointersByText::Next(std::size_t place) const noexcept {
-    return m_table != nullptr ? place + 1 : place + WordsFor(TextAt(&m_few[place + 1]).size());
+    return IsTable() ? place + 1 : place + WordsFor(TextAt(&Words()[place + 1]).size());
 }
 
 bool PointersByText::IsTaken(std::size_t place) const noexcept {
-    return m_table == nullptr || (m_table->slots[place].text != 0 && m_table->slots[place].text != kGone);
+    const Table* const table = AsTable();
+    return table == nullptr || (table->slots[place].entry != 0 && table->slots[place].entry != kGone);
 }
 
 PointersByText::Entry PointersByText::At(std::size_t place) const noexcept {
-    if (m_table == nullptr) {
-        return {TextAt(&m_few[place + 1]), m_few[place]};
-    }
-    const Slot& slot = m_table->slots[place];
-    return {TextAt(m_table->texts, slot.text), slot.value};
+    const Table* const table = AsTable();
+    void* const* const entry = table == nullptr ? &Words()[place] : &table->words[table->slots[place].entry];
+    return {TextAt(entry + 1), *entry};
 }
 
 /// Behind the last when the key is not there.
 std::size_t PointersByText::PlaceInFew(std::string_view key) const noexcept {
+    const std::size_t end = UsedWords();
     std::size_t place = 0;
-    while (place < m_few.size() && TextAt(&m_few[place + 1]) != key) {
-        place = Next(place);
+    while (place < end) {
+        const std::string_view text = TextAt(&Words()[place + 1]);
+        if (text == key) {
+            break;
+        }
+        place += WordsFor(text.size());
     }
     return place;
 }
 
 /// Where the key stands, else where it would come to stand.
-std::size_t PointersByText::PlaceInTable(std::string_view key, std::uint32_t hash) const noexcept {
-    const std::vector<Slot>& slots = m_table->slots;
-    const std::string& texts = m_table->texts;
+std::size_t PointersByText::PlaceInTable(const Table& table, std::string_view key, std::uint32_t hash) noexcept {
+    const std::vector<Slot>& slots = table.slots;
+    const auto isOther = [&](const Slot& slot) {
+        return slot.hash != hash || slot.entry == kGone || TextAt(&table.words[slot.entry + 1]) != key;
+    };
     std::size_t place = hash & (slots.size() - 1);
-    while (slots[place].text != 0 &&
-           (slots[place].hash != hash || slots[place].text == kGone || TextAt(texts, slots[place].text) != key)) {
+    while (slots[place].entry != 0 && isOther(slots[place])) {
         place = (place + 1) & (slots.size() - 1);
     }
     return place;
 }
 
 void** PointersByText::Find(std::string_view key) const noexcept {
-    if (m_table == nullptr) {
-        const std::size_t place = PlaceInFew(key);
-        return place == m_few.size() ? nullptr : const_cast<void**>(&m_few[place]);
+    if (Table* const table = AsTable()) {
+        const std::uint32_t entry = table->slots[PlaceInTable(*table, key, HashOf(key))].entry;
+        return entry == 0 ? nullptr : &table->words[entry];
     }
-    Slot& slot = m_table->slots[PlaceInTable(key, HashOf(key))];
-    return slot.text == 0 ? nullptr : &slot.value;
+    const std::size_t place = PlaceInFew(key);
+    if (place == UsedWords()) {
+        return nullptr;
+    }
+    if (const std::size_t next = Next(place); next < UsedWords()) {
+        FetchAhead(Words()[next]);
+    }
+    return &Words()[place];
 }
 
 void** PointersByText::AddOrFind(std::string_view key, void* value) {
@@ -137,49 +164,69 @@ void** PointersByText::AddOrFind(std::string_view key, void* value) {
 }
 
 void PointersByText::AddAbsent(std::string_view key, void* value) {
-    if (m_table == nullptr && !MakeTable()) {
+    if (!IsTable() && Size() < kFew) {
         AddToFew(key, value);
         return;
     }
-    MakeRoom();
-    const std::uint32_t hash = HashOf(key);
-    AddToTable(FreePlace(m_table->slots, hash), key, hash, value);
+    Table& table = IsTable() ? *AsTable() : MakeTable();
+    MakeRoom(table);
+    AddToTable(table, key, value);
+}
+
+void PointersByText::MakeRoomFor(std::string_view key) {
+    if (!IsTable() && Size() < kFew) {
+        MakeRoomInFew(UsedWords() + WordsFor(key.size()));
+    }
 }
 
 void PointersByText::AddToFew(std::string_view key, void* value) {
-    CheckLength(0, key);
-    const auto length = static_cast<Length>(key.size());
-    const std::size_t place = m_few.size();
-    m_few.resize(place + WordsFor(key.size()));
-    m_few[place] = value;
-    char* const bytes = reinterpret_cast<char*>(&m_few[place + 1]);
-    std::memcpy(bytes, &length, sizeof length);
-    std::copy(key.begin(), key.end(), bytes + sizeof length);
+    CheckLength(UsedWords(), key);
+    const std::size_t place = UsedWords();
+    const std::size_t words = place + WordsFor(key.size());
+    MakeRoomInFew(words);
+    WriteEntry(&Words()[place], key, value);
+    m_block->used = static_cast<std::uint32_t>(words);
 }
 
-/// There is room.
-void PointersByText::AddToTable(std::size_t place, std::string_view key, std::uint32_t hash, void* value) {
-    const std::uint32_t text = AppendText(m_table->texts, key);
-    m_table->slots[place] = {value, text, hash};
-    ++m_table->used;
+/// The table has a free slot.
+void PointersByText::AddToTable(Table& table, std::string_view key, void* value) {
+    const std::size_t entry = table.words.size();
+    CheckLength(entry, key);
+    table.words.resize(entry + WordsFor(key.size())); // doubles at least when it has to grow
+    WriteEntry(&table.words[entry], key, value);
+    const std::uint32_t hash = HashOf(key);
+    table.slots[FreePlace(table.slots, hash)] = {static_cast<std::uint32_t>(entry), hash};
+    ++table.used;
 }
 
-/// Goes over to a table when the entries are no longer few; whether it did.
-bool PointersByText::MakeTable() {
-    if (Size() < kFew) {
-        return false;
+/// For so many words in all.
+void PointersByText::MakeRoomInFew(std::size_t words) {
+    if (m_block != nullptr && words <= m_block->room) {
+        return;
     }
+    const std::size_t grown = std::max({words, UsedWords() + UsedWords() / 2, kFirstWords});
+    const std::size_t room = grown + grown % 2; // what the heap gives is a word less than a multiple of two
+    Block* const larger = new (::operator new(sizeof(Block) + room * sizeof(void*))) Block;
+    larger->room = static_cast<std::uint32_t>(room);
+    larger->used = static_cast<std::uint32_t>(UsedWords());
+    if (m_block != nullptr) {
+        std::memcpy(larger + 1, m_block + 1, UsedWords() * sizeof(void*));
+    }
+    Free(std::exchange(m_block, larger));
+}
+
+/// Goes over to a table, as the entries are no longer few.
+PointersByText::Table& PointersByText::MakeTable() {
     auto table = std::make_unique<Table>();
     table->slots.resize(kFirstTable);
-    MoveTo(*table);
-    m_table = std::move(table);
-    m_few = {};
-    return true;
+    CopyTo(*table);
+    Free(std::exchange(m_block, table.release()));
+    return *AsTable();
 }
 
 /// For one more entry. What was taken out ends here, and so do its texts.
-void PointersByText::MakeRoom() {
-    if ((m_table->used + std::size_t{1}) * 4 <= m_table->slots.size() * 3) {
+void PointersByText::MakeRoom(Table& table) const {
+    if ((table.used + std::size_t{1}) * 4 <= table.slots.size() * 3) {
         return;
     }
     Table larger;
@@ -188,32 +235,29 @@ void PointersByText::MakeRoom() {
         places *= 2;
     }
     larger.slots.resize(places);
-    if (m_table->gone > 0) {
-        MoveTo(larger);
-    } else { // the texts stay where they are
-        for (const Slot& slot : m_table->slots) {
-            if (slot.text != 0) {
+    if (table.gone > 0) {
+        CopyTo(larger);
+    } else { // the entries stay where they are
+        for (const Slot& slot : table.slots) {
+            if (slot.entry != 0) {
                 larger.slots[FreePlace(larger.slots, slot.hash)] = slot;
             }
         }
-        larger.texts.swap(m_table->texts);
-        larger.used = m_table->used;
+        larger.words.swap(table.words);
+        larger.used = table.used;
     }
-    *m_table = std::move(larger);
+    table = std::move(larger);
 }
 
-void PointersByText::MoveTo(Table& larger) const {
-    ForEach([&](const Entry& entry) {
-        const std::uint32_t hash = HashOf(entry.key);
-        const std::uint32_t text = AppendText(larger.texts, entry.key);
-        larger.slots[FreePlace(larger.slots, hash)] = {entry.value, text, hash};
-        ++larger.used;
-    });
+void PointersByText::CopyTo(Table& fresh) const {
+    fresh.words.resize(1); // so that no entry is at 0
+    ForEach([&](const Entry& entry) { AddToTable(fresh, entry.key, entry.value); });
 }
 
 bool PointersByText::Remove(std::string_view key) noexcept {
-    const std::size_t place = m_table == nullptr ? PlaceInFew(key) : PlaceInTable(key, HashOf(key));
-    const bool isThere = m_table == nullptr ? place < m_few.size() : m_table->slots[place].text != 0;
+    const Table* const table = AsTable();
+    const std::size_t place = table == nullptr ? PlaceInFew(key) : PlaceInTable(*table, key, HashOf(key));
+    const bool isThere = table == nullptr ? place < UsedWords() : table->slots[place].entry != 0;
     if (isThere) {
         RemoveAt(place);
     }
@@ -222,19 +266,19 @@ bool PointersByText::Remove(std::string_view key) noexcept {
 
 /// True when another entry has come to that place.
 bool PointersByText::RemoveAt(std::size_t place) noexcept {
-    if (m_table == nullptr) {
-        const auto begin = m_few.begin();
-        m_few.erase(begin + static_cast<std::ptrdiff_t>(place), begin + static_cast<std::ptrdiff_t>(Next(place)));
-        return true;
+    if (Table* const table = AsTable()) {
+        table->slots[place] = {kGone, 0};
+        ++table->gone;
+        return false;
     }
-    m_table->slots[place] = {nullptr, kGone, 0};
-    ++m_table->gone;
-    return false;
+    const std::size_t next = Next(place);
+    std::copy(Words() + next, Words() + UsedWords(), Words() + place);
+    m_block->used -= static_cast<std::uint32_t>(next - place);
+    return true;
 }
 
 void PointersByText::Clear() noexcept {
-    std::vector<void*>().swap(m_few);
-    m_table.reset();
+    Free(std::exchange(m_block, nullptr));
 }
 
 /// The values in the order of their keys, but for those that stand under an earlier key too, which are null. How many.
@@ -259,32 +303,32 @@ std::size_t PointersByText::OrderFew(std::array<void*, kFew>& values) const noex
 /// The same with the entries of a table, which come to its front: brings them in the order of their keys, and nulls
 /// every value that stands under an earlier key too. The number of entries.
 std::size_t PointersByText::OrderOnce(Table& table) noexcept {
+    const auto keyOf = [&](const Slot& slot) { return TextAt(&table.words[slot.entry + 1]); };
+    const auto valueOf = [&](const Slot& slot) -> void*& { return table.words[slot.entry]; };
     const auto begin = table.slots.begin();
-    const auto end =
-        std::remove_if(begin, table.slots.end(), [](const Slot& slot) { return slot.text == 0 || slot.text == kGone; });
+    const auto end = std::remove_if(begin, table.slots.end(),
+                                    [](const Slot& slot) { return slot.entry == 0 || slot.entry == kGone; });
     // The hash is needed no more: it holds the first bytes of the key, which settle most comparisons, then the rank.
     for (auto slot = begin; slot != end; ++slot) {
-        const std::string_view key = TextAt(table.texts, slot->text);
+        const std::string_view key = keyOf(*slot);
         slot->hash = 0;
         for (std::size_t i = 0; i < sizeof slot->hash; ++i) {
             slot->hash = (slot->hash << 8U) | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
         }
     }
-    std::sort(begin, end, [&](const Slot& a, const Slot& b) {
-        return a.hash != b.hash ? a.hash < b.hash : TextAt(table.texts, a.text) < TextAt(table.texts, b.text);
-    });
+    std::sort(begin, end,
+              [&](const Slot& a, const Slot& b) { return a.hash != b.hash ? a.hash < b.hash : keyOf(a) < keyOf(b); });
     std::uint32_t rank = 0;
     for (auto slot = begin; slot != end; ++slot) {
         slot->hash = rank++;
     }
-    const auto byValue = [](const Slot& a, const Slot& b) {
-        return a.value != b.value ? std::less<void*>()(a.value, b.value) : a.hash < b.hash;
-    };
-    std::sort(begin, end, byValue);
+    std::sort(begin, end, [&](const Slot& a, const Slot& b) {
+        return valueOf(a) != valueOf(b) ? std::less<void*>()(valueOf(a), valueOf(b)) : a.hash < b.hash;
+    });
     for (auto slot = begin; slot != end;) {
-        const void* const value = slot->value;
-        for (++slot; slot != end && slot->value == value; ++slot) {
-            slot->value = nullptr;
+        const void* const value = valueOf(*slot);
+        for (++slot; slot != end && valueOf(*slot) == value; ++slot) {
+            valueOf(*slot) = nullptr;
         }
     }
     std::sort(begin, end, [](const Slot& a, const Slot& b) { return a.hash < b.hash; });

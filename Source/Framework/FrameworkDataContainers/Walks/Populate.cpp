@@ -203,6 +203,9 @@ private:
             row.list->addEntry(m_object, Wrapper(), m_tree.View(node), zelString(key));
             return;
         }
+        if (isKeyed) {
+            (m_object.*row.map.entries).makeRoomFor(key);
+        }
         std::unique_ptr<TypedDataContainer> entry(row.list->newEntry(ContainerAccess::BuildsFromScratch(m_object)));
         ContainerAccess::SetPlace(*entry, row.name, m_object);
         if (PopulatePart(*entry, *row.list->table, node)) {
