@@ -12,11 +12,17 @@ namespace Framework {
 
 namespace {
 
-/// A stretch of the source and what stands there now.
+/// A stretch of the source and what stands there now, a stretch of the written texts.
 struct Patch {
     std::uint32_t begin;
     std::uint32_t end;
-    std::string text;
+    std::size_t textBegin;
+    std::size_t textEnd;
+};
+
+struct Patches {
+    std::vector<Patch> inOrder;
+    std::string texts;
 };
 
 /// The first line end of the document, which new lines are written with.
@@ -34,7 +40,7 @@ public:
     explicit PatchMaker(const DocumentData& data)
         : m_data(data), m_lineEnd(LineEndOf(data.source.text)), m_characters(data.source.encoding) {}
 
-    std::vector<Patch> Make() {
+    Patches Make() {
         std::vector<std::uint32_t> touched = m_data.changes.touched;
         SortEachOnce(touched);
         for (const std::uint32_t element : touched) {
@@ -42,10 +48,14 @@ public:
             PatchRemoved(element);
             PatchChildren(element);
         }
-        std::sort(m_patches.begin(), m_patches.end(), [](const Patch& left, const Patch& right) {
+        const auto isBefore = [](const Patch& left, const Patch& right) {
             return std::tie(left.begin, left.end) < std::tie(right.begin, right.end);
-        });
-        return std::move(m_patches);
+        };
+        std::vector<Patch>& patches = m_made.inOrder;
+        if (!std::is_sorted(patches.begin(), patches.end(), isBefore)) {
+            std::sort(patches.begin(), patches.end(), isBefore);
+        }
+        return std::move(m_made);
     }
 
 private:
@@ -53,6 +63,11 @@ private:
     bool IsAdded(std::uint32_t number) const { return number >= m_data.changes.parsedNodes; }
     std::string_view Value(const NodeRecord& record) const {
         return m_data.changes.values[record.leaf.valueBegin].text;
+    }
+
+    /// What was appended to the texts since they ended at `textBegin` takes the place of a stretch of the source.
+    void Replace(std::uint32_t begin, std::uint32_t end, std::size_t textBegin) {
+        m_made.inOrder.push_back({begin, end, textBegin, m_made.texts.size()});
     }
 
     void PatchAttributes(std::uint32_t element) {
@@ -68,22 +83,22 @@ private:
             quote = source[record.end - 1];
             end = record.end;
             if (record.leaf.holder == ValueHolder::Written) {
-                std::string value;
-                AppendAttribute(value, Value(record), quote);
-                m_patches.push_back({m_data.RawBegin(record), record.end - 1, std::move(value)});
+                const std::size_t textBegin = m_made.texts.size();
+                AppendAttribute(m_made.texts, Value(record), quote);
+                Replace(m_data.RawBegin(record), record.end - 1, textBegin);
             }
         }
-        std::string added;
+        const std::size_t textBegin = m_made.texts.size();
         for (; each != 0; each = Record(each).next) {
-            added.append(Separator(blanks))
+            m_made.texts.append(Separator(blanks))
                 .append(m_data.names.Name(Record(each).name))
                 .append(1, '=')
                 .append(1, quote);
-            AppendAttribute(added, Value(Record(each)), quote);
-            added.push_back(quote);
+            AppendAttribute(m_made.texts, Value(Record(each)), quote);
+            m_made.texts.push_back(quote);
         }
-        if (!added.empty()) {
-            m_patches.push_back({end, end, std::move(added)});
+        if (m_made.texts.size() > textBegin) {
+            Replace(end, end, textBegin);
         }
     }
 
@@ -105,7 +120,7 @@ private:
         }
         for (const std::uint32_t number : texts->second) {
             if (Record(number).kind == NodeKind::None) {
-                m_patches.push_back({Record(number).begin, Record(number).end, {}});
+                Replace(Record(number).begin, Record(number).end, m_made.texts.size());
             }
         }
     }
@@ -123,9 +138,10 @@ private:
             Insert(element, at, run);
             at = record.end;
             if (record.IsText() && record.leaf.holder == ValueHolder::Written) {
-                std::string text;
-                AppendLeaf(text, record);
-                m_patches.push_back({record.begin, record.end, WithLineEnds(std::move(text))});
+                const std::size_t textBegin = m_made.texts.size();
+                AppendLeaf(m_made.texts, record);
+                GiveLineEnds(textBegin);
+                Replace(record.begin, record.end, textBegin);
             }
         }
         Insert(element, at, run);
@@ -140,12 +156,13 @@ private:
             at = m_data.StartTagEnd(element);
             isClosed = at == Record(element).end;
         }
-        std::string text = WithLineEnds(std::exchange(run, {}));
+        const std::size_t textBegin = m_made.texts.size();
+        m_made.texts.append(isClosed ? ">" : "").append(std::exchange(run, {}));
+        GiveLineEnds(textBegin);
         if (isClosed) {
-            text.insert(0, 1, '>');
-            text.append("</").append(m_data.names.Name(Record(element).name)).append(1, '>');
+            m_made.texts.append("</").append(m_data.names.Name(Record(element).name)).append(1, '>');
         }
-        m_patches.push_back({isClosed ? at - 2 : at, at, std::move(text)});
+        Replace(isClosed ? at - 2 : at, at, textBegin);
     }
 
     void AppendAdded(std::string& xml, std::uint32_t number) {
@@ -200,37 +217,34 @@ private:
         append(text);
     }
 
-    std::string WithLineEnds(std::string text) const {
+    void GiveLineEnds(std::size_t textBegin) {
         if (m_lineEnd == "\n") {
-            return text;
+            return;
         }
-        std::string result;
+        const std::string text = m_made.texts.substr(textBegin);
+        m_made.texts.resize(textBegin);
         for (const char character : text) {
             if (character == '\n') {
-                result.append(m_lineEnd);
+                m_made.texts.append(m_lineEnd);
             } else {
-                result.push_back(character);
+                m_made.texts.push_back(character);
             }
         }
-        return result;
     }
 
     const DocumentData& m_data;
     std::string_view m_lineEnd;
     EncodedCharacters m_characters;
-    std::vector<Patch> m_patches;
+    Patches m_made;
 };
 
-std::string Apply(const std::string& source, const std::vector<Patch>& patches) {
-    std::size_t size = source.size();
-    for (const Patch& patch : patches) {
-        size += patch.text.size();
-    }
+std::string Apply(const std::string& source, const Patches& patches) {
     std::string text;
-    text.reserve(size);
+    text.reserve(source.size() + patches.texts.size());
     std::size_t at = 0;
-    for (const Patch& patch : patches) {
-        text.append(source, at, patch.begin - at).append(patch.text);
+    for (const Patch& patch : patches.inOrder) {
+        text.append(source, at, patch.begin - at);
+        text.append(patches.texts, patch.textBegin, patch.textEnd - patch.textBegin);
         at = patch.end;
     }
     return text.append(source, at);
@@ -259,8 +273,8 @@ std::string WriteDocument(const DocumentData& data) {
     if (!data.changes.any && !source.byteOrderMark) {
         return source.text;
     }
-    const std::vector<Patch> patches = PatchMaker(data).Make();
-    if (patches.empty()) {
+    const Patches patches = PatchMaker(data).Make();
+    if (patches.inOrder.empty()) {
         return Encode(data, source.text);
     }
     std::string text = Apply(data.source.text, patches);
