@@ -95,7 +95,7 @@ void WriteTranslation(Writer& to, const TranslationShape& shape, std::size_t num
     to.Open("Translation", Attribute("LookupData", key));
     to.Leaf("ResultValue",
             Sentence(value, foreignWords, shape.wordsPerText / 2 + value.Below(shape.wordsPerText + 1) + 1));
-    const std::size_t notes = shape.notesPerEntry + (structure.Once(10) ? 1 : 0);
+    const std::size_t notes = shape.notesPerEntry / part.every + (structure.Once(10) ? 1 : 0);
     for (std::size_t i = 0; i < notes; ++i) {
         to.Leaf("Doc", Sentence(structure, words, 8));
     }

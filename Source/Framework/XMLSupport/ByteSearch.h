@@ -81,9 +81,10 @@ template <Characters characters, typename Kind> std::size_t Find(std::string_vie
             return at;
         }
     }
-    // Of some blocks at once, as whether one alone has longer characters is different from each to the next, and the
-    // processor would guess wrong.
+    // Whether a block has longer characters is different from each to the next, and the processor would guess wrong: in
+    // a long text some are asked at once. Most end sooner.
     constexpr std::size_t blocksAtOnce = 4;
+    const std::size_t longFrom = at + Bytes::size();
     std::size_t asked = 0;
     bool isAscii = true;
     for (; text.size() - at >= Bytes::size(); at += Bytes::size()) {
@@ -91,7 +92,8 @@ template <Characters characters, typename Kind> std::size_t Find(std::string_vie
         auto found = isOfKind(Bytes(here, simd::element_aligned));
         if constexpr (characters == Characters::WellFormed) {
             if (at >= asked) {
-                const std::size_t blocks = std::min((text.size() - at) / Bytes::size(), blocksAtOnce);
+                const bool asksMore = at >= longFrom && text.size() - at >= blocksAtOnce * Bytes::size();
+                const std::size_t blocks = asksMore ? blocksAtOnce : 1;
                 isAscii = IsAscii(here, blocks);
                 asked = at + blocks * Bytes::size();
             }
