@@ -3,6 +3,7 @@
 #include "Framework/XMLSupport/XmlTree.h"
 
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -43,6 +44,16 @@ public:
     /// The way between a node and its reference; null and None go with each other.
     static xercesc::DOMNode* Node(NodeRef node);
     static NodeRef Ref(const xercesc::DOMNode* node);
+
+    /// For who goes over a tree from node to node: Xerces makes nodes one behind the other in memory, mostly in the
+    /// order of the document, so what will be read soon is fetched while this node is.
+    static void FetchAhead(NodeRef node) {
+        constexpr std::uintptr_t ahead = 2048;
+        constexpr std::uintptr_t line = 64;
+        for (std::uintptr_t at = ahead; at < ahead + 5 * line; at += line) { // about what one node more takes
+            __builtin_prefetch(reinterpret_cast<const void*>(static_cast<std::uintptr_t>(node) + at));
+        }
+    }
 
     /// True for the document and every node made by it, wherever that hangs. `node` must be a living node.
     bool Holds(const xercesc::DOMNode* node) const;

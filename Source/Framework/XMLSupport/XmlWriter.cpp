@@ -226,6 +226,9 @@ void Writer::WriteInstruction(NodeRef instruction) {
 
 /// Writes a node up to its first child. True when it has children, and is open now.
 bool Writer::Open(NodeRef node) {
+    if (m_dom != nullptr) {
+        DomTree::FetchAhead(node);
+    }
     const NodeKind kind = m_tree.Kind(node);
     if (IsLaidOut()) {
         if (kind == NodeKind::Text) {
