@@ -169,6 +169,9 @@ TEST(Utf, TellsWhatXmlAllows) {
     ForEveryOffset([](const std::string& before, std::size_t offset) {
         for (const std::string_view no : {"\0"sv, "\x08"sv, "\x0B"sv, "\x1F"sv, "\xEF\xBF\xBE"sv, "\xEF\xBF\xBF"sv}) {
             EXPECT_EQ(Framework::FindNonXmlText(before + std::string(no) + "behind it"), offset);
+            const std::string allowed = before + "\t\n\r \xEF\xBF\xBD\xEF\xBC\x8C\xF0\x9F\x98\x80";
+            EXPECT_EQ(Framework::FindForbidden(allowed), std::string_view::npos);
+            EXPECT_EQ(Framework::FindForbidden(allowed + std::string(no) + before), allowed.size());
             ExpectNoXmlIn(before, no);
         }
         EXPECT_TRUE(Framework::IsXmlText(before + "\t\n\r \x7F\xC2\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBD"

@@ -19,34 +19,41 @@ inline signed char Number(char byte) {
     return static_cast<signed char>(byte);
 }
 
+/// How many bytes in front of a block tell what it begins with.
+constexpr std::size_t kBytesInFront = 3;
+
 /// Whether all is ASCII and well formed characters of two bytes, which is told sooner than IsDoubtful tells of any. The
-/// last byte may lead one. Looks at two bytes in front.
+/// last byte may lead one.
 inline bool HasPairsOnly(const char* at) {
     constexpr auto number = [](unsigned byte) { return static_cast<signed char>(byte); };
+    const auto inFront = [at](int distance) { return static_cast<unsigned char>(at[-distance]); };
     const Bytes byte(at, simd::element_aligned);
     const Bytes before(at - 1, simd::element_aligned);
     const auto mustFollow = before > number(0xBF) && before < 0;
     const auto follows = byte < number(0xC0);
     const auto isOther = byte >= number(0xE0) && byte < 0;
     const auto isOverlong = (byte | 1) == number(0xC1);
-    return simd::none_of((follows != mustFollow) | isOther | isOverlong) & (static_cast<unsigned char>(at[-1]) < 0xE0) &
-           (static_cast<unsigned char>(at[-2]) < 0xE0);
+    return simd::none_of((follows != mustFollow) | isOther | isOverlong) & (inFront(1) < 0xE0) & (inFront(2) < 0xE0) &
+           (inFront(3) < 0xF0);
 }
 
-/// Where a longer character is not well formed, or is one that has to be looked at: those of four bytes are, and what
-/// begins with EF BF, which may not be allowed. Looks at two bytes in front.
+/// Where a longer character is not well formed, or has to be looked at: what begins with EF BF may not be allowed.
 inline Bytes::mask_type IsDoubtful(const char* at) {
     constexpr auto number = [](unsigned byte) { return static_cast<signed char>(byte); };
     const Bytes byte(at, simd::element_aligned);
     const Bytes before(at - 1, simd::element_aligned);
     const Bytes second(at - 2, simd::element_aligned);
+    const Bytes third(at - 3, simd::element_aligned);
     const auto follows = byte < number(0xC0);
-    const auto mustFollow = (before >= number(0xC0) && before < 0) || (second >= number(0xE0) && second < 0);
-    const auto isOverlong = before == number(0xE0) && byte < number(0xA0);
-    const auto isSurrogate = before == number(0xED) && byte >= number(0xA0);
+    const auto mustFollow = (before >= number(0xC0) && before < 0) || (second >= number(0xE0) && second < 0) ||
+                            (third >= number(0xF0) && third < 0);
+    const auto isOverlong =
+        (before == number(0xE0) && byte < number(0xA0)) || (before == number(0xF0) && byte < number(0x90));
+    const auto isTooHigh =
+        (before == number(0xED) && byte >= number(0xA0)) || (before == number(0xF4) && byte >= number(0x90));
     const auto isLast = before == number(0xEF) && byte == number(0xBF);
-    const auto isRare = (byte < 0 && byte >= number(0xF0)) || byte == number(0xC0) || byte == number(0xC1);
-    return follows != mustFollow || isOverlong || isSurrogate || isLast || isRare;
+    const auto isNone = (byte < 0 && byte > number(0xF4)) || byte == number(0xC0) || byte == number(0xC1);
+    return follows != mustFollow || isOverlong || isTooHigh || isLast || isNone;
 }
 
 /// Where the last character before `at` begins, when its end is missing; else `at`.
@@ -75,7 +82,7 @@ enum class Characters { Any, WellFormed };
 /// The first byte at or behind `at` that is of the kind, or where characters are to be well formed and that is in
 /// doubt; else the end of the text.
 template <Characters characters, typename Kind> std::size_t Find(std::string_view text, std::size_t at, Kind isOfKind) {
-    constexpr std::size_t inFront = characters == Characters::WellFormed ? 2 : 0;
+    constexpr std::size_t inFront = characters == Characters::WellFormed ? kBytesInFront : 0;
     for (; at < std::min(inFront, text.size()); ++at) {
         if (isOfKind(Number(text[at]))) {
             return at;

@@ -89,6 +89,17 @@ bool IsPair(const char* p) noexcept {
     return static_cast<unsigned char>(p[0] - '\xC2') <= 0xDF - 0xC2 && Number(p[1]) < Number('\xC0');
 }
 
+XMLCh CharacterOfTriple(const char* p) noexcept {
+    return static_cast<XMLCh>(((p[0] & 0xF) << 12) | ((p[1] & 0x3F) << 6) | (p[2] & 0x3F));
+}
+
+/// A character of three bytes that XML allows.
+bool IsTriple(const char* p) noexcept {
+    const XMLCh character = CharacterOfTriple(p);
+    return (p[0] & 0xF0) == 0xE0 && Number(p[1]) < Number('\xC0') && Number(p[2]) < Number('\xC0') &&
+           character >= 0x800 && (character & 0xF800) != 0xD800 && character < 0xFFFE;
+}
+
 XMLCh* PutUnits(XMLCh* out, char32_t character) noexcept {
     if (character < 0x10000) {
         *out++ = static_cast<XMLCh>(character);
@@ -191,6 +202,20 @@ std::size_t FindNonXmlText(std::string_view text) noexcept {
     return std::string_view::npos;
 }
 
+std::size_t FindForbidden(std::string_view text) noexcept {
+    const auto isControl = [](auto byte) {
+        return byte < ' ' && byte >= 0 && !(byte == '\t' || byte == '\n' || byte == '\r');
+    };
+    const auto isSuspect = [isControl](auto byte) { return isControl(byte) || byte == Number('\xEF'); };
+    for (std::size_t at = 0; (at = Find<Characters::Any>(text, at, isSuspect)) < text.size(); ++at) {
+        const std::string_view character = text.substr(at, 3);
+        if (isControl(Number(text[at])) || character == "\xEF\xBF\xBE" || character == "\xEF\xBF\xBF") {
+            return at;
+        }
+    }
+    return std::string_view::npos;
+}
+
 std::size_t Utf16Length(std::string_view text) {
     const char* p = text.data();
     const char* const end = p + text.size();
@@ -230,6 +255,11 @@ Utf16Copy CopyXmlUtf16(std::string_view text, XMLCh* out) noexcept {
             if (end - p > 1 && IsPair(p)) {
                 *out++ = static_cast<XMLCh>(((p[0] & 0x1F) << 6) | (p[1] & 0x3F));
                 p += 2;
+                continue;
+            }
+            if (end - p > 2 && IsTriple(p)) {
+                *out++ = CharacterOfTriple(p);
+                p += 3;
                 continue;
             }
             const Decoded decoded = Decode(p, end);
@@ -288,13 +318,14 @@ std::u16string ToUtf16(std::string_view text) {
 void AppendUtf8(std::string& text, const XMLCh* pUnits, std::size_t length) {
     constexpr std::size_t kMostBytes = 4; // of a character
     char room[1024];
+    const char* const last = std::end(room) - kBlock - kMostBytes; // where there is room for more
     const auto isHigh = [](XMLCh unit) { return (unit & 0xFC00) == 0xD800; };
     const auto isLow = [](XMLCh unit) { return (unit & 0xFC00) == 0xDC00; };
     const XMLCh* p = pUnits;
     const XMLCh* const end = p + length;
     while (p != end) {
         char* out = room;
-        while (p != end && out <= std::end(room) - kBlock - kMostBytes) {
+        while (p != end && out <= last) {
             if (static_cast<std::size_t>(end - p) >= kBlock) {
                 const std::size_t copied = CopyBlock(p, out);
                 p += copied;
@@ -303,13 +334,15 @@ void AppendUtf8(std::string& text, const XMLCh* pUnits, std::size_t length) {
                     continue;
                 }
             }
-            char32_t character = *p++;
-            if (isHigh(static_cast<XMLCh>(character)) && p != end && isLow(*p)) {
-                character = 0x10000 + ((character & 0x3FF) << 10) + (char32_t{*p++} & 0x3FF);
-            } else if (character >= 0xD800 && character <= 0xDFFF) {
-                character = 0xFFFD;
-            }
-            out = PutBytes(out, character);
+            do { // what is beyond ASCII mostly stands together, or alone
+                char32_t character = *p++;
+                if (isHigh(static_cast<XMLCh>(character)) && p != end && isLow(*p)) {
+                    character = 0x10000 + ((character & 0x3FF) << 10) + (char32_t{*p++} & 0x3FF);
+                } else if ((character & 0xF800) == 0xD800) {
+                    character = 0xFFFD;
+                }
+                out = PutBytes(out, character);
+            } while (p != end && *p >= 0x80 && out <= last);
         }
         text.append(room, out);
     }

@@ -16,6 +16,9 @@ std::size_t FindInvalidUtf8(std::string_view text) noexcept;
 /// Offset of the first malformed sequence or character that XML 1.0 does not allow, npos when there is none.
 std::size_t FindNonXmlText(std::string_view text) noexcept;
 
+/// The same for a text that is known to be well formed.
+std::size_t FindForbidden(std::string_view text) noexcept;
+
 /// Behind the characters beyond ASCII, well formed and allowed in XML 1.0, that stand at the offset; the offset itself
 /// when there is none.
 std::size_t BehindLongCharacters(std::string_view text, std::size_t offset) noexcept;

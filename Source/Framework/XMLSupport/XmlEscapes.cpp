@@ -108,6 +108,13 @@ bool IsXmlName(std::string_view name) {
 }
 
 bool NeedsNoEscape(std::string_view text) {
+    constexpr std::size_t kLongText = 64; // worth the start of a search in blocks
+    if (text.size() >= kLongText) {
+        const auto isSpecial = [](auto byte) {
+            return byte < ' ' || byte == '&' || byte == '<' || byte == '>' || byte == '"';
+        };
+        return Find<Characters::Any>(text, 0, isSpecial) == text.size();
+    }
     constexpr std::uint64_t kOnes = 0x0101010101010101U;
     constexpr std::uint64_t kHighBits = 0x80 * kOnes;
     // The high bit of a byte that is 0, and perhaps of one above it.

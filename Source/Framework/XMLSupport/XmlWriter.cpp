@@ -2,6 +2,7 @@
 
 #include "Framework/XMLSupport/DomTree.h"
 #include "Framework/XMLSupport/NodePath.h"
+#include "Framework/XMLSupport/Utf.h"
 #include "Framework/XMLSupport/XmlEscapes.h"
 
 #include <algorithm>
@@ -94,7 +95,8 @@ std::string_view Writer::CheckedValue(NodeRef node) {
 }
 
 void Writer::CheckValue(NodeRef node, std::string_view value) const {
-    if (const std::string forbidden = DescribeForbidden(value); !forbidden.empty()) {
+    const bool isAllowed = m_dom != nullptr && FindForbidden(value) == std::string_view::npos; // was UTF-16 just now
+    if (const std::string forbidden = isAllowed ? std::string() : DescribeForbidden(value); !forbidden.empty()) {
         Refuse(node, forbidden + " is not allowed in XML");
     }
     if (m_dom != nullptr && value.find("\xEF\xBF\xBD") != std::string_view::npos && DomTree::HasLoneSurrogate(node)) {
