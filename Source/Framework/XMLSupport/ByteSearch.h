@@ -89,23 +89,24 @@ template <Characters characters, typename Kind> std::size_t Find(std::string_vie
         }
     }
     // Whether a block has longer characters is different from each to the next, and the processor would guess wrong: in
-    // a long text some are asked at once. Most end sooner.
+    // a long text some are asked at once. Most end in the first.
     constexpr std::size_t blocksAtOnce = 4;
     const std::size_t longFrom = at + Bytes::size();
     std::size_t asked = 0;
     bool isAscii = true;
     for (; text.size() - at >= Bytes::size(); at += Bytes::size()) {
         const char* const here = text.data() + at;
-        auto found = isOfKind(Bytes(here, simd::element_aligned));
+        const Bytes bytes(here, simd::element_aligned);
+        auto found = isOfKind(bytes);
         if constexpr (characters == Characters::WellFormed) {
-            if (at >= asked) {
-                const bool asksMore = at >= longFrom && text.size() - at >= blocksAtOnce * Bytes::size();
-                const std::size_t blocks = asksMore ? blocksAtOnce : 1;
-                isAscii = IsAscii(here, blocks);
-                asked = at + blocks * Bytes::size();
+            if (at < longFrom || text.size() - at < blocksAtOnce * Bytes::size()) {
+                isAscii = Number(here[-1]) >= 0 && simd::none_of(bytes < 0);
+            } else if (at >= asked) {
+                isAscii = IsAscii(here, blocksAtOnce);
+                asked = at + blocksAtOnce * Bytes::size();
             }
             if (!isAscii) {
-                found = found && Bytes(here, simd::element_aligned) > Number('\xFF');
+                found = found && bytes > Number('\xFF');
                 if (!HasPairsOnly(here)) {
                     found = found || IsDoubtful(here);
                 }
