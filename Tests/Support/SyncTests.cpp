@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -40,30 +41,33 @@ template <typename Map> void ExpectUnlocked(Map& map) {
 }
 
 TEST(SyncMap, ClearDeletesOnceInKeyOrder) {
-    for (const int count : {3, 500}) { // an array and a table, each as it is and as a std::map
-        for (const bool isMap : {false, true}) {
-            std::vector<std::string> ended;
-            std::vector<std::string> expected;
-            Zelvon::SyncMap<zelString, Entry*> map;
-            for (int i = 0; i < count; ++i) {
-                const std::string name = "the same beginning " + std::to_string(i * 7919 % count);
-                Entry* const entry = new Entry(name, ended, i % 3 == 0);
-                map.setValue(name, entry, nullptr);
+    // An array and a table, each as it is and as a std::map, with values under one key and under two.
+    for (const auto& [count, isMap, isTwice] :
+         {std::tuple(3, false, true), std::tuple(3, true, true), std::tuple(500, false, true),
+          std::tuple(500, true, true), std::tuple(3, false, false), std::tuple(500, false, false)}) {
+        std::vector<std::string> ended;
+        std::vector<std::string> expected;
+        Zelvon::SyncMap<zelString, Entry*> map;
+        for (int i = 0; i < count; ++i) {
+            const std::string name = "the same beginning " + std::to_string(i * 7919 % count);
+            Entry* const entry = new Entry(name, ended, i % 3 == 0);
+            map.setValue(name, entry, nullptr);
+            if (isTwice) {
                 map.setValue("z" + name, entry, nullptr);
-                expected.push_back(name);
+                map.setValue("none", nullptr, nullptr);
             }
-            map.setValue("none", nullptr, nullptr);
-            if (isMap) {
-                map.contents();
-            }
-            std::sort(expected.begin(), expected.end());
-            map.clearMap(true);
-            EXPECT_EQ(ended, expected);
-            EXPECT_EQ(map.size(), 0U);
-            map.clearMap(true);
-            EXPECT_EQ(ended, expected);
-            ExpectUnlocked(map);
+            expected.push_back(name);
         }
+        if (isMap) {
+            map.contents();
+        }
+        std::sort(expected.begin(), expected.end());
+        map.clearMap(true);
+        EXPECT_EQ(ended, expected);
+        EXPECT_EQ(map.size(), 0U);
+        map.clearMap(true);
+        EXPECT_EQ(ended, expected);
+        ExpectUnlocked(map);
     }
 }
 
