@@ -33,8 +33,8 @@ inline bool HasPairsOnly(const char* at) {
     const auto follows = byte < number(0xC0);
     const auto isOther = byte >= number(0xE0) && byte < 0;
     const auto isOverlong = (byte | 1) == number(0xC1);
-    return simd::none_of((follows != mustFollow) | isOther | isOverlong) & (inFront(1) < 0xE0) & (inFront(2) < 0xE0) &
-           (inFront(3) < 0xF0);
+    return inFront(1) < 0xE0 && inFront(2) < 0xE0 && inFront(3) < 0xF0 &&
+           simd::none_of((follows != mustFollow) | isOther | isOverlong);
 }
 
 /// Where a longer character is not well formed, or has to be looked at: what begins with EF BF may not be allowed.
