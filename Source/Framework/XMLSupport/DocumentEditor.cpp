@@ -60,6 +60,12 @@ DocumentEditor::DocumentEditor(Document& document)
 // --- texts
 
 DocumentEditor::Region DocumentEditor::TextRegion(Number element, TextForm form) const {
+    Region region;
+    if (const Number only = OnlyText(element); only != 0) {
+        region.first = only;
+        region.hasSection = Record(only).kind == NodeKind::CData;
+        return region;
+    }
     std::vector<Number> texts;
     std::size_t firstSection = 0;
     std::size_t behindSections = 0;
@@ -73,7 +79,6 @@ DocumentEditor::Region DocumentEditor::TextRegion(Number element, TextForm form)
             behindSections = texts.size();
         }
     }
-    Region region;
     region.hasSection = behindSections != 0;
     if (form == TextForm::CData && region.hasSection) {
         texts.resize(behindSections);
@@ -84,6 +89,20 @@ DocumentEditor::Region DocumentEditor::TextRegion(Number element, TextForm form)
         region.others.assign(texts.begin() + 1, texts.end());
     }
     return region;
+}
+
+/// The one text of an element, as nearly all that are changed have; 0 when there is none or several.
+DocumentEditor::Number DocumentEditor::OnlyText(Number element) const {
+    Number found = 0;
+    for (Number child = Record(element).inner.firstChild; child != 0; child = Record(child).next) {
+        if (Record(child).IsText()) {
+            if (found != 0) {
+                return 0;
+            }
+            found = child;
+        }
+    }
+    return found;
 }
 
 void DocumentEditor::Touch(Number element) {
@@ -100,12 +119,9 @@ void DocumentEditor::RememberTexts(Number element, Number first) {
         return;
     }
     Touch(element);
-    if (m_changes.texts.contains(element)) {
-        return;
-    }
-    std::vector<Number> texts = StandingTexts(element);
-    if (texts.size() != 1 || texts.front() != first) {
-        m_changes.texts.emplace(element, std::move(texts));
+    const bool needsNote = first == 0 || first != OnlyParsedText(element);
+    if (needsNote && !m_changes.texts.contains(element)) {
+        m_changes.texts.emplace(element, StandingTexts(element));
     }
 }
 
@@ -178,12 +194,22 @@ std::vector<DocumentEditor::Number> DocumentEditor::StandingTexts(Number element
     return texts;
 }
 
+/// The one text of an element that has no other and had no other when it was parsed; else 0.
+DocumentEditor::Number DocumentEditor::OnlyParsedText(Number element) const {
+    const Number only = m_changes.texts.contains(element) ? 0 : OnlyText(element);
+    return only < m_changes.parsedNodes ? only : 0;
+}
+
 const NodeRecord& DocumentEditor::ParsedRecord(Number number) const {
     const NodeRecord& record = Record(number);
     return record.leaf.holder == ValueHolder::Written ? m_changes.values[record.leaf.valueBegin].parsed : record;
 }
 
 void DocumentEditor::RestoreText(Number element) {
+    if (const Number only = OnlyParsedText(element); only != 0) {
+        RestoreLeaf(only);
+        return;
+    }
     const std::vector<Number> parsed = ParsedTexts(element);
     const std::unordered_set<Number> blanks = BlanksOfAdded(element);
     for (Number child = Record(element).inner.firstChild; child != 0;) {
@@ -274,13 +300,16 @@ void DocumentEditor::AddElement(const ElementPlace& place, std::string_view name
 
 // --- what was before
 
-std::optional<std::string> DocumentEditor::Parsed(NodeRef node, TextForm form) const {
+std::optional<std::string_view> DocumentEditor::Parsed(NodeRef node, TextForm form, std::string& room) const {
     const Number number = NumberOf(node);
     if (number >= m_changes.parsedNodes) {
         return std::nullopt;
     }
     if (Record(number).kind == NodeKind::Attribute) {
-        return std::string(Text(m_data, ParsedRecord(number)));
+        return Text(m_data, ParsedRecord(number));
+    }
+    if (const Number only = OnlyParsedText(number); only != 0) {
+        return Text(m_data, ParsedRecord(only));
     }
     const std::vector<Number> parsed = ParsedTexts(number);
     auto begin = parsed.begin();
@@ -293,9 +322,9 @@ std::optional<std::string> DocumentEditor::Parsed(NodeRef node, TextForm form) c
             end = std::find_if(parsed.rbegin(), parsed.rend(), isSection).base();
         }
     }
-    std::string text;
-    std::for_each(begin, end, [&](Number each) { text.append(Text(m_data, ParsedRecord(each))); });
-    return text;
+    room.clear();
+    std::for_each(begin, end, [&](Number each) { room.append(Text(m_data, ParsedRecord(each))); });
+    return room;
 }
 
 void DocumentEditor::Restore(NodeRef node) {
@@ -366,7 +395,8 @@ DocumentEditor::Number DocumentEditor::NewText(std::string_view text, NodeKind k
 DocumentEditor::Number DocumentEditor::NewValue(std::string_view text, const NodeRecord& parsed) {
     if (!m_changes.freeValues.empty()) {
         const Number value = m_changes.freeValues.back();
-        m_changes.values[value] = {std::string(text), parsed};
+        m_changes.values[value].text.assign(text);
+        m_changes.values[value].parsed = parsed;
         m_changes.freeValues.pop_back();
         return value;
     }
@@ -377,23 +407,29 @@ DocumentEditor::Number DocumentEditor::NewValue(std::string_view text, const Nod
 
 /// Moves the node's value to where values can change, with what it was.
 void DocumentEditor::Keep(Number number) {
-    NodeRecord& record = Record(number);
-    if (record.leaf.holder != ValueHolder::Written) {
-        const Number value = NewValue(Text(m_data, record), record);
-        record.leaf.valueBegin = value;
-        record.leaf.holder = ValueHolder::Written;
+    if (Record(number).leaf.holder != ValueHolder::Written) {
+        Write(number, Text(m_data, Record(number)));
     }
 }
 
 void DocumentEditor::Write(Number number, std::string_view text) {
-    std::string written(text);
-    Keep(number);
-    m_changes.values[Record(number).leaf.valueBegin].text.swap(written);
+    NodeRecord& record = Record(number);
+    if (record.leaf.holder == ValueHolder::Written) {
+        m_changes.values[record.leaf.valueBegin].text.assign(text);
+        return;
+    }
+    const Number value = NewValue(text, record);
+    record.leaf.valueBegin = value;
+    record.leaf.holder = ValueHolder::Written;
 }
 
 void DocumentEditor::ReleaseValue(NodeRecord& record) noexcept {
+    constexpr std::size_t mostKept = 256; // one of that size mostly gives its room to another soon
     if (record.leaf.holder == ValueHolder::Written) {
-        std::string().swap(m_changes.values[record.leaf.valueBegin].text);
+        std::string& text = m_changes.values[record.leaf.valueBegin].text;
+        if (text.capacity() > mostKept) {
+            std::string().swap(text);
+        }
         m_changes.freeValues.push_back(record.leaf.valueBegin);
         record.leaf = {};
     }

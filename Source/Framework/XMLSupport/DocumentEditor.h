@@ -17,7 +17,7 @@ public:
     void SetValue(NodeRef attribute, std::string_view value) override;
     void AddAttribute(NodeRef element, std::string_view name, std::string_view value) override;
     void AddElement(const ElementPlace& place, std::string_view name, std::string_view text, TextForm form) override;
-    std::optional<std::string> Parsed(NodeRef node, TextForm form) const override;
+    std::optional<std::string_view> Parsed(NodeRef node, TextForm form, std::string& room) const override;
     void Restore(NodeRef node) override;
     bool IsAdded(NodeRef node) const override;
     void Remove(NodeRef node) override;
@@ -33,12 +33,14 @@ private:
     NodeRecord& Record(Number number) { return m_data.nodes[number]; }
     const NodeRecord& Record(Number number) const { return m_data.nodes[number]; }
     Region TextRegion(Number element, TextForm form) const;
+    Number OnlyText(Number element) const;
     void Touch(Number element);
     void RememberTexts(Number element, Number first);
     void TakeOverBlanks(Number element) noexcept;
     std::unordered_set<Number> BlanksOfAdded(Number element) const;
     std::vector<Number> ParsedTexts(Number element) const;
     std::vector<Number> StandingTexts(Number element) const;
+    Number OnlyParsedText(Number element) const;
     const NodeRecord& ParsedRecord(Number number) const;
     void RestoreText(Number element);
     void RestoreLeaf(Number number) noexcept;

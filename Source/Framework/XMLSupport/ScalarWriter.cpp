@@ -81,7 +81,8 @@ bool Reads(const XmlTree& tree, NodeRef node, TextForm form, ValueKind kind, std
 void Change(WrapperState& wrapper, NodeRef node, std::string_view text, TextForm form, ValueKind kind) {
     CheckText(wrapper, node, "", text);
     TreeEditor& editor = wrapper.Edit();
-    const std::optional<std::string> parsed = editor.Parsed(node, form);
+    std::string room;
+    const std::optional<std::string_view> parsed = editor.Parsed(node, form, room);
     const bool isAttribute = wrapper.Tree()->Kind(node) == NodeKind::Attribute;
     if (parsed.has_value() && ReadsAlike(kind, *parsed, text)) {
         editor.Restore(node);

@@ -29,8 +29,11 @@ public:
 
     // What a tree may remember of itself, so that a value that returns to what it was leaves no trace.
 
-    /// What an element's text or an attribute's value was when it was parsed; nothing when that did not change.
-    virtual std::optional<std::string> Parsed(NodeRef, TextForm) const { return std::nullopt; }
+    /// What an element's text or an attribute's value was when it was parsed; nothing when that did not change. The
+    /// view points into the tree, until that is changed, or into `room`.
+    virtual std::optional<std::string_view> Parsed(NodeRef, TextForm, std::string& /*room*/) const {
+        return std::nullopt;
+    }
     /// Puts it back, in the very shape it had.
     virtual void Restore(NodeRef) {}
     /// True for what AddElement and AddAttribute made.
