@@ -43,10 +43,11 @@ public:
     Patches Make() {
         std::vector<std::uint32_t> touched = m_data.changes.touched;
         SortEachOnce(touched);
-        for (const std::uint32_t element : touched) {
-            PatchAttributes(element);
-            PatchRemoved(element);
-            PatchChildren(element);
+        for (std::size_t i = 0; i < touched.size(); ++i) {
+            FetchAhead(touched, i);
+            PatchAttributes(touched[i]);
+            PatchRemoved(touched[i]);
+            PatchChildren(touched[i]);
         }
         const auto isBefore = [](const Patch& left, const Patch& right) {
             return std::tie(left.begin, left.end) < std::tie(right.begin, right.end);
@@ -63,6 +64,31 @@ private:
     bool IsAdded(std::uint32_t number) const { return number >= m_data.changes.parsedNodes; }
     std::string_view Value(const NodeRecord& record) const {
         return m_data.changes.values[record.leaf.valueBegin].text;
+    }
+
+    /// Elements that were changed lie far apart, and so do their new texts. What the next ones need is asked for while
+    /// the one at `at` is compared, each place as soon as it is known where it is.
+    [[gnu::always_inline]] void FetchAhead(const std::vector<std::uint32_t>& touched, std::size_t at) const {
+        constexpr std::size_t each = 4;
+        const auto firstChild = [&](std::size_t i) { return Record(touched[i]).inner.firstChild; };
+        const auto isWritten = [&](std::size_t i) {
+            const NodeRecord& child = Record(firstChild(i));
+            return child.IsText() && child.leaf.holder == ValueHolder::Written;
+        };
+        if (at + 4 * each < touched.size()) {
+            __builtin_prefetch(&Record(touched[at + 4 * each]));
+        }
+        if (at + 3 * each < touched.size()) {
+            __builtin_prefetch(&Record(firstChild(at + 3 * each)));
+        }
+        if (at + 2 * each < touched.size() && isWritten(at + 2 * each)) {
+            __builtin_prefetch(&m_data.changes.values[Record(firstChild(at + 2 * each)).leaf.valueBegin]);
+        }
+        if (at + each < touched.size() && isWritten(at + each)) {
+            const std::string_view text = Value(Record(firstChild(at + each)));
+            __builtin_prefetch(text.data());
+            __builtin_prefetch(text.data() + 64);
+        }
     }
 
     /// What was appended to the texts since they ended at `textBegin` takes the place of a stretch of the source.
