@@ -94,6 +94,9 @@ TEST(QueryChain, GivesItsTextAndMayBeAsLongAsAList) {
     chain = QueryChain("//r");
     const QueryChain start = chain;
     EXPECT_EQ(chain.Below("a").Below("b").Text(), "//r/a/b");
+    const QueryChain left = start.Below("left");
+    const QueryChain right = start.Below("right"); // behind the same segment as the one before
+    EXPECT_EQ(left.Below("x").Text() + right.Below("y").Text() + start.Text(), "//r/left/x//r/right/y//r");
     for (int i = 0; i < 300'000; ++i) {
         chain = chain.Below("a");
     }

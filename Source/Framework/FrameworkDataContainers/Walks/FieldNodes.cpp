@@ -2,12 +2,20 @@
 
 #include "Framework/XMLSupport/TreeReading.h"
 
+#include <algorithm>
+
 namespace Framework {
 
 namespace {
 
 bool IsTextList(const FieldRow& row) {
     return row.list != nullptr && row.value != FieldValue::Container;
+}
+
+/// Not those that stand for an object, which remembers its node itself.
+bool HasElements(std::span<const FieldRow> rows) {
+    return std::any_of(rows.begin(), rows.end(),
+                       [](const FieldRow& row) { return row.form == FieldForm::Element || IsTextList(row); });
 }
 
 } // namespace
@@ -28,6 +36,9 @@ const std::vector<NodeRef>& FieldNodes::List(const FieldRow& row) const {
 }
 
 void FieldNodes::TakeElements(const XmlTree& tree, NodeRef element) {
+    if (!HasElements(m_rows)) {
+        return; // such an object may have a long list of others below it
+    }
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         if (!m_rows[i].loadText.empty()) {
             m_single[i] = NodeRef::None; // every load assigns that text first

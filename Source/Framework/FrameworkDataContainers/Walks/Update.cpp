@@ -60,7 +60,6 @@ public:
 
     void WriteRow(const FieldRow& row) {
         FaultPoint("Update");
-        FindNodes();
         switch (row.form) {
         case FieldForm::Attribute:
         case FieldForm::Element:
@@ -79,7 +78,6 @@ public:
 
     /// Writes one text of a list; false when it has no node.
     bool WriteEntry(const FieldRow& row, std::size_t position) {
-        FindNodes();
         if (row.form == FieldForm::PlainList) {
             return WritePlainText(row, position);
         }
@@ -93,7 +91,11 @@ private:
         const zelString name = m_object.GetContainerName();
         const bool goesOn = ContainerAccess::IsNested(m_object) && m_state.current != NodeRef::None;
         m_isDom = m_state.domIsMaster;
-        m_state.query = goesOn ? m_state.query.Below(name) : QueryChain("//" + name);
+        if (goesOn) {
+            m_state.query.Append(name);
+        } else {
+            m_state.query = QueryChain("//" + name);
+        }
         m_node = ContainerAccess::Node(m_object);
         if (m_node == NodeRef::None) {
             m_node = goesOn ? m_state.current : m_state.Find("//" + name, true);
@@ -113,10 +115,12 @@ private:
         }
     }
 
-    void FindNodes() {
+    /// Found when the first field needs them: many objects are nothing but a list of others.
+    const FieldNodes& Nodes() {
         if (!m_nodes.has_value()) {
             m_nodes.emplace(Tree(), m_table, m_state.Here(), ContainerAccess::EarlierNodes(m_object));
         }
+        return *m_nodes;
     }
 
     template <typename Step> bool Try(Step step) {
@@ -160,11 +164,12 @@ private:
     }
 
     bool WriteScalar(const FieldRow& row) {
-        const NodeRef present = m_nodes->Single(row);
+        const NodeRef present = Nodes().Single(row);
         if (IsSurelyUnchanged(row, present)) {
             return true;
         }
-        const zelString text = ScalarText(m_object, row);
+        zelString room;
+        const std::string_view text = ScalarText(m_object, row, room);
         const zelString absent = AbsentText(row);
         FieldHint hint{.name = row.name,
                        .isAttribute = row.form == FieldForm::Attribute,
@@ -206,7 +211,7 @@ private:
         } else {
             const std::size_t length = row.value == FieldValue::String ? (m_object.*row.member.texts).size()
                                                                        : (m_object.*row.member.words).size();
-            for (std::size_t i = 0; i < length && i < m_nodes->List(row).size(); ++i) {
+            for (std::size_t i = 0; i < length && i < Nodes().List(row).size(); ++i) {
                 const bool isThere = row.value == FieldValue::String || (m_object.*row.member.words)[i] != nullptr;
                 if (isThere) {
                     m_success = WritePlainText(row, i);
@@ -216,7 +221,7 @@ private:
     }
 
     bool WritePlainText(const FieldRow& row, std::size_t position) {
-        const std::vector<NodeRef>& nodes = m_nodes->List(row);
+        const std::vector<NodeRef>& nodes = Nodes().List(row);
         if (position >= nodes.size()) {
             Report("cannot write " + std::string(row.name) + "[" + std::to_string(position + 1) +
                    "]: the document has no such entry");
@@ -238,7 +243,7 @@ private:
     /// the first is written. Returns how many of them stand in the document now.
     std::size_t WriteKeyedTexts(const FieldRow& row, std::size_t begin = 0, std::size_t end = std::string::npos) {
         const TextVector& texts = m_object.*row.member.keyedTexts;
-        KeyedTextNodes nodes(m_object, row, Tree(), m_nodes->List(row));
+        KeyedTextNodes nodes(m_object, row, Tree(), Nodes().List(row));
         std::vector<TextToWrite> changed;
         std::size_t standing = 0;
         for (std::size_t i = begin; i < std::min(end, texts.size()); ++i) {
