@@ -68,8 +68,8 @@ public:
     }
 
     /// Empties the table, and hands every pointer that is not null to `work` in the order of the bytes of the keys; one
-    /// that stands under several keys once, under the first. Needs no memory. `work` must not throw, nor use this
-    /// table.
+    /// that stands under several keys once, under the first. Does without memory where there is none, but is slower
+    /// then. `work` must not throw, nor use this table.
     template <typename Work> void TakeOutInOrder(Work work) noexcept {
         PointersByText taken;
         std::swap(taken.m_block, m_block);
@@ -77,7 +77,7 @@ public:
         std::array<void*, kFew> few;
         const std::size_t count = table == nullptr ? taken.OrderFew(few) : OrderOnce(*table);
         for (std::size_t i = 0; i < count; ++i) {
-            if (void* const value = table == nullptr ? few[i] : table->words[table->slots[i].entry]) {
+            if (void* const value = table == nullptr ? few[i] : table->words[table->slots[i]]) {
                 work(value);
             }
         }
@@ -94,14 +94,16 @@ private:
         std::uint32_t room = 0; // words; 0: it is a Table
         std::uint32_t used = 0; // words, slots
     };
-    struct Slot {
-        std::uint32_t entry = 0; // its word; 0: free
-        std::uint32_t hash = 0;
-    };
+    // A slot has the word of an entry in its lower bits and, so that other keys are mostly told without a look at them,
+    // a part of the hash in those above; 0: free. So small, the slots of some 100,000 keys stay in a processor's cache.
+    using Slot = std::uint32_t;
     struct Table : Block {
         std::vector<Slot> slots; // a power of two
         std::vector<void*> words;
-        std::uint32_t gone = 0; // slots of what was taken out, still part of the chains of others
+        std::uint32_t entryBits = 0; // of a slot
+        std::uint32_t gone = 0;      // slots of what was taken out, still part of the chains of others
+
+        std::size_t EntryOf(Slot slot) const noexcept { return slot & ((Slot{1} << entryBits) - 1); }
     };
 
     bool IsTable() const noexcept { return m_block != nullptr && m_block->room == 0; }
@@ -116,12 +118,14 @@ private:
     Entry At(std::size_t place) const noexcept;
     bool RemoveAt(std::size_t place) noexcept;
     std::size_t PlaceInFew(std::string_view key) const noexcept;
-    static std::size_t PlaceInTable(const Table& table, std::string_view key, std::uint32_t hash) noexcept;
+    static std::size_t PlaceInTable(const Table& table, std::string_view key) noexcept;
     void AddToFew(std::string_view key, void* value);
     void MakeRoomInFew(std::size_t words);
+    static void MakeEmpty(Table& table, std::size_t entries, std::size_t words);
     static void AddToTable(Table& table, std::string_view key, void* value);
-    Table& MakeTable();
-    void MakeRoom(Table& table) const;
+    static void Enter(Table& table, std::size_t entry) noexcept;
+    void MakeTable();
+    void MakeRoomInTable(std::size_t words);
     void CopyTo(Table& fresh) const;
     static void Free(Block* block) noexcept;
     std::size_t OrderFew(std::array<void*, kFew>& values) const noexcept;

@@ -740,6 +740,42 @@ TEST(Faults, AThreadMayBeginWithoutMemory) {
     EXPECT_GE(failures, 2);
 }
 
+/// A list must come empty also when there is no memory, and in the order of its keys.
+TEST(Faults, AMapEndsItsValuesInOrderWithoutMemory) {
+    struct Value {
+        ~Value() { ended->push_back(number); }
+        int number;
+        std::vector<int>* ended;
+    };
+    std::vector<int> ended;
+    std::vector<int> expected;
+    ended.reserve(1000);
+    Zelvon::SyncMap<zelString, Value*> map;
+    for (int i = 0; i < 1000; ++i) {
+        const int number = i * 7919 % 1000;
+        auto* const value = new Value{number, &ended};
+        map.setValue("the same beginning " + std::to_string(1000 + number), value, nullptr);
+        map.setValue(std::to_string(number), i % 2 == 0 ? value : nullptr, nullptr);
+    }
+    std::map<std::string, int> ofEven; // under their other key, which comes before "the ..."
+    for (int i = 0; i < 1000; i += 2) {
+        ofEven.emplace(std::to_string(i * 7919 % 1000), i * 7919 % 1000);
+    }
+    for (const auto& [key, number] : ofEven) {
+        expected.push_back(number);
+    }
+    for (int number = 0; number < 1000; ++number) {
+        if (!ofEven.contains(std::to_string(number))) {
+            expected.push_back(number);
+        }
+    }
+    {
+        const FailingMemory memory(0, true);
+        map.clearMap(true);
+    }
+    EXPECT_EQ(ended, expected);
+}
+
 TEST(Faults, AnyStepOfTheXmlLayerMayFail) {
     SweepAll(StepFault());
 }

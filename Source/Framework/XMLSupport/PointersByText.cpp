@@ -3,11 +3,13 @@
 #include "Framework/XMLSupport/TextHash.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 #include <functional>
 #include <limits>
 #include <memory>
 #include <new>
+#include <span>
 #include <stdexcept>
 #include <utility>
 
@@ -21,9 +23,8 @@ constexpr std::size_t kFirstTable = 32;
 constexpr std::size_t kFirstWords = 6; // two or three entries with short keys
 constexpr std::uint32_t kGone = std::numeric_limits<std::uint32_t>::max();
 
-std::uint32_t HashOf(std::string_view key) noexcept {
-    const std::uint64_t hash = Framework::TextHash()(key);
-    return static_cast<std::uint32_t>(hash ^ (hash >> 32U));
+std::uint64_t HashOf(std::string_view key) noexcept {
+    return Framework::TextHash()(key);
 }
 
 /// A text that stands behind its length.
@@ -32,6 +33,10 @@ std::string_view TextAt(void* const* at) noexcept {
     Length length = 0;
     std::memcpy(&length, bytes, sizeof length);
     return {bytes + sizeof length, length};
+}
+
+std::string_view KeyOf(const std::vector<void*>& words, std::size_t entry) noexcept {
+    return TextAt(&words[entry + 1]);
 }
 
 /// What an entry takes.
@@ -66,7 +71,7 @@ void CheckLength(std::size_t words, std::string_view key) {
 /// Surely no value twice: the heap mostly gave each object a place behind the last. The first word is no entry.
 bool HasEachOnce(const std::vector<void*>& words) noexcept {
     const void* last = nullptr;
-    for (std::size_t place = 1; place < words.size(); place += WordsFor(TextAt(&words[place + 1]).size())) {
+    for (std::size_t place = 1; place < words.size(); place += WordsFor(KeyOf(words, place).size())) {
         if (!std::less<>()(last, static_cast<const void*>(words[place]))) {
             return false;
         }
@@ -75,12 +80,56 @@ bool HasEachOnce(const std::vector<void*>& words) noexcept {
     return true;
 }
 
-template <typename Slots> std::size_t FreePlace(const Slots& slots, std::uint32_t hash) noexcept {
-    std::size_t place = hash & (slots.size() - 1);
-    while (slots[place].entry != 0) {
-        place = (place + 1) & (slots.size() - 1);
+/// What a slot has of the hash, above its entry.
+std::uint32_t MarkOf(std::uint64_t hash, std::uint32_t entryBits) noexcept {
+    return static_cast<std::uint32_t>(hash >> 32U) >> entryBits << entryBits;
+}
+
+/// An entry and what its key begins with, which settles most comparisons.
+struct KeyedEntry {
+    std::uint64_t begin;
+    std::uint32_t entry;
+};
+
+std::uint64_t BeginOf(std::string_view key) noexcept {
+    std::uint64_t begin = 0;
+    for (std::size_t i = 0; i < sizeof begin; ++i) {
+        begin = (begin << 8U) | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
     }
-    return place;
+    return begin;
+}
+
+/// Nulls every value that stands under an earlier key too.
+void KeepFirstOfEach(std::span<std::uint32_t> entries, std::vector<void*>& words) noexcept {
+    std::sort(entries.begin(), entries.end(), [&](std::uint32_t a, std::uint32_t b) {
+        return words[a] != words[b] ? std::less<>()(words[a], words[b]) : KeyOf(words, a) < KeyOf(words, b);
+    });
+    const void* last = nullptr;
+    for (const std::uint32_t entry : entries) {
+        if (words[entry] == last) {
+            words[entry] = nullptr;
+        } else {
+            last = words[entry];
+        }
+    }
+}
+
+/// Brings entries into the order of their keys. Where there is no memory each comparison looks at both keys.
+void SortByKey(std::span<std::uint32_t> entries, const std::vector<void*>& words) noexcept {
+    const auto keyOf = [&](std::uint32_t entry) { return KeyOf(words, entry); };
+    const std::unique_ptr<KeyedEntry[]> keyed(new (std::nothrow) KeyedEntry[entries.size()]);
+    if (keyed == nullptr) {
+        std::sort(entries.begin(), entries.end(),
+                  [&](std::uint32_t a, std::uint32_t b) { return keyOf(a) < keyOf(b); });
+        return;
+    }
+    KeyedEntry* const end = std::transform(entries.begin(), entries.end(), keyed.get(), [&](std::uint32_t entry) {
+        return KeyedEntry{BeginOf(keyOf(entry)), entry};
+    });
+    std::sort(keyed.get(), end, [&](const KeyedEntry& a, const KeyedEntry& b) {
+        return a.begin != b.begin ? a.begin < b.begin : keyOf(a.entry) < keyOf(b.entry);
+    });
+    std::transform(keyed.get(), end, entries.begin(), [](const KeyedEntry& each) { return each.entry; });
 }
 
 } // namespace
@@ -116,12 +165,12 @@ std::size_t PointersByText::Next(std::size_t place) const noexcept {
 
 bool PointersByText::IsTaken(std::size_t place) const noexcept {
     const Table* const table = AsTable();
-    return table == nullptr || (table->slots[place].entry != 0 && table->slots[place].entry != kGone);
+    return table == nullptr || (table->slots[place] != 0 && table->slots[place] != kGone);
 }
 
 PointersByText::Entry PointersByText::At(std::size_t place) const noexcept {
     const Table* const table = AsTable();
-    void* const* const entry = table == nullptr ? &Words()[place] : &table->words[table->slots[place].entry];
+    void* const* const entry = table == nullptr ? &Words()[place] : &table->words[table->EntryOf(table->slots[place])];
     return {TextAt(entry + 1), *entry};
 }
 
@@ -140,13 +189,16 @@ std::size_t PointersByText::PlaceInFew(std::string_view key) const noexcept {
 }
 
 /// Where the key stands, else where it would come to stand.
-std::size_t PointersByText::PlaceInTable(const Table& table, std::string_view key, std::uint32_t hash) noexcept {
+std::size_t PointersByText::PlaceInTable(const Table& table, std::string_view key) noexcept {
     const std::vector<Slot>& slots = table.slots;
-    const auto isOther = [&](const Slot& slot) {
-        return slot.hash != hash || slot.entry == kGone || TextAt(&table.words[slot.entry + 1]) != key;
+    const std::uint64_t hash = HashOf(key);
+    const Slot mark = MarkOf(hash, table.entryBits);
+    const auto isOther = [&](Slot slot) {
+        const std::size_t entry = table.EntryOf(slot);
+        return slot - entry != mark || slot == kGone || KeyOf(table.words, entry) != key;
     };
     std::size_t place = hash & (slots.size() - 1);
-    while (slots[place].entry != 0 && isOther(slots[place])) {
+    while (slots[place] != 0 && isOther(slots[place])) {
         place = (place + 1) & (slots.size() - 1);
     }
     return place;
@@ -154,8 +206,8 @@ std::size_t PointersByText::PlaceInTable(const Table& table, std::string_view ke
 
 void** PointersByText::Find(std::string_view key) const noexcept {
     if (Table* const table = AsTable()) {
-        const std::uint32_t entry = table->slots[PlaceInTable(*table, key, HashOf(key))].entry;
-        return entry == 0 ? nullptr : &table->words[entry];
+        const Slot slot = table->slots[PlaceInTable(*table, key)];
+        return slot == 0 ? nullptr : &table->words[table->EntryOf(slot)];
     }
     const std::size_t place = PlaceInFew(key);
     if (place == UsedWords()) {
@@ -180,9 +232,12 @@ void PointersByText::AddAbsent(std::string_view key, void* value) {
         AddToFew(key, value);
         return;
     }
-    Table& table = IsTable() ? *AsTable() : MakeTable();
-    MakeRoom(table);
-    AddToTable(table, key, value);
+    if (!IsTable()) {
+        MakeTable();
+    }
+    CheckLength(AsTable()->words.size(), key);
+    MakeRoomInTable(WordsFor(key.size()));
+    AddToTable(*AsTable(), key, value);
 }
 
 void PointersByText::MakeRoomFor(std::string_view key) {
@@ -200,14 +255,22 @@ void PointersByText::AddToFew(std::string_view key, void* value) {
     m_block->used = static_cast<std::uint32_t>(words);
 }
 
-/// The table has a free slot.
+/// The table has room for it.
 void PointersByText::AddToTable(Table& table, std::string_view key, void* value) {
     const std::size_t entry = table.words.size();
-    CheckLength(entry, key);
     table.words.resize(entry + WordsFor(key.size())); // doubles at least when it has to grow
     WriteEntry(&table.words[entry], key, value);
-    const std::uint32_t hash = HashOf(key);
-    table.slots[FreePlace(table.slots, hash)] = {static_cast<std::uint32_t>(entry), hash};
+    Enter(table, entry);
+}
+
+/// Gives an entry among the words its slot.
+void PointersByText::Enter(Table& table, std::size_t entry) noexcept {
+    const std::uint64_t hash = HashOf(KeyOf(table.words, entry));
+    std::size_t place = hash & (table.slots.size() - 1);
+    while (table.slots[place] != 0) {
+        place = (place + 1) & (table.slots.size() - 1);
+    }
+    table.slots[place] = MarkOf(hash, table.entryBits) | static_cast<Slot>(entry);
     ++table.used;
 }
 
@@ -227,36 +290,42 @@ void PointersByText::MakeRoomInFew(std::size_t words) {
     Free(std::exchange(m_block, larger));
 }
 
-/// Goes over to a table, as the entries are no longer few.
-PointersByText::Table& PointersByText::MakeTable() {
-    auto table = std::make_unique<Table>();
-    table->slots.resize(kFirstTable);
-    CopyTo(*table);
-    Free(std::exchange(m_block, table.release()));
-    return *AsTable();
+/// Slots for twice the entries, and twice the words, before they have to be made anew.
+void PointersByText::MakeEmpty(Table& table, std::size_t entries, std::size_t words) {
+    std::size_t places = kFirstTable;
+    while (entries * 2 > places) {
+        places *= 2;
+    }
+    table.slots.resize(places);
+    table.entryBits = static_cast<std::uint32_t>(std::bit_width(words * 2));
 }
 
-/// For one more entry. What was taken out ends here, and so do its texts.
-void PointersByText::MakeRoom(Table& table) const {
-    if ((table.used + std::size_t{1}) * 4 <= table.slots.size() * 3) {
+/// Goes over to a table, as the entries are no longer few.
+void PointersByText::MakeTable() {
+    auto table = std::make_unique<Table>();
+    MakeEmpty(*table, kFew, UsedWords());
+    CopyTo(*table);
+    Free(std::exchange(m_block, table.release()));
+}
+
+/// For one more entry of so many words. What was taken out ends here, and so do its texts.
+void PointersByText::MakeRoomInTable(std::size_t words) {
+    Table& table = *AsTable();
+    const bool hasSlot = (table.used + std::size_t{1}) * 5 <= table.slots.size() * 4;
+    const std::size_t allWords = table.words.size() + words;
+    if (hasSlot && allWords < (std::size_t{1} << table.entryBits)) {
         return;
     }
     Table larger;
-    std::size_t places = kFirstTable;
-    while ((Size() + 1) * 2 > places) {
-        places *= 2;
-    }
-    larger.slots.resize(places);
+    MakeEmpty(larger, Size() + 1, allWords);
     if (table.gone > 0) {
         CopyTo(larger);
-    } else { // the entries stay where they are
-        for (const Slot& slot : table.slots) {
-            if (slot.entry != 0) {
-                larger.slots[FreePlace(larger.slots, slot.hash)] = slot;
-            }
+    } else {
+        larger.words.swap(table.words); // the entries stay where they are
+        for (std::size_t entry = 1; entry < larger.words.size();) {
+            Enter(larger, entry);
+            entry += WordsFor(KeyOf(larger.words, entry).size());
         }
-        larger.words.swap(table.words);
-        larger.used = table.used;
     }
     table = std::move(larger);
 }
@@ -268,8 +337,8 @@ void PointersByText::CopyTo(Table& fresh) const {
 
 bool PointersByText::Remove(std::string_view key) noexcept {
     const Table* const table = AsTable();
-    const std::size_t place = table == nullptr ? PlaceInFew(key) : PlaceInTable(*table, key, HashOf(key));
-    const bool isThere = table == nullptr ? place < UsedWords() : table->slots[place].entry != 0;
+    const std::size_t place = table == nullptr ? PlaceInFew(key) : PlaceInTable(*table, key);
+    const bool isThere = table == nullptr ? place < UsedWords() : table->slots[place] != 0;
     if (isThere) {
         RemoveAt(place);
     }
@@ -279,7 +348,7 @@ bool PointersByText::Remove(std::string_view key) noexcept {
 /// True when another entry has come to that place.
 bool PointersByText::RemoveAt(std::size_t place) noexcept {
     if (Table* const table = AsTable()) {
-        table->slots[place] = {kGone, 0};
+        table->slots[place] = kGone;
         ++table->gone;
         return false;
     }
@@ -312,42 +381,19 @@ std::size_t PointersByText::OrderFew(std::array<void*, kFew>& values) const noex
     return count;
 }
 
-/// The same with the entries of a table, which come to its front: brings them in the order of their keys, and nulls
-/// every value that stands under an earlier key too. The number of entries.
+/// The same with a table: its slots begin with the words of the entries in that order then. How many.
 std::size_t PointersByText::OrderOnce(Table& table) noexcept {
-    const auto keyOf = [&](const Slot& slot) { return TextAt(&table.words[slot.entry + 1]); };
-    const auto valueOf = [&](const Slot& slot) -> void*& { return table.words[slot.entry]; };
-    const auto begin = table.slots.begin();
-    const auto end = std::remove_if(begin, table.slots.end(),
-                                    [](const Slot& slot) { return slot.entry == 0 || slot.entry == kGone; });
-    // The hash is needed no more: it holds the first bytes of the key, which settle most comparisons, then the rank.
-    for (auto slot = begin; slot != end; ++slot) {
-        const std::string_view key = keyOf(*slot);
-        slot->hash = 0;
-        for (std::size_t i = 0; i < sizeof slot->hash; ++i) {
-            slot->hash = (slot->hash << 8U) | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
-        }
+    const auto end =
+        std::remove_if(table.slots.begin(), table.slots.end(), [](Slot slot) { return slot == 0 || slot == kGone; });
+    const std::span<Slot> entries(table.slots.begin(), end);
+    for (Slot& entry : entries) {
+        entry = static_cast<Slot>(table.EntryOf(entry));
     }
-    std::sort(begin, end,
-              [&](const Slot& a, const Slot& b) { return a.hash != b.hash ? a.hash < b.hash : keyOf(a) < keyOf(b); });
-    if (HasEachOnce(table.words)) {
-        return static_cast<std::size_t>(end - begin);
+    if (!HasEachOnce(table.words)) {
+        KeepFirstOfEach(entries, table.words);
     }
-    std::uint32_t rank = 0;
-    for (auto slot = begin; slot != end; ++slot) {
-        slot->hash = rank++;
-    }
-    std::sort(begin, end, [&](const Slot& a, const Slot& b) {
-        return valueOf(a) != valueOf(b) ? std::less<void*>()(valueOf(a), valueOf(b)) : a.hash < b.hash;
-    });
-    for (auto slot = begin; slot != end;) {
-        const void* const value = valueOf(*slot);
-        for (++slot; slot != end && valueOf(*slot) == value; ++slot) {
-            valueOf(*slot) = nullptr;
-        }
-    }
-    std::sort(begin, end, [](const Slot& a, const Slot& b) { return a.hash < b.hash; });
-    return static_cast<std::size_t>(end - begin);
+    SortByKey(entries, table.words);
+    return entries.size();
 }
 
 } // namespace Zelvon
