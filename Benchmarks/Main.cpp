@@ -62,6 +62,7 @@ Works AllWorks(bool onlyOurs) {
         std::erase_if(works.proofs, [](const Proof& proof) { return proof.contender != ours; });
         return works;
     }
+    OfferFloors(works);
     OfferParsersAlone(works);
     OfferLibxml2(works);
     OfferPugixml(works);

@@ -68,6 +68,7 @@ inline bool IsWanted(const Offer& offer, const Document& document, const std::st
 
 void OfferOurs(Works& works);
 void OfferXerces(Works& works);
+void OfferFloors(Works& works);
 void OfferParsersAlone(Works& works);
 void OfferLibxml2(Works& works);
 void OfferPugixml(Works& works);
