@@ -128,13 +128,16 @@ void ForEveryOffset(const auto& check) {
     }
 }
 
-/// In room of just the size that is asked for.
+/// There and back, in room of just the size that is asked for.
 void ExpectCopied(std::string_view text) {
     const std::size_t allowed = std::min(Framework::FindNonXmlText(text), text.size());
     std::vector<XMLCh> room(text.size());
     const Framework::Utf16Copy copied = Framework::CopyXmlUtf16(text, room.data());
     EXPECT_EQ(copied.bytes, allowed);
     EXPECT_TRUE(std::u16string(room.data(), copied.units) == Framework::ToUtf16(text.substr(0, allowed)));
+    std::string back;
+    Framework::AppendUtf8(back, room.data(), copied.units);
+    EXPECT_TRUE(back == text.substr(0, allowed));
 }
 
 /// In texts that are long enough to be looked through in blocks.
@@ -205,11 +208,34 @@ TEST(Utf, EveryCharacterConvertsThereAndBack) {
                 u"plain ASCII, \u20AC, \U0001F600");
 
     const char16_t lone[] = {'a', 0xD800, 'b', 0xDC00, 0xDC00, 0xD83D, 0xDE00, 0xD83D, 0};
-    ForEveryOffset([&lone](const std::string& before, std::size_t offset) {
-        EXPECT_EQ(zelString((std::u16string(offset, u'a') + lone).c_str()),
-                  before + "a\xEF\xBF\xBD"
-                           "b\xEF\xBF\xBD\xEF\xBF\xBD\xF0\x9F\x98\x80\xEF\xBF\xBD");
+    const std::string asText = "a\xEF\xBF\xBD"
+                               "b\xEF\xBF\xBD\xEF\xBF\xBD\xF0\x9F\x98\x80\xEF\xBF\xBD";
+    ForEveryOffset([&](const std::string& before, std::size_t offset) {
+        EXPECT_EQ(zelString((std::u16string(offset, u'a') + lone).c_str()), before + asText);
+        std::string greek;
+        for (std::size_t i = 0; i < offset; ++i) {
+            greek += "\xCE\xB1";
+        }
+        const std::u16string units = std::u16string(offset, u'\u03B1') + char16_t{0xDC00} + u"\u03B1" + lone;
+        EXPECT_EQ(zelString(units.c_str()), greek + "\xEF\xBF\xBD\xCE\xB1" + asText);
     });
+}
+
+/// Characters of one byte to four in every order of five, in texts that are turned several characters at a time.
+TEST(Utf, MixturesConvertThereAndBack) {
+    const std::string characters[] = {"a", "\xCE\xB1", "\xE6\x9D\xA1", "\xF0\x9F\x98\x80"};
+    for (std::size_t order = 0; order < 1024; ++order) {
+        std::string five;
+        for (std::size_t left = order + 1024; left > 1; left /= 4) {
+            five += characters[left % 4];
+        }
+        std::string text;
+        for (int i = 0; i < 20; ++i) {
+            text += five + "\xE6\x9D\xA1\xE7\xA0\x81\xE9\x87\x8D\xCE\xB1\xCE\xB2\xCE\xB3\xCE\xB4";
+        }
+        ExpectCopied(text);
+        ExpectCopied(text + "\xFF" + text);
+    }
 }
 
 TEST(Utf, WideBufferIsUtf16OrRefused) {

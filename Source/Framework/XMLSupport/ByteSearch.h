@@ -22,8 +22,7 @@ inline signed char Number(char byte) {
 /// How many bytes in front of a block tell what it begins with.
 constexpr std::size_t kBytesInFront = 3;
 
-/// Whether all is ASCII and well formed characters of two bytes, which is told sooner than IsDoubtful tells of any. The
-/// last byte may lead one.
+/// Whether all is ASCII and well formed characters of two bytes, which is told soonest. The last byte may lead one.
 inline bool HasPairsOnly(const char* at) {
     constexpr auto number = [](unsigned byte) { return static_cast<signed char>(byte); };
     const auto inFront = [at](int distance) { return static_cast<unsigned char>(at[-distance]); };
@@ -35,6 +34,25 @@ inline bool HasPairsOnly(const char* at) {
     const auto isOverlong = (byte | 1) == number(0xC1);
     return inFront(1) < 0xE0 && inFront(2) < 0xE0 && inFront(3) < 0xF0 &&
            simd::none_of((follows != mustFollow) | isOther | isOverlong);
+}
+
+/// Whether all is well formed ASCII and characters of two or three bytes, but for such as begin with E0, ED or EF,
+/// which is told sooner than IsDoubtful tells of any. The last bytes may lead one.
+inline bool HasUsualOnly(const char* at) {
+    constexpr auto number = [](unsigned byte) { return static_cast<signed char>(byte); };
+    const auto isUsualInFront = [at](int distance) {
+        const auto byte = static_cast<unsigned char>(at[-distance]);
+        return byte < 0xEF && byte != 0xE0 && byte != 0xED;
+    };
+    const Bytes byte(at, simd::element_aligned);
+    const Bytes before(at - 1, simd::element_aligned);
+    const Bytes second(at - 2, simd::element_aligned);
+    const auto mustFollow = (before > number(0xBF) && before < 0) || (second > number(0xDF) && second < 0);
+    const auto follows = byte < number(0xC0);
+    const auto isUnusual = (byte > number(0xEE) && byte < 0) || byte == number(0xE0) || byte == number(0xED);
+    const auto isOverlong = (byte | 1) == number(0xC1);
+    return isUsualInFront(1) && isUsualInFront(2) && isUsualInFront(3) &&
+           simd::none_of((follows != mustFollow) | isUnusual | isOverlong);
 }
 
 /// Where a longer character is not well formed, or has to be looked at: what begins with EF BF may not be allowed.
@@ -107,7 +125,7 @@ template <Characters characters, typename Kind> std::size_t Find(std::string_vie
             }
             if (!isAscii) {
                 found = found && bytes > Number('\xFF');
-                if (!HasPairsOnly(here)) {
+                if (!HasPairsOnly(here) && !HasUsualOnly(here)) {
                     found = found || IsDoubtful(here);
                 }
             }

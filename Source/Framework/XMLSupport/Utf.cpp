@@ -1,6 +1,7 @@
 #include "Framework/XMLSupport/Utf.h"
 
 #include "Framework/XMLSupport/ByteSearch.h"
+#include "Framework/XMLSupport/UtfShuffle.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -14,7 +15,8 @@ namespace {
 
 static_assert(std::is_same_v<XMLCh, char16_t>, "Xerces-C must be built with char16_t as its character type");
 
-constexpr std::size_t kLongText = 64; // worth the start of a search in blocks
+constexpr std::size_t kLongText = 64;        // worth the start of a search in blocks
+constexpr std::size_t kManyCharacters = 200; // worth to be gone through twice, if many bytes at a time
 constexpr std::size_t WordSize = sizeof(std::uint64_t);
 constexpr std::uint64_t HighBits = 0x8080808080808080U;
 constexpr std::uint64_t Blanks = 0x2020202020202020U;
@@ -155,6 +157,17 @@ std::size_t CopyBlock(const XMLCh* from, char* out) noexcept {
     return CountBefore(units > XMLCh{0x7F});
 }
 
+/// Whether the text goes on with several longer characters.
+bool IsRunOfLong(const char* p, const char* end) noexcept {
+    return static_cast<std::size_t>(end - p) >= WordSize && (WordAt(p) & HighBits) == HighBits;
+}
+
+/// The same of units, but for those of surrogates.
+bool IsRunOfLong(const XMLCh* p, const XMLCh* end) noexcept {
+    const auto isLong = [](XMLCh unit) { return unit >= 0x80 && (unit & 0xF800) != 0xD800; };
+    return end - p >= 3 && isLong(p[0]) && isLong(p[1]) && isLong(p[2]);
+}
+
 } // namespace
 
 std::size_t FindInvalidUtf8(std::string_view text) noexcept {
@@ -242,12 +255,26 @@ Utf16Copy CopyXmlUtf16(std::string_view text, XMLCh* out) noexcept {
     const char* p = text.data();
     const char* const end = p + text.size();
     XMLCh* const start = out;
+    const bool hasShuffles = text.size() >= kManyCharacters && HasShuffles();
+    const char* checkedEnd = nullptr; // of what may stand in XML, once it is known
     while (p != end) {
         if (static_cast<std::size_t>(end - p) >= kBlock) {
             const std::size_t copied = CopyBlock(p, out);
             p += copied;
             out += copied;
             if (copied == kBlock) {
+                continue;
+            }
+        }
+        if (hasShuffles && IsRunOfLong(p, end)) {
+            if (checkedEnd == nullptr) {
+                const std::string_view rest(p, static_cast<std::size_t>(end - p));
+                checkedEnd = p + std::min(FindNonXmlText(rest), rest.size());
+            }
+            const Utf16Copy shuffled = ShuffleToUtf16({p, static_cast<std::size_t>(checkedEnd - p)}, out);
+            p += shuffled.bytes;
+            out += shuffled.units;
+            if (shuffled.bytes > 0) {
                 continue;
             }
         }
@@ -321,6 +348,7 @@ void AppendUtf8(std::string& text, const XMLCh* pUnits, std::size_t length) {
     const char* const last = std::end(room) - kBlock - kMostBytes; // where there is room for more
     const auto isHigh = [](XMLCh unit) { return (unit & 0xFC00) == 0xD800; };
     const auto isLow = [](XMLCh unit) { return (unit & 0xFC00) == 0xDC00; };
+    const bool hasShuffles = HasShuffles();
     const XMLCh* p = pUnits;
     const XMLCh* const end = p + length;
     while (p != end) {
@@ -331,6 +359,15 @@ void AppendUtf8(std::string& text, const XMLCh* pUnits, std::size_t length) {
                 p += copied;
                 out += copied;
                 if (copied == kBlock) {
+                    continue;
+                }
+            }
+            if (hasShuffles && IsRunOfLong(p, end)) {
+                const Utf8Copy shuffled = ShuffleToUtf8(p, static_cast<std::size_t>(end - p), out,
+                                                        static_cast<std::size_t>(std::end(room) - out));
+                p += shuffled.units;
+                out += shuffled.bytes;
+                if (shuffled.units > 0) {
                     continue;
                 }
             }
