@@ -148,7 +148,8 @@ public:
     /// Numbers of the entries that tell of something wrong, in order.
     std::vector<std::size_t> Problems() const;
     /// All who wrote the scalar or text at the path, the first first: what the tree was loaded with, then the features.
-    /// Each stands as often as it wrote. `tree` is the object that was merged into, as it is after the last merge.
+    /// Each stands as often as it wrote. `tree` is the object that was merged into, as it is after the last merge: an
+    /// entry whose key is a number, written otherwise than it reads, is looked for in what its list held at that time.
     /// The path is one as above; empty when it names no scalar or text that is in the tree or was in it.
     std::vector<Writer> WritersOf(TypedDataContainer& tree, const zelString& sPath) const;
     /// The one of them that wins.

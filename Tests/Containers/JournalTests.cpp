@@ -353,6 +353,49 @@ TEST(Journal, WritersTellOfATextThatIsGone) {
     EXPECT_TRUE(writers[1].IsRemoval && writers[1].Wins);
 }
 
+/// Whoever reads a field of it by name asks for its class.
+class CountingEntry : public StateActionRespType {
+public:
+    explicit CountingEntry(int result) : StateActionRespType(false) { SetResult(result); }
+    zelString GetBaseType() override {
+        ++asked;
+        return StateActionRespType::GetBaseType();
+    }
+
+    static inline long asked = 0;
+};
+
+TEST(Journal, FindsAnEntryByTheNumberThatItsKeyIsReadAs) {
+    const auto path = [](int number) {
+        return zelString("PostActionResp[Result=" + std::to_string(number) + "]/ActionRef");
+    };
+    Merges merges(ContainerCatalog::FindClass("ActionRespType"),
+                  "<ActionResp>\n<PostActionResp Result='007'><ActionRef>a</ActionRef></PostActionResp></ActionResp>");
+    merges.Merge("Day", "<ActionResp MergeAction='Replace'>"
+                        "<PostActionResp Result='+7'><ActionRef>b</ActionRef></PostActionResp></ActionResp>");
+    const std::vector<Writer> writers = merges.journal.WritersOf(*merges.object, path(7));
+    ASSERT_GE(writers.size(), 2U);
+    EXPECT_TRUE(writers.back().Wins && writers.back().Value == "b");
+    EXPECT_EQ(writers[0].Value, "a");
+    EXPECT_TRUE(At(merges.base, writers[0].Place).starts_with("<ActionRef>a"));
+
+    // A list is not gone through for every entry that somebody asks about.
+    constexpr int count = 300;
+    const MergeJournal journal;
+    ActionRespType list(true);
+    for (int i = 1; i <= count; ++i) {
+        list.AddNewPostActionResp(new CountingEntry(i), ("0" + std::to_string(i)).c_str());
+    }
+    CountingEntry::asked = 0;
+    for (int i = 1; i <= count; ++i) {
+        ASSERT_EQ(journal.WritersOf(list, path(i)).size(), 1U) << i;
+        ASSERT_TRUE(journal.WritersOf(list, path(-i)).empty()) << i;
+    }
+    EXPECT_LT(CountingEntry::asked, 10 * count);
+    list.ClearPostActionResp();
+    EXPECT_TRUE(journal.WritersOf(list, path(1)).empty());
+}
+
 TEST(Journal, KeepsWhatWasReadWhateverBecomesOfTheDocuments) {
     LoadConfigType config(false);
     XMLDataWrapper base, source;

@@ -11,6 +11,9 @@ std::string KeyOf(JournalIndex::Number place, std::string_view step) {
 } // namespace
 
 void JournalIndex::TakeIn(const JournalData& journal) {
+    if (m_placeOfScope.size() < journal.ScopeCount()) { // every merge has a scope
+        m_numbers.ForgetEntries();
+    }
     for (std::size_t scope = m_placeOfScope.size(); scope < journal.ScopeCount(); ++scope) {
         const JournalData::Scope& step = journal.ScopeAt(static_cast<Number>(scope));
         m_placeOfScope.push_back(

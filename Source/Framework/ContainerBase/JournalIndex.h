@@ -3,7 +3,7 @@
 #include <map>
 
 #include "Framework/ContainerBase/JournalData.h"
-#include "Framework/XMLSupport/ChildIndex.h"
+#include "Framework/ContainerBase/NumberKeys.h"
 
 namespace Framework {
 
@@ -30,6 +30,8 @@ public:
 
     /// A document to look elements up in, which is kept from now on and so does not change.
     ChildIndex& ChildrenIn(const std::shared_ptr<const Document>& document);
+    /// The lists of the tree and of such documents whose keys are numbers. The tree is as the last merge left it.
+    NumberKeys& Numbers() { return m_numbers; }
 
 private:
     struct PlaceRecords {
@@ -49,6 +51,7 @@ private:
     std::vector<Number> m_placeOfScope{kRoot};
     std::vector<Number> m_placeOfRecord;
     std::map<const Document*, Kept> m_documents;
+    NumberKeys m_numbers;
 };
 
 } // namespace Framework

@@ -134,19 +134,14 @@ private:
     }
 
     /// Keys that are numbers may be written in several ways in the map.
-    static TypedDataContainer* EntryOf(TypedDataContainer& object, const FieldRow& row, const FieldStep& step) {
+    TypedDataContainer* EntryOf(TypedDataContainer& object, const FieldRow& row, const FieldStep& step) {
         TypedDataContainer* const found = (object.*row.map.entries).findValue(step.key, true);
-        if (found != nullptr || !row.intKey) {
-            return found;
-        }
-        const EntryVector& entries = object.*row.member.entries;
-        const auto entry = std::find_if(entries.begin(), entries.end(), [&](TypedDataContainer* candidate) {
-            return AttributeTextOf(*candidate, row.keyAttribute) == step.key;
-        });
-        return entry == entries.end() ? nullptr : *entry;
+        return found != nullptr || !row.intKey
+                   ? found
+                   : m_index.Numbers().Entry(object.*row.member.entries, row.keyAttribute, step.key);
     }
 
-    static TypedDataContainer* ObjectAt(TypedDataContainer& object, const FieldRow& row, const FieldStep& step) {
+    TypedDataContainer* ObjectAt(TypedDataContainer& object, const FieldRow& row, const FieldStep& step) {
         if (row.child != nullptr) {
             return row.child->get(object);
         }
@@ -386,7 +381,7 @@ private:
         return {document, node, hasHolder};
     }
 
-    static NodeRef NodeOfStep(const XmlTree& tree, ChildIndex& children, NodeRef node, const Step& step) {
+    NodeRef NodeOfStep(const XmlTree& tree, ChildIndex& children, NodeRef node, const Step& step) const {
         const FieldRow& row = *step.row;
         if (row.form == FieldForm::Attribute) {
             return FindAttribute(tree, node, row.name);
@@ -401,7 +396,10 @@ private:
             const int number = SupportFunc::GetIntValue(zelString(step.parts.key));
             return number < 1 ? NodeRef::None : children.At(node, row.name, static_cast<std::size_t>(number));
         }
-        return children.First(node, row.name, {{std::string(step.parts.keyName), step.parts.key}});
+        const NodeRef found = children.First(node, row.name, {{std::string(step.parts.keyName), step.parts.key}});
+        return found != NodeRef::None || !row.intKey
+                   ? found
+                   : m_index.Numbers().Element(tree, children, node, row.name, row.keyAttribute, step.parts.key);
     }
 
     /// Where the value stands that no merge has touched: in what its object was loaded from.
