@@ -4,6 +4,7 @@
 #include "Commands.h"
 #include "FormatOption.h"
 #include "History.h"
+#include "JsonStream.h"
 #include "MergeRun.h"
 #include "NearestName.h"
 #include "Place.h"
@@ -52,22 +53,26 @@ public:
         return text;
     }
 
-    std::string AsJson() {
-        Json values = Json::array();
-        ForEachAsked([&](const TreeValue& value, const Writer& origin) {
-            Json& json = values.emplace_back();
-            json["path"] = value.path;
-            json["value"] = value.text;
-            json["who"] = WhoName(origin.Who);
-            json["feature"] = origin.FeatureID.empty() ? Json() : Json(std::string(origin.FeatureID));
-            json.update(JsonOf(AsNamed(origin.Place)));
-            json["isReset"] = origin.IsReset;
-        });
-        return WriteJson(
-            {{"format", jsonFormat}, {"root", m_run.Input().base->RootName()}, {"values", std::move(values)}});
+    void WriteAsJson() {
+        JsonStream json(&WriteOutput);
+        json.OpenObject();
+        json.Add("format", jsonFormat);
+        json.Add("root", m_run.Input().base->RootName());
+        json.OpenArray("values");
+        ForEachAsked([&json](const TreeValue& value, const Writer& origin) { json.Add(ValueAsJson(value, origin)); });
+        json.Close();
+        json.Close();
     }
 
 private:
+    static Json ValueAsJson(const TreeValue& value, const Writer& origin) {
+        Json json = {{"path", value.path}, {"value", value.text}, {"who", WhoName(origin.Who)}};
+        json["feature"] = origin.FeatureID.empty() ? Json() : Json(std::string(origin.FeatureID));
+        json.update(JsonOf(AsNamed(origin.Place)));
+        json["isReset"] = origin.IsReset;
+        return json;
+    }
+
     template <typename Visit> void ForEachAsked(const Visit& visit) {
         ForEachValue(m_run.Tree(), [&](const TreeValue& value) {
             const Writer origin = m_run.Journal().OriginOf(m_run.Tree(), value.path);
@@ -103,7 +108,11 @@ ExitCode RunBlame(const BlameOptions& options, ColorMode color) {
     MergeRun run(input);
     MergeAll(run, messages, options.documents.quiet);
     Blame blame(run, options);
-    WriteOutput(options.format == "json" ? blame.AsJson() : blame.AsText());
+    if (options.format == "json") {
+        blame.WriteAsJson();
+    } else {
+        WriteOutput(blame.AsText());
+    }
     messages.TellCount();
     return ExitCode::Done;
 }

@@ -7,7 +7,7 @@
 #include "Framework/DocumentCheck.h"
 #include "InputFailure.h"
 #include "IssueLog.h"
-#include "JsonValue.h"
+#include "JsonStream.h"
 #include "MaxErrorsOption.h"
 #include "Messages.h"
 #include "Source.h"
@@ -56,23 +56,27 @@ private:
 
 class JsonReport : public Report {
 public:
+    JsonReport() {
+        m_json.OpenObject();
+        m_json.Add("format", jsonFormat);
+        m_json.OpenArray("messages");
+    }
+
     void Tell(const std::string& /*file*/, Source* /*source*/, const std::vector<Message>& messages) override {
         for (const Message& message : messages) {
-            m_messages.push_back(JsonOf(message));
+            m_json.Add(JsonOf(message));
             ++(message.severity == Severity::Error ? m_errors : m_warnings);
         }
     }
     void End() override {
-        Json json;
-        json["format"] = jsonFormat;
-        json["messages"] = std::move(m_messages);
-        json["errors"] = m_errors;
-        json["warnings"] = m_warnings;
-        WriteOutput(WriteJson(json));
+        m_json.Close();
+        m_json.Add("errors", m_errors);
+        m_json.Add("warnings", m_warnings);
+        m_json.Close();
     }
 
 private:
-    Json m_messages = Json::array();
+    JsonStream m_json{&WriteOutput};
     std::size_t m_errors = 0;
     std::size_t m_warnings = 0;
 };

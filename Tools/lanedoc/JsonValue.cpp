@@ -32,8 +32,12 @@ Json ValueAsJson(const CatalogField& field, const std::string& text) {
     }
 }
 
+std::string JsonText(const Json& json) {
+    return json.dump(2, ' ', false, Json::error_handler_t::replace);
+}
+
 std::string WriteJson(const Json& json) {
-    return json.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+    return JsonText(json) + '\n';
 }
 
 } // namespace Lanedoc

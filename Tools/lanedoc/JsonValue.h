@@ -18,6 +18,9 @@ constexpr int jsonFormat = 1;
 /// JSON has none for, an infinity or NaN, is a string; what is no word of the vocabulary is null.
 Json ValueAsJson(const CatalogField& field, const std::string& text);
 
+/// The value as all JSON of the tool is laid out, without a line end.
+std::string JsonText(const Json& json);
+/// The same as a text of its own.
 std::string WriteJson(const Json& json);
 
 } // namespace Lanedoc

@@ -103,12 +103,19 @@ std::size_t TellConflicts(const MergeRun& run, Messages& messages, const MergeOp
 void WriteReport(const MergeRun& run, const MergeOptions& options) {
     const bool isJson =
         options.reportFormat.empty() ? options.report.ends_with(".json") : options.reportFormat == "json";
-    const std::string report =
-        isJson ? ReportAsJson(run, ReportScope::Everything) : ReportAsText(run, ReportScope::Everything, Style(false));
-    if (options.report == "-") {
-        WriteOutput(report);
+    std::optional<OutputFile> file;
+    if (options.report != "-") {
+        file.emplace(options.report);
+    }
+    const auto write = [&file](std::string_view piece) { file ? file->Write(piece) : WriteOutput(piece); };
+    if (isJson) {
+        JsonStream json(write);
+        WriteReportAsJson(run, ReportScope::Everything, json);
     } else {
-        WriteFile(options.report, report);
+        write(ReportAsText(run, ReportScope::Everything, Style(false)));
+    }
+    if (file) {
+        file->Close();
     }
 }
 

@@ -49,7 +49,10 @@ void WriteMerged(const MergeRun& run, Provenance provenance, const std::string& 
     if (output == "-") {
         WriteOutput(TextOf(run, provenance));
     } else if (IsDevice(output)) {
-        WriteToDevice(output, TextOf(run, provenance));
+        const std::string text = TextOf(run, provenance); // before anything reaches it
+        OutputFile device(output, OutputFile::Kind::Device);
+        device.Write(text);
+        device.Close();
     } else if (provenance != Provenance::None) {
         SaveText(TextOf(run, provenance), output);
     } else if (!run.Tree().SaveContents(output.c_str())) {

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <system_error>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -44,19 +45,8 @@ int WriteAll(int descriptor, std::string_view data) {
     throw Failure(ExitCode::OutputFailed, what + ": " + std::generic_category().message(error));
 }
 
-void WriteTo(const std::string& path, int flags, std::string_view data) {
-    constexpr mode_t forAll = 0666;
-    const int descriptor = ::open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY, forAll);
-    if (descriptor < 0) {
-        FailOutput(errno, Printable(path) + ": error: cannot write");
-    }
-    int error = WriteAll(descriptor, data);
-    if (::close(descriptor) != 0 && error == 0 && errno != EINTR) {
-        error = errno;
-    }
-    if (error != 0) {
-        FailOutput(error, Printable(path) + ": error: cannot write");
-    }
+[[noreturn]] void FailFile(int error, const std::string& path) {
+    FailOutput(error, Printable(path) + ": error: cannot write");
 }
 
 constexpr const char* standardOutputFails = "lanedoc: error: cannot write to standard output";
@@ -108,12 +98,31 @@ void WriteOutput(std::string_view data) {
     }
 }
 
-void WriteToDevice(const std::string& path, std::string_view data) {
-    WriteTo(path, O_WRONLY, data);
+OutputFile::OutputFile(std::string path, Kind kind) : m_path(std::move(path)) {
+    const int flags = kind == Kind::Device ? 0 : O_CREAT | O_TRUNC;
+    constexpr mode_t forAll = 0666;
+    m_descriptor = ::open(m_path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY | flags, forAll);
+    if (m_descriptor < 0) {
+        FailFile(errno, m_path);
+    }
 }
 
-void WriteFile(const std::string& path, std::string_view data) {
-    WriteTo(path, O_WRONLY | O_CREAT | O_TRUNC, data);
+OutputFile::~OutputFile() {
+    if (m_descriptor >= 0) {
+        ::close(m_descriptor);
+    }
+}
+
+void OutputFile::Write(std::string_view data) {
+    if (const int error = WriteAll(m_descriptor, data); error != 0) {
+        FailFile(error, m_path);
+    }
+}
+
+void OutputFile::Close() {
+    if (::close(std::exchange(m_descriptor, -1)) != 0 && errno != EINTR) {
+        FailFile(errno, m_path);
+    }
 }
 
 void CloseOutput() {

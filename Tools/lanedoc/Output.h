@@ -33,11 +33,30 @@ Style StyleOfErrors(ColorMode mode);
 
 /// Writes data to standard output, all of it; throws a Failure when it takes no more.
 void WriteOutput(std::string_view data);
-/// Writes data to something that is there and is no regular file, a device or a pipe; throws a Failure.
-void WriteToDevice(const std::string& path, std::string_view data);
-/// Writes a file, which is made when it is not there and written over when it is; throws a Failure. Not for documents:
+
+/// A file that is written in one or more pieces. Whatever fails throws a Failure. Not for documents that go into files:
 /// those are replaced as a whole or not at all.
-void WriteFile(const std::string& path, std::string_view data);
+class OutputFile {
+public:
+    enum class Kind {
+        Regular, ///< made when it is not there, and written over when it is
+        Device,  ///< a device or a pipe, which is there
+    };
+
+    explicit OutputFile(std::string path, Kind kind = Kind::Regular);
+    ~OutputFile();
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+
+    void Write(std::string_view data);
+    /// Of what is not closed nobody knows whether it was written.
+    void Close();
+
+private:
+    std::string m_path;
+    int m_descriptor = -1;
+};
+
 /// Closes standard output, where a full disk may show only now; throws a Failure.
 void CloseOutput();
 

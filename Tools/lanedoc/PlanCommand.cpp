@@ -28,8 +28,12 @@ ExitCode Plan(const PlanOptions& options, ColorMode color) {
     Messages messages = MessagesAbout(input, options.documents, StyleOfErrors(color));
     MergeRun run(input);
     MergeAll(run, messages, options.documents.quiet);
-    WriteOutput(options.format == "json" ? ReportAsJson(run, ReportScope::Changes)
-                                         : ReportAsText(run, ReportScope::Changes, StyleOfOutput(color)));
+    if (options.format == "json") {
+        JsonStream json(&WriteOutput);
+        WriteReportAsJson(run, ReportScope::Changes, json);
+    } else {
+        WriteOutput(ReportAsText(run, ReportScope::Changes, StyleOfOutput(color)));
+    }
     messages.TellCount();
     if (run.Refused() > 0) {
         return ExitCode::MergeRefused;

@@ -33,15 +33,19 @@ Json EntryAsJson(const Entry& entry, std::size_t number) {
     return json;
 }
 
-Json OverrideAsJson(const MergeRun& run, const MergedOverride& merged, ReportScope scope) {
-    Json entries = Json::array();
+void WriteOverride(const MergeRun& run, const MergedOverride& merged, ReportScope scope, JsonStream& json) {
+    json.OpenObject();
+    json.Add("feature", merged.feature);
+    json.Add("document", merged.document);
+    json.OpenArray("entries");
     for (std::size_t number = merged.begin; number < merged.end; ++number) {
         const Entry entry = run.Journal().At(number);
         if (scope == ReportScope::Everything || entry.Result != Outcome::Unchanged) {
-            entries.push_back(EntryAsJson(entry, number));
+            json.Add(EntryAsJson(entry, number));
         }
     }
-    return {{"feature", merged.feature}, {"document", merged.document}, {"entries", std::move(entries)}};
+    json.Close();
+    json.Close();
 }
 
 Json LostAsJson(const MergeJournal::Lost& lost) {
@@ -58,27 +62,31 @@ Json ConflictAsJson(const MergeJournal::Conflict& conflict) {
 
 } // namespace
 
-std::string ReportAsJson(const MergeRun& run, ReportScope scope) {
-    Json json = {{"format", jsonFormat},
-                 {"root", run.Input().base->RootName()},
-                 {"base", run.Input().base->Name()},
-                 {"isComplete", run.Journal().IsComplete()},
-                 {"refused", run.Refused()},
-                 {"overrides", Json::array()}};
+void WriteReportAsJson(const MergeRun& run, ReportScope scope, JsonStream& json) {
+    json.OpenObject();
+    json.Add("format", jsonFormat);
+    json.Add("root", run.Input().base->RootName());
+    json.Add("base", run.Input().base->Name());
+    json.Add("isComplete", run.Journal().IsComplete());
+    json.Add("refused", run.Refused());
+    json.OpenArray("overrides");
     for (const MergedOverride& merged : run.Overrides()) {
-        json["overrides"].push_back(OverrideAsJson(run, merged, scope));
+        WriteOverride(run, merged, scope, json);
     }
+    json.Close();
     if (scope == ReportScope::Everything) {
-        json["withoutEffect"] = Json::array();
+        json.OpenArray("withoutEffect");
         for (const MergeJournal::Lost& lost : run.Journal().WithoutEffect()) {
-            json["withoutEffect"].push_back(LostAsJson(lost));
+            json.Add(LostAsJson(lost));
         }
+        json.Close();
     }
-    json["conflicts"] = Json::array();
+    json.OpenArray("conflicts");
     for (const MergeJournal::Conflict& conflict : run.Journal().Conflicts()) {
-        json["conflicts"].push_back(ConflictAsJson(conflict));
+        json.Add(ConflictAsJson(conflict));
     }
-    return WriteJson(json);
+    json.Close();
+    json.Close();
 }
 
 } // namespace Lanedoc

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <string>
-
+#include "JsonStream.h"
 #include "MergeRun.h"
 #include "ReportText.h"
 
 namespace Lanedoc {
 
 /// The same as ReportAsText for programs, described in Docs/JsonFormat.md.
-std::string ReportAsJson(const MergeRun& run, ReportScope scope);
+void WriteReportAsJson(const MergeRun& run, ReportScope scope, JsonStream& json);
 
 } // namespace Lanedoc
