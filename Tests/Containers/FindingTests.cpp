@@ -61,9 +61,10 @@ std::vector<Scenario> Scenarios() {
          "  <State Name='Survey' MergeAction='Remove' PlacementOrder='First'/>\n"
          "  <State Name='Help' BaseState='y'/>\n"
          "  <State Name='New' MergeAction='Add'><PreStateTrigger "
-         "MergeAction='Clear'/><PreStateTrigger/><StateTriggers><Stranger/></StateTriggers>\n"
+         "MergeAction='Clear'/><PreStateTrigger/><StateTriggers><Stranger/><StateAction Trigger='u'/></StateTriggers>\n"
          "    <StateTriggers><StateAction Trigger='t'><ActionListCached>maybe</ActionListCached></StateAction>\n"
-         "      <StateAction Trigger='t' Transient='true'/></StateTriggers></State>\n"
+         "      <StateAction Trigger='t' Transient='true'/>\n"
+         "      <StateAction Trigger='u' Transient='true'/></StateTriggers></State>\n"
          "  some words</StateTable></StateProcessingRoot>\n",
          {
              {Code::UnknownAttribute, "Versoin", Check, "Version"},
@@ -87,6 +88,7 @@ std::vector<Scenario> Scenarios() {
              {Code::RepeatedValue, "<StateTriggers><StateAction", Check, "", "<StateTriggers><Stranger"},
              {Code::NotABool, "<ActionListCached>maybe"},
              {Code::DuplicateKey, "<StateAction Trigger='t' Tr", Both, "", "<StateAction Trigger='t'>"},
+             {Code::DuplicateKey, "<StateAction Trigger='u' Tr", Both, "", "<StateAction Trigger='u'/>"},
              {Code::StrayText, "some words"},
          }},
         {type("ItemInformationType"),
@@ -268,6 +270,43 @@ TEST(Findings, AreToldOnceForEveryClassAndAgreeWithTheCheck) {
             ASSERT_FALSE(testing::Test::HasFailure()) << "seed " << seed << "\n" << xml;
         }
     });
+}
+
+/// A child that stands twice is read into one object, and so are its children: a load drops what has the same key in
+/// both, and logs that.
+TEST(Findings, OfKeysThatStandInTwoElementsOfOneChildAreThoseOfALoad) {
+    std::size_t dropped = 0;
+    ForEveryClass([&dropped](CatalogClass type) {
+        for (const CatalogField& field : type.Fields()) {
+            if (field.GetForm() != CatalogField::Child) {
+                continue;
+            }
+            Samples::Random random(3);
+            const std::string root(type.ElementName());
+            const CatalogClass part = ContainerCatalog::FindClass(field.ClassName());
+            std::string child =
+                Samples::ToXml(Samples::Make(part, std::string(field.Name()), random, 1, true), random, false);
+            child.erase(0, child.find('\n')); // the declaration
+            const std::string xml = "<" + root + ">" + child + child + "</" + root + ">";
+            XMLDataWrapper document;
+            ASSERT_TRUE(document.LoadXMLText(xml, true));
+            std::multiset<std::string> found, logged;
+            for (const Finding& finding : DocumentCheck::Run(document, type)) {
+                if (finding.Code == Code::DuplicateKey) {
+                    found.insert(std::to_string(finding.Place.Line) + ":" + std::to_string(finding.Place.Column));
+                }
+            }
+            const IssueRecorder log;
+            const auto object = type.Create(false);
+            ASSERT_TRUE(LoadText(*object, xml)) << object->GetLastError();
+            for (const OverrideIssue& issue : log.issues) {
+                logged.insert(std::to_string(issue.Line) + ":" + std::to_string(issue.Column));
+            }
+            EXPECT_EQ(found, logged) << xml;
+            dropped += logged.size();
+        }
+    });
+    EXPECT_GT(dropped, 50U);
 }
 
 /// A host's class that has something to say of its own.

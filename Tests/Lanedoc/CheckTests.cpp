@@ -105,6 +105,9 @@ TEST_F(LanedocCheck, FindsEveryKindOfMistakeOnceAtItsPlace) {
         {state("<State Name='A' «Transiet='1'»/>"), "unknown-attribute", R"(did you mean Transient?)"},
         {state("<State Name='A'> «lost» <Doc/> too </State>"), "stray-text", ""},
         {state("<State Name='A'/>«<State Name='A'/>»"), "duplicate-key", ""},
+        {state("<State Name='A'><PreStateTrigger><ActionData><Data Name='d'/></ActionData></PreStateTrigger>\n"
+               "«<PreStateTrigger>»<ActionData>«<Data Name='d'/>»</ActionData></PreStateTrigger></State>"),
+         "duplicate-key", ""},
         {state("«<State Transient='1'/>»"), "missing-key", ""},
         {"<CaptureConfig><Files/>\n«<Files/>»\n<Files/></CaptureConfig>", "repeated-value", ""},
         {"<CaptureConfig>«<MaxTransactions>»1O</MaxTransactions></CaptureConfig>", "not-a-number", ""},

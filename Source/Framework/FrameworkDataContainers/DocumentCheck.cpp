@@ -1,6 +1,9 @@
 #include "Framework/DocumentCheck.h"
 
 #include <algorithm>
+#include <span>
+#include <unordered_map>
+#include <utility>
 
 #include "Framework/ContainerBase/ContainerAccess.h"
 #include "Framework/ContainerBase/MergeControl.h"
@@ -45,16 +48,20 @@ private:
         const FieldRow* row;  ///< by which its parent names it; null at the start
         std::size_t parent;   ///< among the elements
         std::size_t position; ///< from 1, in a list
-        bool isNewPart;       ///< loaded as a whole by a merge
+        bool isNewPart;       ///< loaded as a whole by a merge: what stands below it has nothing to act on
     };
 
     void LookAt() {
         const Element element = m_elements[m_at]; // the list grows meanwhile
+        const auto repeated = m_repeated.find(m_at);
+        const std::span<const NodeRef> nodes =
+            repeated == m_repeated.end() ? std::span(&element.node, 1) : std::span(std::as_const(repeated->second));
+        m_children.clear();
         const ElementReader reader = !m_isOverride       ? ElementReader::Load
                                      : element.isNewPart ? ElementReader::Part
                                                          : ElementReader::Merge;
         FindInElement(
-            {m_tree, element.node, *element.table}, {reader, true, true, &NearInMerge},
+            {m_tree, nodes, *element.table}, {reader, true, true, &NearInMerge},
             [this](NodeRef node, std::string_view field, const FoundProblem& problem) { Take(node, field, problem); },
             [&](NodeRef child, const FieldRow& row, std::size_t position) {
                 TakeChild(element, child, row, position);
@@ -63,10 +70,13 @@ private:
 
     void TakeChild(const Element& element, NodeRef child, const FieldRow& row, std::size_t position) {
         bool isNewPart = element.isNewPart;
+        bool isLeftOut = false;
         if (m_isOverride) {
-            isNewPart =
-                LookAtControl(child, StepOf({child, nullptr, &row, m_at, position, false}), SiteOf(element, row)) ||
-                row.form == FieldForm::PlainList || isNewPart;
+            const MergeControl control =
+                LookAtControl(child, StepOf({child, nullptr, &row, m_at, position, false}), SiteOf(element, row));
+            isLeftOut = control.problem.has_value();
+            isNewPart = control.action == MergeAction::Add || control.action == MergeAction::Replace ||
+                        row.form == FieldForm::PlainList || isNewPart;
             if (!element.isNewPart && row.form == FieldForm::KeyedList && !row.numberedKeys &&
                 FindAttribute(m_tree, child, row.keyAttribute) == NodeRef::None) {
                 Take(child, row.name,
@@ -74,7 +84,8 @@ private:
                       "the entry has no key, expected the attribute " + std::string(row.keyAttribute)});
             }
         }
-        if (row.value == FieldValue::Container) {
+        const bool isPartOfOne = row.form == FieldForm::Child && !isLeftOut && (!m_isOverride || element.isNewPart);
+        if (row.value == FieldValue::Container && !(isPartOfOne && IsRepeated(child, row))) {
             const FieldTable* const table = row.child != nullptr ? row.child->table : row.list->table;
             m_elements.push_back({child, table, &row, m_at, position, isNewPart});
         }
@@ -92,14 +103,28 @@ private:
                                                   : ControlSite::Child;
     }
 
-    /// Whether the node is loaded as a whole: what stands below it has nothing to act on.
-    bool LookAtControl(NodeRef node, std::string_view field, ControlSite site) {
+    /// Whether a load reads the child into the same object as one before it, which then stands for both.
+    bool IsRepeated(NodeRef child, const FieldRow& row) {
+        const auto known =
+            std::find_if(m_children.begin(), m_children.end(), [&row](const auto& each) { return each.first == &row; });
+        if (known == m_children.end()) {
+            m_children.emplace_back(&row, m_elements.size());
+            return false;
+        }
+        std::vector<NodeRef>& nodes = m_repeated[known->second];
+        if (nodes.empty()) {
+            nodes.push_back(m_elements[known->second].node);
+        }
+        nodes.push_back(child);
+        return true;
+    }
+
+    MergeControl LookAtControl(NodeRef node, std::string_view field, ControlSite site) {
         const MergeControl control = ReadControl(m_tree, node, site);
         if (control.problem.has_value()) {
             Take(node, field, *control.problem);
         }
-        return site != ControlSite::Root &&
-               (control.action == MergeAction::Add || control.action == MergeAction::Replace);
+        return control;
     }
 
     void Take(NodeRef node, std::string_view field, const FoundProblem& problem) {
@@ -141,6 +166,8 @@ private:
     bool m_isOverride;
     std::vector<Element> m_elements;
     std::size_t m_at = 0;
+    std::vector<std::pair<const FieldRow*, std::size_t>> m_children;  ///< of the element that is looked at
+    std::unordered_map<std::size_t, std::vector<NodeRef>> m_repeated; ///< all nodes of an element, by its number
     std::vector<Finding> m_findings;
 };
 

@@ -116,14 +116,35 @@ template <typename Tree> class ElementFinder {
 public:
     ElementFinder(const Tree& tree, const ReadElement& element, const FindingRules& rules, const FindingReport& report,
                   const FoundChild& child)
-        : m_tree(tree), m_node(element.node), m_rules(rules), m_report(report), m_child(child),
-          m_owner(m_tree.Name(m_node)), m_memory(m_fieldRoom.data(), m_fieldRoom.size()), m_fields(&m_memory) {
+        : m_tree(tree), m_nodes(element.nodes), m_rules(rules), m_report(report), m_child(child),
+          m_memory(m_fieldRoom.data(), m_fieldRoom.size()), m_fields(&m_memory) {
         AppendFields(element.table, m_fields);
     }
     ElementFinder(const ElementFinder&) = delete;
     ElementFinder& operator=(const ElementFinder&) = delete;
 
     void Run() {
+        for (const NodeRef node : m_nodes) {
+            Begin(node);
+            LookAt();
+        }
+    }
+
+private:
+    void Begin(NodeRef node) {
+        if (m_node != NodeRef::None) {
+            for (SeenField& seen : m_fields) { // values may stand once in each
+                if (seen.row->form == FieldForm::Element || seen.row->form == FieldForm::Child) {
+                    seen.count = 0;
+                }
+            }
+        }
+        m_node = node;
+        m_owner = m_tree.Name(node);
+        m_sawText = false;
+    }
+
+    void LookAt() {
         LookAtAttributes();
         for (NodeRef child = m_tree.FirstChild(m_node); child != NodeRef::None; child = m_tree.NextSibling(child)) {
             const NodeKind kind = m_tree.Kind(child);
@@ -135,7 +156,6 @@ public:
         }
     }
 
-private:
     std::string Owner() const { return std::string(m_owner); }
     void Report(NodeRef node, std::string_view field, FoundProblem problem) { m_report(node, field, problem); }
 
@@ -431,7 +451,8 @@ private:
     }
 
     const Tree& m_tree;
-    NodeRef m_node;
+    std::span<const NodeRef> m_nodes;
+    NodeRef m_node = NodeRef::None; ///< that is looked at
     const FindingRules& m_rules;
     const FindingReport& m_report;
     const FoundChild& m_child;

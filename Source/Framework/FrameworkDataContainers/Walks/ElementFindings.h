@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <span>
 
 #include "Framework/ContainerBase/FoundProblem.h"
 #include "Framework/FrameworkDataContainers/Walks/FieldTable.h"
@@ -14,10 +15,11 @@ enum class ElementReader {
     Part,  ///< of an override, as part of something new
 };
 
-/// An element that is to be read as one of a class.
+/// An element that is to be read as one of a class: or several that a load reads into one object, as those of a child
+/// that stands more than once.
 struct ReadElement {
     const XmlTree& tree;
-    NodeRef node;
+    std::span<const NodeRef> nodes;
     const FieldTable& table;
 };
 
@@ -30,12 +32,12 @@ struct FindingRules {
 
 /// What is wrong with a node. `field` is the step to it from the element; empty for the element itself.
 using FindingReport = std::function<void(NodeRef node, std::string_view field, const FoundProblem& problem)>;
-/// A child element that a field names, and its position among those of that field, from 1.
+/// A child element that a field names, and its position in the list of that field, from 1.
 using FoundChild = std::function<void(NodeRef child, const FieldRow& row, std::size_t position)>;
 
 /// Reports all that a reader of the element would pass over or read as something else: in its attributes, its child
 /// elements and their texts. What stands in containers below is theirs. Control words are not looked at, and of a merge
-/// no missing keys, which it refuses itself.
+/// no missing keys, which it refuses itself. Lists go on from one element of the object to the next.
 void FindInElement(const ReadElement& element, const FindingRules& rules, const FindingReport& report,
                    const FoundChild& child = {});
 

@@ -64,7 +64,7 @@ private:
                 ReportOverride(m_object, {m_tree, node, m_featureID, nullptr, field}, problem, m_line,
                                MergeJournal::Outcome::Skipped);
             };
-            FindInElement({m_tree, m_here, m_table},
+            FindInElement({m_tree, {&m_here, 1}, m_table},
                           {ElementReader::Merge, IsExactly(m_object, m_table), true, &NearInMerge}, report);
         });
     }

@@ -58,7 +58,8 @@ private:
                 ReportOverride(m_object, {m_tree, node, *m_feature, nullptr, field}, problem, __LINE__,
                                MergeJournal::Outcome::Skipped);
             };
-            FindInElement({m_tree, m_node, m_table}, {ElementReader::Part, m_isExact, false, &NearInMerge}, report);
+            FindInElement({m_tree, {&m_node, 1}, m_table}, {ElementReader::Part, m_isExact, false, &NearInMerge},
+                          report);
         });
     }
 
