@@ -25,7 +25,7 @@ enum class FindingCode {
     MissingTarget,        ///< Replace, Remove or Clear of what is not there
     TargetExists,         ///< Add of what is there
     MissingNeighbour,     ///< a placement beside an entry that is not there, or that belongs to another feature
-    NotLoaded,            ///< an entry that could not be loaded
+    NotLoaded,            ///< an entry that could not be loaded, or an override of which nothing could be merged
     OtherIssue,           ///< what a host's class, or a class of the library, reported to the override log by itself
 };
 

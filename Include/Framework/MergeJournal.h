@@ -23,9 +23,10 @@ class JournalData;
 ///     for (const MergeJournal::Writer& writer : journal.WritersOf(config, "StateTable/InitialState")) { ... }
 ///
 /// While it is installed (Recording), every merge of the thread adds one entry for each edit, and one for each thing
-/// that is wrong with the override; the latter also go to the override log. Without a journal a merge does nothing for
-/// it. Entries of all merges of the recordings stand in one row, in the order in which they happened. A journal is
-/// meant for the merges of one tree.
+/// that is wrong with the override; the latter also go to the override log. An override of which nothing could be
+/// merged, as it cannot be read or is of another root, is such a thing: refused, with the empty path and with what
+/// GetLastError says, which names the place. Without a journal a merge does nothing for it. Entries of all merges of
+/// the recordings stand in one row, in the order in which they happened. A journal is meant for the merges of one tree.
 ///
 /// **Paths** are the field names below the object that the outer merge was called on, joined by "/". An entry of a
 /// keyed list is `State[Name=Idle]`, one of another list `State[3]`, counted from 1; a key with "]", "/" or a double

@@ -424,6 +424,47 @@ TEST(Journal, KeepsWhatWasReadWhateverBecomesOfTheDocuments) {
     expectKept();
 }
 
+TEST(Journal, TellsOfAnOverrideOfWhichNothingCanBeMerged) {
+    XMLDataWrapper nothing, other;
+    ASSERT_TRUE(other.LoadXMLText("<Other/>", true));
+    using Merge = std::function<bool(TypedDataContainer&)>;
+    const std::pair<const char*, Merge> merges[] = {
+        {"Night", [](auto& object) { return object.MergeFromFile(nullptr, "nowhere/Night.xml"); }},
+        {"", [](auto& object) { return object.MergeFromFile(nullptr, nullptr); }},
+        {"Store", [](auto& object) { return object.MergeFromTemplate(nullptr, "Store", "LoadConfig"); }},
+        {"Model", [](auto& object) { return object.MergeFromModel(nullptr, "Model", "LoadConfig"); }},
+        {"Dom", [](auto& object) { return object.MergeFromDOMNode(nullptr, "Dom", nullptr); }},
+        {"Packet", [&](auto& object) { return object.MergeFromDataPacket(nullptr, "Packet", &nothing, false); }},
+        {"Other", [&](auto& object) { return object.MergeFromDataPacket(nullptr, "Other", &other, false); }},
+    };
+    for (const auto& [feature, merge] : merges) {
+        SCOPED_TRACE(feature);
+        LoadConfigType config(false);
+        ASSERT_TRUE(LoadText(config, threads));
+        const IssueRecorder log;
+        EXPECT_FALSE(merge(config));
+        const std::size_t unwatched = log.issues.size();
+        EXPECT_LE(unwatched, 1U);
+        MergeJournal journal;
+        {
+            const MergeJournal::Recording recording(journal);
+            EXPECT_FALSE(merge(config));
+        }
+        ASSERT_EQ(journal.Problems(), std::vector<std::size_t>{0});
+        EXPECT_EQ(journal.EntriesOf(feature).size(), 1U);
+        const Entry entry = journal.At(0);
+        EXPECT_EQ(entry.Result, Outcome::Refused);
+        EXPECT_EQ(entry.Path, "");
+        EXPECT_EQ(entry.Problem->Code, FindingCode::NotLoaded);
+        EXPECT_EQ(entry.Problem->Text, config.GetLastError());
+        EXPECT_FALSE(entry.Cause.empty());
+        MergeJournal::SetStrict(true);
+        EXPECT_FALSE(merge(config));
+        MergeJournal::SetStrict(false);
+        EXPECT_EQ(log.issues.size(), unwatched + 2);
+    }
+}
+
 TEST(Journal, RecordsWhatIsMergedWhileItIsInstalledAndOnlyThat) {
     Merges merges(ContainerCatalog::FindRoot("LoadConfig"), threads);
     merges.Merge("Day", Thread("'A'", "d"));

@@ -59,7 +59,11 @@ std::vector<Message> MergeRun::MessagesOf(const MergedOverride& merged) {
         const MergeJournal::Entry entry = m_journal.At(number);
         if (entry.Problem.has_value()) {
             const bool isRefused = entry.Result == MergeJournal::Outcome::Refused;
-            messages.push_back(MessageOf(*entry.Problem, isRefused ? Severity::Error : Severity::Warning));
+            Message& message =
+                messages.emplace_back(MessageOf(*entry.Problem, isRefused ? Severity::Error : Severity::Warning));
+            if (message.place.File.empty()) { // it is about the override as a whole
+                message.place.File = merged.document;
+            }
             told.insert({entry.Problem->Place.Line, entry.Problem->Place.Column});
         }
     }

@@ -189,6 +189,23 @@ void JournalData::WriteProblem(const XmlTree& tree, NodeRef node, std::string_vi
     }
 }
 
+void JournalData::WriteFailure(const zelString& feature, const FoundProblem& problem) noexcept {
+    try {
+        Scope scope;
+        scope.merge = static_cast<Number>(m_merges.size());
+        m_merges.push_back({feature, 0});
+        m_scopes.push_back(scope);
+        m_problems.push_back({problem, 0});
+        Record record;
+        record.scope = static_cast<Number>(m_scopes.size() - 1);
+        record.problem = static_cast<Number>(m_problems.size());
+        record.outcome = MergeJournal::Outcome::Refused;
+        m_records.push_back(record);
+    } catch (...) {
+        m_isComplete = false;
+    }
+}
+
 void JournalData::BackTo(std::size_t mark) noexcept {
     if (mark < m_records.size()) {
         // What was found to be wrong stays wrong, whatever became of its node.

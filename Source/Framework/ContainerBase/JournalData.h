@@ -152,6 +152,9 @@ public:
     /// `field` is empty where the scope stands for the node.
     void WriteProblem(const XmlTree& tree, NodeRef node, std::string_view field, MergeJournal::Outcome outcome,
                       const FoundProblem& problem) noexcept;
+    /// A merge by itself that came to nothing, as there was nothing to merge.
+    void WriteFailure(const zelString& feature, const FoundProblem& problem) noexcept;
+    std::size_t ProblemCount() const noexcept { return m_problems.size(); }
     /// How far the journal is, and back to there: for what turned out not to be.
     std::size_t Mark() const noexcept { return m_records.size(); }
     void BackTo(std::size_t mark) noexcept;

@@ -101,6 +101,23 @@ void Prepare(TypedDataContainer& object, MergeAction action, const XmlTree& tree
     }
 }
 
+/// Runs an outer operation. `feature` gives the one that the override is of when nothing can be read.
+template <typename Feature, typename Step>
+bool RunMerge(TypedDataContainer& object, Feature feature, unsigned int line, Step step) noexcept {
+    if (!IsMergeWatched() || OverridePlace::IsMerging()) {
+        return Guarded(object, step);
+    }
+    const ToldIssues before = ToldIssues::SoFar();
+    const bool success = Guarded(object, step);
+    if (!success) {
+        Guarded(object, [&] {
+            WhileMemoryLasts([&] { ReportFailedMerge(object, feature(), before, line); });
+            return false;
+        });
+    }
+    return success;
+}
+
 bool MergeOwn(TypedDataContainer& object, ValueLookupBase* lookup, const std::unique_ptr<XMLDataWrapper>& source,
               const zelString& featureOtherwise) {
     return source != nullptr &&
@@ -115,63 +132,73 @@ bool TypedDataContainer::MergeFromTemplate(ValueLookupBase* pLookup, const char*
 }
 
 bool TypedDataContainer::MergeFromTemplate(ValueLookupBase* pLookup, const char* sStore, const char* sXMLName) {
-    return Guarded(*this,
-                   [&] { return MergeOwn(*this, pLookup, OpenTemplate(*this, sStore, sXMLName, true), sStore); });
+    return RunMerge(
+        *this, [&] { return zelString(sStore); }, __LINE__,
+        [&] { return MergeOwn(*this, pLookup, OpenTemplate(*this, sStore, sXMLName, true), sStore); });
 }
 
 bool TypedDataContainer::MergeFromModel(ValueLookupBase* pLookup, const char* sModel, const char* sXMLName) {
-    return Guarded(*this, [&] { return MergeOwn(*this, pLookup, OpenModel(*this, sModel, sXMLName, true), sModel); });
+    return RunMerge(
+        *this, [&] { return zelString(sModel); }, __LINE__,
+        [&] { return MergeOwn(*this, pLookup, OpenModel(*this, sModel, sXMLName, true), sModel); });
 }
 
 bool TypedDataContainer::MergeFromFile(ValueLookupBase* pLookup, const char* sPath) {
-    return Guarded(*this, [&] {
+    const auto feature = [&] {
+        return zelString(sPath == nullptr ? "" : std::filesystem::path(sPath).stem().string());
+    };
+    return RunMerge(*this, feature, __LINE__, [&] {
         const std::unique_ptr<XMLDataWrapper> source = OpenFile(*this, sPath, false);
-        return source != nullptr && MergeOwn(*this, pLookup, source, std::filesystem::path(sPath).stem().string());
+        return source != nullptr && MergeOwn(*this, pLookup, source, feature());
     });
 }
 
 bool TypedDataContainer::MergeFromDOMNode(ValueLookupBase* pLookup, zelString sFeatureID, DOMNode* pNode) {
-    return Guarded(*this, [&] {
-        const std::unique_ptr<XMLDataWrapper> source = OpenDomNode(*this, pNode, false);
-        return source != nullptr && MergeFromDataPacket(pLookup, sFeatureID, source.get(), false);
-    });
+    return RunMerge(
+        *this, [&] { return sFeatureID; }, __LINE__,
+        [&] {
+            const std::unique_ptr<XMLDataWrapper> source = OpenDomNode(*this, pNode, false);
+            return source != nullptr && MergeFromDataPacket(pLookup, sFeatureID, source.get(), false);
+        });
 }
 
 bool TypedDataContainer::MergeFromDataPacket(ValueLookupBase* pLookup, zelString sFeatureID, XMLDataWrapper* pMergeData,
                                              bool bNested) {
-    return Guarded(*this, [&] {
-        const WrapperState* const source = LoadedState(pMergeData);
-        if (source == nullptr) {
-            return MergeDataMembers(pMergeData, sFeatureID); // which says so
-        }
-        const XmlTree& tree = *source->Tree();
-        const NodeRef node = StartOfMerge(*this, *source, bNested);
-        if (node == NodeRef::None && !bNested) {
-            return false;
-        }
-        // The words of a node that a walk hands down were obeyed by that walk.
-        const bool isRoot = node != NodeRef::None && (!bNested || !OverridePlace::IsAt(tree, node));
-        const OverridePlace place(&tree, node, &sFeatureID);
-        const JournalMerge journal(isRoot ? JournalData::Current() : nullptr, *this, *source, sFeatureID);
-        if (!bNested) {
-            BeginNearSearches();
-        }
-        const MergeControl control = isRoot ? ReadControl(tree, node, ControlSite::Root) : MergeControl();
-        if (control.problem.has_value()) {
-            ReportOverride(*this, {tree, node, sFeatureID}, *control.problem, __LINE__);
-            return false;
-        }
-        const NestedScope nested(*this, bNested);
-        const SourceWrapper wrapper(*pMergeData, bNested);
-        if (pLookup != nullptr) {
-            ContainerAccess::SetLookup(*this, pLookup);
-        }
-        ContainerAccess::SetMergeFeature(*this, sFeatureID);
-        Prepare(*this, control.action, tree, node);
-        const bool success = MergeDataMembers(wrapper.Get(), sFeatureID);
-        ContainerAccess::SetValid(*this, success || m_bValid);
-        return success;
-    });
+    return RunMerge(
+        *this, [&] { return sFeatureID; }, __LINE__,
+        [&] {
+            const WrapperState* const source = LoadedState(pMergeData);
+            if (source == nullptr) {
+                return MergeDataMembers(pMergeData, sFeatureID); // which says so
+            }
+            const XmlTree& tree = *source->Tree();
+            const NodeRef node = StartOfMerge(*this, *source, bNested);
+            if (node == NodeRef::None && !bNested) {
+                return false;
+            }
+            // The words of a node that a walk hands down were obeyed by that walk.
+            const bool isRoot = node != NodeRef::None && (!bNested || !OverridePlace::IsAt(tree, node));
+            const OverridePlace place(&tree, node, &sFeatureID);
+            const JournalMerge journal(isRoot ? JournalData::Current() : nullptr, *this, *source, sFeatureID);
+            if (!bNested) {
+                BeginNearSearches();
+            }
+            const MergeControl control = isRoot ? ReadControl(tree, node, ControlSite::Root) : MergeControl();
+            if (control.problem.has_value()) {
+                ReportOverride(*this, {tree, node, sFeatureID}, *control.problem, __LINE__);
+                return false;
+            }
+            const NestedScope nested(*this, bNested);
+            const SourceWrapper wrapper(*pMergeData, bNested);
+            if (pLookup != nullptr) {
+                ContainerAccess::SetLookup(*this, pLookup);
+            }
+            ContainerAccess::SetMergeFeature(*this, sFeatureID);
+            Prepare(*this, control.action, tree, node);
+            const bool success = MergeDataMembers(wrapper.Get(), sFeatureID);
+            ContainerAccess::SetValid(*this, success || m_bValid);
+            return success;
+        });
 }
 
 bool TypedDataContainer::MergeDataMembers(XMLDataWrapper*, zelString) {

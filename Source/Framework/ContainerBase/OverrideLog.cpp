@@ -14,6 +14,7 @@ namespace Framework {
 namespace {
 
 thread_local const OverridePlace* innermostPlace = nullptr;
+thread_local std::size_t loggedIssues = 0;
 
 struct Handler {
     TypedDataContainer::OverrideIssueHandler function = nullptr;
@@ -53,6 +54,10 @@ OverridePlace::~OverridePlace() {
     innermostPlace = m_outer;
 }
 
+bool OverridePlace::IsMerging() {
+    return innermostPlace != nullptr && innermostPlace->m_feature != nullptr;
+}
+
 bool OverridePlace::IsAt(const XmlTree& tree, NodeRef node) {
     return innermostPlace != nullptr && innermostPlace->m_feature != nullptr && innermostPlace->m_tree == &tree &&
            innermostPlace->m_node == node;
@@ -83,6 +88,7 @@ namespace {
 void LogIssue(zelString feature, zelString containerName, zelString error, unsigned int line) {
     OverrideIssue issue{std::move(feature), std::move(containerName), std::move(error), line, {}, 0, 0};
     OverridePlace::Describe(issue);
+    ++loggedIssues;
     Handler handler;
     {
         const std::lock_guard lock(HandlerMutex());
@@ -131,6 +137,23 @@ void ReportOverride(TypedDataContainer& object, const OverrideNode& where, const
     const std::string text = problem.text + Suggestion(problem);
     object.SetLastError(-1, "%s of feature \"%s\": %s", name.c_str(), where.feature.c_str(), text.c_str());
     LogLastError(object, line);
+}
+
+ToldIssues ToldIssues::SoFar() noexcept {
+    const JournalData* const journal = JournalData::Current();
+    return {loggedIssues, journal == nullptr ? 0 : journal->ProblemCount()};
+}
+
+void ReportFailedMerge(TypedDataContainer& object, const zelString& feature, const ToldIssues& before,
+                       unsigned int line) {
+    const ToldIssues now = ToldIssues::SoFar();
+    JournalData* const journal = JournalData::Current();
+    if (journal != nullptr && now.inJournal == before.inJournal) {
+        journal->WriteFailure(feature, {FindingCode::NotLoaded, object.GetLastError()});
+    }
+    if (now.inLog == before.inLog) {
+        LogIssue(feature, object.GetContainerName(), object.GetLastError(), line);
+    }
 }
 
 void MissJournalEntry() noexcept {

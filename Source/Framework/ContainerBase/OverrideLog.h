@@ -21,6 +21,8 @@ public:
     /// Fills file, line and column of an issue from the innermost scope.
     static void Describe(OverrideIssue& issue);
 
+    /// Whether this thread is merging.
+    static bool IsMerging();
     /// Whether that is the node of an override that this thread is at.
     static bool IsAt(const XmlTree& tree, NodeRef node);
     /// The feature that this thread is merging from that tree, null when it is not.
@@ -52,6 +54,19 @@ struct OverrideNode {
 /// the node's place, and tells the journal.
 void ReportOverride(TypedDataContainer& object, const OverrideNode& where, const FoundProblem& problem,
                     unsigned int line, MergeJournal::Outcome outcome = MergeJournal::Outcome::Refused);
+
+/// How much this thread has told so far of what is wrong with overrides.
+struct ToldIssues {
+    std::size_t inLog;
+    std::size_t inJournal;
+
+    static ToldIssues SoFar() noexcept;
+};
+
+/// A watched merge has failed with the object's last error. Tells the log and the journal, unless they were told of
+/// something since it began: else a journal would not know of an override that cannot be read.
+void ReportFailedMerge(TypedDataContainer& object, const zelString& feature, const ToldIssues& before,
+                       unsigned int line);
 
 /// The journal of this thread, if any, is not complete.
 void MissJournalEntry() noexcept;

@@ -37,7 +37,8 @@ constexpr std::array codeTexts = {
     CodeText{FindingCode::TargetExists, "target-exists", "An override adds what is there already."},
     CodeText{FindingCode::MissingNeighbour, "missing-neighbour",
              "A placement names an entry that is not there, or belongs to another feature."},
-    CodeText{FindingCode::NotLoaded, "not-loaded", "An entry could not be loaded."},
+    CodeText{FindingCode::NotLoaded, "not-loaded",
+             "An entry could not be loaded, or nothing of an override could be merged."},
     CodeText{FindingCode::OtherIssue, "other-issue", "What a class reported to the override log by itself."},
 };
 
