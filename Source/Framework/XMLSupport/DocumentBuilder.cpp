@@ -150,13 +150,14 @@ void DocumentBuilder::SetValue(NodeRecord& record, std::string_view value, ByteR
     }
 }
 
-/// Takes room by what has been read, as MakeRoom does. No text is longer than it is written.
+/// Takes room by what has been read, as MakeRoom does. No text is longer than it is written, and the first ones do not
+/// tell much of all.
 void DocumentBuilder::AddToPool(std::string_view text, std::size_t consumed) {
     std::string& pool = m_data.pool;
     const std::size_t size = pool.size() + text.size();
     if (size > pool.capacity()) {
         const auto expected = static_cast<std::size_t>(static_cast<double>(size) * ShareOf(consumed));
-        pool.reserve(std::max(std::min(expected, m_data.source.text.size()), size + size / 2));
+        pool.reserve(std::max(std::min({expected, m_data.source.text.size(), 8 * size}), size + size / 2));
     }
     pool.append(text);
 }
