@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstddef>
 #include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
+
+#include <sys/resource.h>
 
 namespace Robustness {
 
@@ -15,31 +15,26 @@ inline constexpr bool kSanitized = true;
 inline constexpr bool kSanitized = false;
 #endif
 
-/// What a watched process can say while it works. Kept in memory that its parent shares: nothing is lost when it dies.
-class Watch {
-public:
-    explicit Watch(struct WatchBoard& board) : m_board(board) {}
+/// The most memory that the work takes, above what the process held before.
+double MegabytesOf(const std::function<void()>& work);
 
-    /// Names the step that begins: told when the process does not come back from it.
-    void At(std::string_view step);
-    void Fail(const std::string& failure);
-    /// The most memory that the work takes, above what the process held before.
-    double MegabytesOf(const std::function<void()>& work);
+/// The files that the work opens or tries to, in this order, by the fault shim; "*" stands for a socket.
+std::vector<std::string> ReachedBy(const std::string& log, const std::function<void()>& work);
+
+/// While it lives no bomb that goes off hurts others: the process ends first.
+class ProcessLimits {
+public:
+    ProcessLimits();
+    ~ProcessLimits();
+    ProcessLimits(const ProcessLimits&) = delete;
+    ProcessLimits& operator=(const ProcessLimits&) = delete;
+
+    /// So much processor time from here on.
+    void GiveSeconds(rlim_t seconds) const;
 
 private:
-    struct WatchBoard& m_board;
+    rlimit m_memory = {}; ///< as they were
+    rlimit m_time = {};
 };
-
-struct Watched {
-    std::vector<std::string> failures; ///< what the work found, and how the process died if it did
-    /// Every system call that reaches beyond memory, time and open descriptors: "openat /etc/passwd", or its number
-    /// where it takes no path. In the order of the calls.
-    std::vector<std::string> reached;
-};
-
-/// Runs the work in a process of its own, which is ended when it uses more processor time than given. From the moment
-/// the work begins the kernel hands every system call but the harmless ones to the watch, whoever makes it; those with
-/// a path are carried out all the same, any other is refused. (A call made while signals are blocked ends the process.)
-Watched RunWatched(unsigned mostSeconds, const std::function<void(Watch&)>& work);
 
 } // namespace Robustness

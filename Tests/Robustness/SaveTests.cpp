@@ -1,3 +1,6 @@
+// Saving under faults. One save for each call that it makes and each fault that may meet it, in a folder and a process
+// of its own, up to the call that no save makes any more.
+
 #include <algorithm>
 #include <map>
 #include <set>
@@ -6,10 +9,11 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "Commands.h"
-#include "Robustness/Shim/SavedState.h"
+#include "Framework/XMLDataWrapper.h"
 
 namespace Robustness {
 namespace {
@@ -17,25 +21,80 @@ namespace {
 using namespace Framework;
 namespace fs = std::filesystem;
 
-std::vector<std::string> Split(const std::string& text, char separator) {
-    std::vector<std::string> parts;
-    std::istringstream stream(text);
-    for (std::string part; std::getline(stream, part, separator);) {
-        parts.push_back(part);
-    }
-    return parts;
+constexpr const char* kLaneFile = "lane.xml";
+constexpr uid_t kNobody = 65534;
+
+/// The document before and after the one change that is saved; the two differ in length.
+std::string LaneText(bool isChanged) {
+    return "<Lane>\r\n  <Version>" + std::string(isChanged ? "two" : "1") + "</Version><!-- " + std::string(2000, '.') +
+           " -->\r\n</Lane>\r\n";
 }
+
+/// What a folder holds after a save: "old", "new", "none" or "damaged" for the document, and " stray" when anything
+/// stands beside it.
+std::string StateOf(const fs::path& folder) {
+    std::string state = "none";
+    std::string stray;
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        if (entry.path().filename() != kLaneFile) {
+            stray = " stray";
+            continue;
+        }
+        const std::string text = ReadText(entry.path());
+        state = text == LaneText(false) ? "old" : text == LaneText(true) ? "new" : "damaged";
+    }
+    return state + stray;
+}
+
+std::vector<std::vector<std::string>> WordsOf(const std::string& text) {
+    std::vector<std::vector<std::string>> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) {
+        std::istringstream words(line);
+        lines.emplace_back(std::istream_iterator<std::string>(words), std::istream_iterator<std::string>());
+    }
+    return lines;
+}
+
+/// One document on its way from the disk to the disk, changed in between. "replace" overwrites any file, "refuse" only
+/// the one it loaded, "create" makes one where none is.
+class Saver {
+public:
+    Saver(const std::string& style, const fs::path& folder)
+        : m_path((folder / kLaneFile).string()), m_onlyKnown(style != "replace") {
+        fs::create_directory(folder);
+        if (style == "create") {
+            EXPECT_TRUE(m_document.LoadXMLText(LaneText(false), false));
+        } else {
+            WriteText(m_path, LaneText(false));
+            fs::permissions(m_path, fs::perms{0640});
+            EXPECT_TRUE(::geteuid() != 0 || ::chown(m_path.c_str(), kNobody, kNobody) == 0);
+            EXPECT_TRUE(m_document.LoadXMLFile(m_path.c_str(), false));
+        }
+        EXPECT_TRUE(m_document.SetQueryValue("Version", "two", false));
+    }
+
+    std::string Save() {
+        const bool isSaved = m_document.SaveXMLFile(m_path.c_str(), m_onlyKnown);
+        return isSaved ? "saved" : "failed: " + m_document.GetLastError();
+    }
+
+private:
+    std::string m_path;
+    bool m_onlyKnown;
+    XMLDataWrapper m_document;
+};
 
 /// One save of the sweep.
 struct Save {
     int call;
     std::string action;
-    bool killed;
-    std::string result; ///< "saved" or "failed: ..."
-    std::string state;  ///< of the folder behind it, as SavedState says
-    std::string again;  ///< result of a second save without faults
     fs::path folder;
-    std::vector<std::vector<std::string>> log; ///< name of the call, its files, result
+    bool killed = false;
+    std::string result = {};                        ///< "saved" or "failed: ..."
+    std::string state = {};                         ///< of the folder behind it, as StateOf says
+    std::string again = {};                         ///< result of a second save without faults
+    std::vector<std::vector<std::string>> log = {}; ///< name of the call, its files, result
 
     bool Saved() const { return result == "saved"; }
     /// The call that was swept; empty when the save did not come so far.
@@ -43,50 +102,73 @@ struct Save {
         const auto index = static_cast<std::size_t>(call) - 1;
         return index < log.size() ? log[index][0] : "";
     }
+    fs::path Beside(const char* ending) const { return folder.string() + ending; }
+
+    void Run(const std::string& style);
+
+private:
+    void RunInChild(const std::string& style) const;
 };
+
+/// Leaves its results in files beside the folder.
+void Save::RunInChild(const std::string& style) const {
+    ::umask(0027);
+    Saver saver(style, folder);
+    const std::string lane = folder / kLaneFile;
+    for (const auto& [name, value] : {std::pair<const char*, std::string>{"FAULT_LOG", Beside(".log")},
+                                      {"FAULT_AT", std::to_string(call)},
+                                      {"FAULT_ACTION", action},
+                                      {"FAULT_MEDDLE", lane},
+                                      {"FAULT_FOLDER", folder}}) {
+        ::setenv(name, value.c_str(), 1);
+    }
+    const std::string first = saver.Save();
+    ::unsetenv("FAULT_FOLDER");
+    WriteText(Beside(".result"), first);
+    WriteText(Beside(".state"), StateOf(folder));
+    WriteText(Beside(".again"), saver.Save());
+}
+
+void Save::Run(const std::string& style) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        RunInChild(style);
+        ::_exit(testing::Test::HasFailure() ? 1 : 0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    killed = WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
+    EXPECT_TRUE(killed || status == 0) << style << ", " << action << " at call " << call << ": " << status;
+    log = WordsOf(ReadText(Beside(".log")));
+    state = StateOf(folder);
+    if (!killed) {
+        result = ReadText(Beside(".result"));
+        state = ReadText(Beside(".state"));
+        again = ReadText(Beside(".again"));
+    }
+}
 
 /// Thousands of files are forced to the disk here, and faults are the same in memory.
 fs::path QuickFolder() {
     const fs::path memory = "/dev/shm";
-    return ::access(memory.c_str(), W_OK) == 0 ? memory : fs::path(testing::TempDir());
+    return fs::canonical(::access(memory.c_str(), W_OK) == 0 ? memory : fs::path(testing::TempDir()));
 }
 
-constexpr std::size_t kSmall = 2000;
 const std::vector<std::string> kFaults = {"ENOSPC", "EIO",         "EIO-on",     "short",
                                           "EINTR",  "kill-before", "kill-after", "torn"};
 
 std::vector<Save> Sweep(const TemporaryFolder& base, const std::string& style,
                         const std::vector<std::string>& actions = kFaults) {
-    // The shim stands before the run-time library of a sanitizer, whose checks of the calls it answers are missing.
-    std::string command = "ASAN_OPTIONS=\"$ASAN_OPTIONS:verify_asan_link_order=0\" LD_PRELOAD='" FRAMEWORK_FAULT_SHIM
-                          "' '" FRAMEWORK_SAVE_DRIVER "' " +
-                          style + " " + Quoted(base / style) + " " + std::to_string(kSmall);
-    for (const std::string& action : actions) {
-        command += " " + action;
-    }
-    const CommandResult driven = RunCommand(command);
-    EXPECT_EQ(driven.exitCode, 0) << driven.output;
+    Saver(style, base / "first"); // what starts once shall not start in each process
     std::vector<Save> saves;
-    for (const std::string& text : Split(driven.output, '\n')) {
-        const std::vector<std::string> line = Split(text, '\t');
-        if (line.size() != 3 && line.size() != 6) {
-            ADD_FAILURE() << style << ": " << testing::PrintToString(line);
-            continue;
+    bool isThere = true;
+    for (int call = 1; isThere; ++call) {
+        isThere = false;
+        for (const std::string& action : actions) {
+            Save& save = saves.emplace_back(Save{call, action, base / (style + std::to_string(call) + action)});
+            save.Run(style);
+            isThere = isThere || !save.Swept().empty();
         }
-        Save save{std::stoi(line[0]), line[1], line.back() == "killed", {}, {}, {}, {}, {}};
-        save.folder = base / style / (line[0] + "-" + line[1]);
-        if (line.size() == 6) {
-            save.result = line[2];
-            save.state = line[3];
-            save.again = line[4];
-        } else {
-            save.state = SavedState(save.folder, kSmall);
-        }
-        EXPECT_EQ(line.back(), line.size() == 6 ? "ended" : "killed") << testing::PrintToString(line);
-        for (const std::string& call : Split(ReadText(save.folder.string() + ".log"), '\n')) {
-            save.log.push_back(Split(call, ' '));
-        }
-        saves.push_back(std::move(save));
     }
     return saves;
 }
@@ -145,19 +227,18 @@ std::string Violation(const Save& save, const std::string& style) {
     if (save.Saved() && !IsForced(save)) {
         return "not forced";
     }
-    if (!save.Saved() && (save.again != "saved" || SavedState(save.folder, kSmall).rfind("new", 0) != 0)) {
+    if (!save.Saved() && (save.again != "saved" || StateOf(save.folder).rfind("new", 0) != 0)) {
         return "not saved again";
     }
     const bool isKept = (style == "replace" || style == "refuse") && ::geteuid() == 0;
     struct stat status = {};
     if (state == "new" && (::stat((save.folder / kLaneFile).c_str(), &status) != 0 ||
-                           (status.st_mode & 07777U) != 0640U || status.st_uid != (isKept ? 65534U : ::geteuid()))) {
+                           (status.st_mode & 07777U) != 0640U || status.st_uid != (isKept ? kNobody : ::geteuid()))) {
         return "owner or mode";
     }
     return "";
 }
 
-// "replace" overwrites any file, "refuse" only the one it loaded, "create" makes one where none is.
 TEST(SaveFaults, EveryFaultAtEveryCallLeavesTheOldOrTheNewFile) {
     const TemporaryFolder base(QuickFolder());
     for (const std::string style : {"refuse", "create", "replace"}) {
@@ -191,7 +272,7 @@ TEST(SaveFaults, AFileSystemWithoutRenamesThatReplaceNothingWillDo) {
 
 TEST(SaveFaults, AChangeIsNoticedUntilTheRename) {
     const TemporaryFolder base(QuickFolder());
-    const std::string changed = "X" + LaneText(false, kSmall).substr(1);
+    const std::string changed = "X" + LaneText(false).substr(1);
     bool isRenamed = false;
     for (const Save& save : Sweep(base, "refuse", {"meddle"})) {
         SCOPED_TRACE(testing::Message() << "before call " << save.call << ": " << save.result);
@@ -205,7 +286,7 @@ TEST(SaveFaults, AChangeIsNoticedUntilTheRename) {
             EXPECT_EQ(save.state, "damaged") << "by us, and nothing beside it";
         } else if (!save.Swept().empty()) {
             EXPECT_TRUE(save.Saved() && save.again.find("has changed") != std::string::npos) << save.again;
-            EXPECT_EQ(text, "X" + LaneText(true, kSmall).substr(1));
+            EXPECT_EQ(text, "X" + LaneText(true).substr(1));
         }
     }
     EXPECT_TRUE(isRenamed);

@@ -1,6 +1,7 @@
-// Preloaded into a program, makes one of its calls that concern files go wrong. It follows these variables, and does
-// nothing without the first; a program may set and unset them as it goes:
-//   FAULT_FOLDER  the folder whose files, and itself, the counted calls concern; absolute and without links
+// Preloaded into a program, or part of it, tells of its calls that concern files, and makes one of them go wrong. It
+// follows these variables, and does nothing without the first; a program may set and unset them as it goes:
+//   FAULT_FOLDER  the folder whose files, and itself, the counted calls concern; absolute and without links. "*": every
+//                 file that has a name, and sockets
 //   FAULT_LOG     a file outside of it that gets a line for each: name, file below the folder, result
 //   FAULT_AT      the number of the call, from 1
 //   FAULT_ACTION  ENOSPC, EIO, EINTR, EINVAL: it fails with that and does nothing; EIO-on: so do all later ones;
@@ -14,9 +15,9 @@
 #include <cstdlib>
 #include <string>
 #include <string_view>
-#include <type_traits>
 #include <utility>
 
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -44,7 +45,10 @@ std::string PathAt(int folder, std::string_view name) {
 /// The name below the folder, "." for the folder itself, nothing for what is elsewhere.
 std::string NameInFolder(std::string_view path) {
     const std::string_view folder = Variable("FAULT_FOLDER");
-    if (folder.empty() || !path.starts_with(folder)) {
+    if (folder == "*") {
+        return std::string(path);
+    }
+    if (!path.starts_with(folder)) {
         return {};
     }
     path.remove_prefix(folder.size());
@@ -84,20 +88,23 @@ struct Nothing {
     void operator()() const {}
 };
 
-/// One call, counted, logged, and the fault done to it when it is the one. `real(size)` does it, with that much of the
-/// data when it writes; `fail` is what it does to the file although it fails.
-template <class Real, class Fail = Nothing>
-auto Call(const char* name, const std::string& path, Real real, std::size_t size = 0, Fail fail = {})
-    -> decltype(real(size)) {
+/// One call, counted, logged, and the fault done to it when it is the one. `pathOf()` is the file it concerns;
+/// `real(size)` does it, with that much of the data when it writes; `fail` is what it does to the file although it
+/// fails.
+template <class PathOf, class Real, class Fail = Nothing>
+auto Call(const char* name, PathOf pathOf, Real real, std::size_t size = 0, Fail fail = {}) -> decltype(real(size)) {
     using Result = decltype(real(size));
-    const std::string file = NameInFolder(path);
+    if (Variable("FAULT_FOLDER").empty()) { // nothing is allocated then: memory may be running out
+        return real(size);
+    }
+    const std::string file = NameInFolder(pathOf());
     if (file.empty()) {
         return real(size);
     }
     const std::string log(Variable("FAULT_LOG"));
     const std::string_view action = Variable("FAULT_ACTION");
     const int at = std::atoi(std::string(Variable("FAULT_AT")).c_str());
-    const bool isIt = ++calls == at;
+    const bool isIt = at != 0 && ++calls == at;
     const std::string line = std::string(name) + " " + file + " ";
     if (isIt && (action == "kill-before" || (action == "torn" && size == 0))) {
         Append(log, line + "killed\n");
@@ -111,7 +118,7 @@ auto Call(const char* name, const std::string& path, Real real, std::size_t size
         fail();
         Append(log, line + "-1\n");
         errno = error;
-        return std::is_unsigned_v<Result> ? Result{0} : static_cast<Result>(-1);
+        return -1;
     }
     if (isIt && action == "meddle") {
         Meddle();
@@ -127,29 +134,39 @@ auto Call(const char* name, const std::string& path, Real real, std::size_t size
     return result;
 }
 
+auto FileOf(int descriptor) {
+    return [descriptor] { return PathOf(descriptor); };
+}
+
 int OpenAt(int folder, const char* path, int flags, mode_t mode) {
-    return Call("open", PathAt(folder, path),
-                [&](std::size_t) { return static_cast<int>(::syscall(SYS_openat, folder, path, flags, mode)); });
+    return Call(
+        "open", [&] { return PathAt(folder, path); },
+        [&](std::size_t) { return static_cast<int>(::syscall(SYS_openat, folder, path, flags, mode)); });
+}
+
+std::FILE* OpenStream(const char* path, const char* mode) {
+    static const auto real = reinterpret_cast<decltype(&std::fopen)>(::dlsym(RTLD_NEXT, "fopen"));
+    std::FILE* stream = nullptr;
+    Call(
+        "open", [path] { return std::string(path); },
+        [&](std::size_t) {
+            stream = real(path, mode);
+            return stream == nullptr ? -1 : 0;
+        });
+    return stream;
 }
 
 int RenameAt(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) {
-    const std::string target = NameInFolder(PathAt(toFolder, to));
-    return Call("rename", PathAt(fromFolder, from) + " " + target, [&](std::size_t) {
-        return static_cast<int>(::syscall(SYS_renameat2, fromFolder, from, toFolder, to, flags));
-    });
+    return Call(
+        "rename", [&] { return PathAt(fromFolder, from) + " " + NameInFolder(PathAt(toFolder, to)); },
+        [&](std::size_t) { return static_cast<int>(::syscall(SYS_renameat2, fromFolder, from, toFolder, to, flags)); });
 }
 
 } // namespace
 
-extern "C" {
+#pragma GCC visibility push(default)
 
-int open(const char* path, int flags, ...) {
-    std::va_list rest;
-    va_start(rest, flags);
-    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
-    va_end(rest);
-    return OpenAt(AT_FDCWD, path, flags, mode);
-}
+extern "C" {
 
 int openat(int folder, const char* path, int flags, ...) {
     std::va_list rest;
@@ -159,34 +176,56 @@ int openat(int folder, const char* path, int flags, ...) {
     return OpenAt(folder, path, flags, mode);
 }
 
+int open(const char* path, int flags, ...) {
+    std::va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
+    va_end(rest);
+    return OpenAt(AT_FDCWD, path, flags, mode);
+}
+
+std::FILE* fopen(const char* path, const char* mode) {
+    return OpenStream(path, mode);
+}
+
+std::FILE* fopen64(const char* path, const char* mode) {
+    return OpenStream(path, mode);
+}
+
+int socket(int domain, int type, int protocol) noexcept {
+    return Call(
+        "socket", [] { return std::string("*"); },
+        [&](std::size_t) { return static_cast<int>(::syscall(SYS_socket, domain, type, protocol)); });
+}
+
 ssize_t write(int file, const void* data, size_t size) {
     return Call(
-        "write", PathOf(file), [&](std::size_t part) { return ssize_t{::syscall(SYS_write, file, data, part)}; }, size);
+        "write", FileOf(file), [&](std::size_t part) { return ssize_t{::syscall(SYS_write, file, data, part)}; }, size);
 }
 
 ssize_t read(int file, void* data, size_t size) {
     return Call(
-        "read", PathOf(file), [&](std::size_t part) { return ssize_t{::syscall(SYS_read, file, data, part)}; }, size);
+        "read", FileOf(file), [&](std::size_t part) { return ssize_t{::syscall(SYS_read, file, data, part)}; }, size);
 }
 
 int fsync(int file) {
-    return Call("fsync", PathOf(file), [&](std::size_t) { return static_cast<int>(::syscall(SYS_fsync, file)); });
+    return Call("fsync", FileOf(file), [&](std::size_t) { return static_cast<int>(::syscall(SYS_fsync, file)); });
 }
 
 int fchmod(int file, mode_t mode) noexcept {
-    return Call("fchmod", PathOf(file),
+    return Call("fchmod", FileOf(file),
                 [&](std::size_t) { return static_cast<int>(::syscall(SYS_fchmod, file, mode)); });
 }
 
 int fchown(int file, uid_t owner, gid_t group) noexcept {
-    return Call("fchown", PathOf(file),
+    return Call("fchown", FileOf(file),
                 [&](std::size_t) { return static_cast<int>(::syscall(SYS_fchown, file, owner, group)); });
 }
 
 int close(int file) {
     // The number is free behind it, also when it failed.
     const auto real = [&](std::size_t = 0) { return static_cast<int>(::syscall(SYS_close, file)); };
-    return Call("close", PathOf(file), real, 0, real);
+    return Call("close", FileOf(file), real, 0, real);
 }
 
 int renameat(int fromFolder, const char* from, int toFolder, const char* to) noexcept {
@@ -198,7 +237,10 @@ int renameat2(int fromFolder, const char* from, int toFolder, const char* to, un
 }
 
 int unlinkat(int folder, const char* path, int flags) noexcept {
-    return Call("unlink", PathAt(folder, path),
-                [&](std::size_t) { return static_cast<int>(::syscall(SYS_unlinkat, folder, path, flags)); });
+    return Call(
+        "unlink", [&] { return PathAt(folder, path); },
+        [&](std::size_t) { return static_cast<int>(::syscall(SYS_unlinkat, folder, path, flags)); });
 }
 }
+
+#pragma GCC visibility pop
