@@ -185,20 +185,6 @@ TEST_F(EncodedDocuments, ComeInRightAndAreSavedAsTheyCame) {
     }
 }
 
-TEST_F(EncodedDocuments, ThatCannotBeWrittenBackAreKeptAndNotEdited) {
-    const std::string seven = "<?xml version='1.0' encoding='UTF-7'?>\n<TranslationConfig><TranslationText>"
-                              "<TranslationKeyMap><Translation><ResultValue>x</ResultValue></Translation>"
-                              "</TranslationKeyMap></TranslationText></TranslationConfig>";
-    const auto object = New();
-    ASSERT_EQ(Refusal(seven, *object), "");
-    EXPECT_EQ(Saved(*object), seven);
-    ASSERT_TRUE(ResultValue().SetText(Translation(*object, 0), "y"));
-    EXPECT_FALSE(ResultValue().WriteBack(Translation(*object, 0)));
-    EXPECT_NE(object->GetContainedDataPtr()->GetLastError().find("the encoding UTF-7 does not give the bytes"),
-              zelString::npos);
-    EXPECT_EQ(Saved(*object), seven);
-}
-
 /// The converter of the system is the judge of what an encoding makes of bytes.
 void CheckLie(const std::string& refusal, TypedDataContainer& object, const std::string& bytes, const Encoding& actual,
               const Encoding& declared) {

@@ -1,12 +1,16 @@
-// Saving that refuses to overwrite what others wrote, and what it has to know of files for that.
+// Saving that refuses to overwrite what others wrote, and what it has to know of files for that; files that cannot be
+// written or read.
 
 #include <functional>
 #include <memory>
+#include <thread>
 #include <vector>
 
 #include <FrameworkDataContainers/StateProcessingRootType.h>
 #include <gtest/gtest.h>
 #include <malloc.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "Commands.h"
 #include "Framework/XMLDataWrapper.h"
@@ -27,9 +31,25 @@ constexpr const char* kChanged = "not saved: the file has changed since it was l
 constexpr const char* kGone = "not saved: the file that was loaded or last saved is no longer there";
 constexpr const char* kUnknown = "not saved: there is a file that was neither loaded nor saved from here";
 
+/// Rights that root does not heed are tested as somebody else.
+class AsNobody {
+public:
+    AsNobody() { Be(65534); }
+    ~AsNobody() { Be(0); }
+
+private:
+    void Be(uid_t who) const {
+        EXPECT_TRUE(!m_isRoot || ::seteuid(0) == 0);
+        EXPECT_TRUE(!m_isRoot || (::setegid(who) == 0 && ::seteuid(who) == 0));
+    }
+
+    const bool m_isRoot = ::geteuid() == 0;
+};
+
 class SaveRefusal : public testing::Test {
 protected:
     void SetUp() override { WriteText(m_path, kOld); }
+    void TearDown() override { fs::permissions(m_folder.Path(), fs::perms{0755}); }
 
     void Load(XMLDataWrapper& wrapper) const {
         ASSERT_TRUE(wrapper.LoadXMLFile(m_path.c_str(), false)) << wrapper.GetLastError();
@@ -37,7 +57,8 @@ protected:
     }
 
     /// Refused with the file's name and that reason, and nothing is changed or left beside the files there.
-    void ExpectRefused(XMLDataWrapper& wrapper, const fs::path& path, const char* reason) const {
+    void ExpectRefused(XMLDataWrapper& wrapper, const fs::path& path, const char* reason,
+                       bool refuseChanged = true) const {
         const auto look = [&] {
             std::map<std::string, std::string> files;
             for (const auto& entry : fs::directory_iterator(m_path.parent_path())) {
@@ -46,7 +67,7 @@ protected:
             return files;
         };
         const auto before = look();
-        EXPECT_FALSE(wrapper.SaveXMLFile(path.c_str(), true));
+        EXPECT_FALSE(wrapper.SaveXMLFile(path.c_str(), refuseChanged));
         EXPECT_EQ(wrapper.GetLastError().find(path.string() + ": " + reason), 0U) << wrapper.GetLastError();
         EXPECT_EQ(look(), before);
     }
@@ -186,6 +207,59 @@ TEST_F(SaveRefusal, TellsContentsApartThatHaveOneStamp) {
     FileStamp old = files.loaded.stamp;
     old.changedSeconds -= 10;
     EXPECT_TRUE(files.loaded.stamp.IsFresh() && !old.IsFresh());
+}
+
+TEST_F(SaveRefusal, WhatIsNoRegularFile) {
+    ASSERT_EQ(::mkfifo((m_folder / "pipe").c_str(), 0600), 0);
+    fs::create_symlink("nowhere", m_folder / "dangling");
+    constexpr const char* kNotRegular = "cannot save to what is no regular file";
+    XMLDataWrapper wrapper;
+    ASSERT_TRUE(wrapper.LoadXMLText(kNew, false));
+    for (const auto& [path, reason] : {std::pair<fs::path, const char*>{m_folder / "pipe", kNotRegular},
+                                       {m_folder.Path(), kNotRegular},
+                                       {m_folder / "", kNotRegular},
+                                       {"/dev/null", kNotRegular},
+                                       {m_folder / "missing/file", "cannot find its folder"},
+                                       {m_path / "file", "cannot find its folder"},
+                                       {"", "cannot find its folder"},
+                                       {m_folder / "dangling", "the symbolic link leads to no file"}}) {
+        ExpectRefused(wrapper, path, reason, false);
+    }
+}
+
+TEST_F(SaveRefusal, WithoutTheRights) {
+    fs::permissions(m_path, fs::perms{0666});
+    XMLDataWrapper wrapper;
+    ASSERT_TRUE(wrapper.LoadXMLText(kNew, false));
+    const auto refuse = [&](unsigned rightsOfFolder, const char* name, const char* reason) {
+        fs::permissions(m_folder.Path(), fs::perms(rightsOfFolder));
+        const AsNobody nobody;
+        ExpectRefused(wrapper, m_folder / name, reason, false);
+    };
+    refuse(0555, "lane.xml", "cannot create a temporary file in its folder");
+    refuse(0555, "new", "cannot create a temporary file in its folder");
+    if (::geteuid() == 0) { // only root has files of others
+        refuse(0777, "lane.xml", "cannot keep its owner and group");
+    }
+}
+
+TEST_F(SaveRefusal, NotForANameOfAnyLengthOrOneWithoutFolder) {
+    SaveAtomically(m_folder / std::string(255, 'n'), kNew);
+    const fs::path here = fs::current_path();
+    fs::current_path(m_folder.Path());
+    SaveAtomically("relative", kNew);
+    fs::current_path(here);
+    EXPECT_EQ(std::distance(fs::directory_iterator(m_folder.Path()), {}), 3);
+}
+
+TEST(ReadingFiles, TakesWhatAnotherThreadPipes) {
+    const TemporaryFolder folder;
+    const std::string large(500'000, 'x');
+    const std::string pipe = folder / "pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    std::thread writer([&] { WriteText(pipe, large); });
+    EXPECT_EQ(ReadFile(pipe, large.size()), large);
+    writer.join();
 }
 
 TEST(ReadingFiles, TakesNoMoreMemoryThanTheCap) {

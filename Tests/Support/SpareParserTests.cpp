@@ -19,7 +19,7 @@ using Testing::TreeText;
 
 constexpr std::size_t kMostForOne = std::size_t{32} * 1024;
 
-/// What the parsers hold that are left after the load of a document which began without any; 0 when it is refused, too.
+/// What the parsers hold that are left after the load of a document, whether it is refused or not.
 std::size_t KeptAfter(const std::string& xml, const LoadLimits& limits = LoadLimits()) {
     try {
         Document::Parse(xml, "test.xml", limits);
@@ -83,51 +83,6 @@ TEST(SpareParsers, DoNotDecideWhetherALimitIsPassed) {
     EXPECT_GT(alone, xml.size());
     EXPECT_GT(KeptAfter(WithNames(500)), 0U);
     EXPECT_EQ(least(), alone);
-}
-
-TEST(SpareParsers, ReadLikeNewOnes) {
-    const std::string documents[] = {
-        "<?xml version='1.0' encoding='ISO-8859-1'?><r a='caf\xe9' b='&#233;'>caf\xe9</r>",
-        "<r a='caf\xc3\xa9'><![CDATA[x]]><a:b a:c='&amp;'/><!--c--><?p i?></r>",
-        "<?xml version='1.0' standalone='yes'?><r xmlns:a='u'><a:b c='1'>t\r\nt</a:b></r>",
-        WithNames(300),
-        "<r>" + std::string(3000, 'x') + "</r>",
-    };
-    const auto both = [](const std::string& xml) {
-        const auto document = Load(xml);
-        return TreeText(*document) + document->Bytes();
-    };
-    for (const std::string& before : documents) {
-        for (const std::string& xml : documents) {
-            FreeSpareParsers();
-            const std::string expected = both(xml);
-            FreeSpareParsers();
-            both(before);
-            ASSERT_GT(MemoryOfSpareParsers(), 0U);
-            EXPECT_EQ(both(xml), expected) << "after " << before;
-        }
-    }
-}
-
-/// One that is in use is no spare one.
-TEST(SpareParsers, AreUsedByOneAtATime) {
-    FreeSpareParsers();
-    Load("<r/>");
-    const std::size_t one = MemoryOfSpareParsers();
-    for (int round = 0; round < 2; ++round) {
-        ParserMemory outerMemory(LoadLimits().memory);
-        const ParserPtr outer = TakeParser(1, outerMemory);
-        {
-            ParserMemory innerMemory(LoadLimits().memory);
-            const ParserPtr inner = TakeParser(1, innerMemory);
-            ASSERT_TRUE(outer && inner);
-            EXPECT_NE(outer.get(), inner.get());
-            EXPECT_EQ(::XML_Parse(inner.get(), "<a/>", 4, XML_TRUE), XML_STATUS_OK);
-        }
-        EXPECT_EQ(::XML_Parse(outer.get(), "<b/>", 4, XML_TRUE), XML_STATUS_OK);
-    }
-    EXPECT_GT(MemoryOfSpareParsers(), one);
-    EXPECT_LE(MemoryOfSpareParsers(), 2 * kMostForOne);
 }
 
 TEST(SpareParsers, GoFromThreadToThread) {
