@@ -30,11 +30,6 @@ void* Take(std::size_t size) noexcept {
     return IsRefused(Level::New) ? nullptr : std::malloc(size == 0 ? 1 : size);
 }
 
-void* TakeAligned(std::size_t size, std::align_val_t alignment) noexcept {
-    const auto step = static_cast<std::size_t>(alignment);
-    return IsRefused(Level::New) ? nullptr : std::aligned_alloc(step, (size + step) / step * step);
-}
-
 void* OrThrow(void* memory) {
     if (memory == nullptr) {
         throw std::bad_alloc();
@@ -56,8 +51,9 @@ bool FailingMemory::HasFailed() {
     return plan.hasFailed;
 }
 
-// Every form: a sanitizer brings its own of those that are missing, which must not meet our delete. None inline: the
-// compiler would see a mismatch between one half that it inlined and one that it did not.
+// Every form but those with an alignment, which nobody uses: a sanitizer brings its own of those that are missing,
+// which must not meet our delete. None inline: the compiler would see a mismatch between one half that it inlined and
+// one that it did not.
 
 [[gnu::noinline]] void* operator new(std::size_t size) {
     return OrThrow(Take(size));
@@ -71,18 +67,6 @@ bool FailingMemory::HasFailed() {
 [[gnu::noinline]] void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
     return Take(size);
 }
-[[gnu::noinline]] void* operator new(std::size_t size, std::align_val_t alignment) {
-    return OrThrow(TakeAligned(size, alignment));
-}
-[[gnu::noinline]] void* operator new[](std::size_t size, std::align_val_t alignment) {
-    return OrThrow(TakeAligned(size, alignment));
-}
-[[gnu::noinline]] void* operator new(std::size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept {
-    return TakeAligned(size, alignment);
-}
-[[gnu::noinline]] void* operator new[](std::size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept {
-    return TakeAligned(size, alignment);
-}
 [[gnu::noinline]] void operator delete(void* memory) noexcept {
     std::free(memory);
 }
@@ -95,19 +79,6 @@ bool FailingMemory::HasFailed() {
 [[gnu::noinline]] void operator delete[](void* memory, std::size_t) noexcept {
     std::free(memory);
 }
-[[gnu::noinline]] void operator delete(void* memory, std::align_val_t) noexcept {
-    std::free(memory);
-}
-[[gnu::noinline]] void operator delete[](void* memory, std::align_val_t) noexcept {
-    std::free(memory);
-}
-[[gnu::noinline]] void operator delete(void* memory, std::size_t, std::align_val_t) noexcept {
-    std::free(memory);
-}
-[[gnu::noinline]] void operator delete[](void* memory, std::size_t, std::align_val_t) noexcept {
-    std::free(memory);
-}
-
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || !defined(__GLIBC__)
 
 bool FailingMemory::CanFailMalloc() {
@@ -120,6 +91,15 @@ bool FailingMemory::CanFailMalloc() {
     return true;
 }
 
+namespace {
+
+void* NoMemory() {
+    errno = ENOMEM;
+    return nullptr;
+}
+
+} // namespace
+
 // The C library's own, by the names that it keeps for those who stand in front of it.
 extern "C" {
 void* __libc_malloc(std::size_t size);
@@ -127,25 +107,13 @@ void* __libc_calloc(std::size_t count, std::size_t size);
 void* __libc_realloc(void* memory, std::size_t size);
 
 void* malloc(std::size_t size) {
-    if (IsRefused(Level::Malloc)) {
-        errno = ENOMEM;
-        return nullptr;
-    }
-    return __libc_malloc(size);
+    return IsRefused(Level::Malloc) ? NoMemory() : __libc_malloc(size);
 }
 void* calloc(std::size_t count, std::size_t size) {
-    if (IsRefused(Level::Malloc)) {
-        errno = ENOMEM;
-        return nullptr;
-    }
-    return __libc_calloc(count, size);
+    return IsRefused(Level::Malloc) ? NoMemory() : __libc_calloc(count, size);
 }
 void* realloc(void* memory, std::size_t size) {
-    if (IsRefused(Level::Malloc)) {
-        errno = ENOMEM;
-        return nullptr;
-    }
-    return __libc_realloc(memory, size);
+    return IsRefused(Level::Malloc) ? NoMemory() : __libc_realloc(memory, size);
 }
 }
 

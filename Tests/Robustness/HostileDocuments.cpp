@@ -2,7 +2,6 @@
 #include "Robustness/HostileTexts.h"
 #include "Robustness/Sizes.h"
 
-#include <array>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -158,35 +157,6 @@ HostileDocuments DocumentsOf(std::string_view group, const std::string& folder) 
     }
     if (documents.empty()) {
         throw std::runtime_error("no hostile documents of the group " + std::string(group));
-    }
-    return documents;
-}
-
-HostileDocuments BadUtf8() {
-    constexpr std::array<std::string_view, 12> kinds{"\x80",
-                                                     "\xC0\xAF",
-                                                     "\xE0\x80\xAF",
-                                                     "\xF0\x80\x80\xAF",
-                                                     "\xC3",
-                                                     "\xE2\x82",
-                                                     "\xF0\x9F\x99",
-                                                     "\xED\xA0\xBD\xED\xB9\x82",
-                                                     "\xF4\x90\x80\x80",
-                                                     "\xF8\x88\x80\x80\x80",
-                                                     "\xFC\x84\x80\x80\x80\x80",
-                                                     "\xFE"};
-    constexpr std::array<std::array<std::string_view, 2>, 6> places{
-        {{"<b>", "</b>"}, {"<b c='", "'/>"}, {"<b", "/>"}, {"<!-- ", " -->"}, {"<![CDATA[", "]]>"}, {"<?b ", " ?>"}}};
-    HostileDocuments documents;
-    for (const std::string_view bytes : kinds) {
-        for (const auto& [before, behind] : places) {
-            const std::string start = "<TranslationConfig>\n" + std::string(before);
-            std::array<char, 100> refusal{};
-            std::snprintf(refusal.data(), refusal.size(), "2:%zu: byte 0x%02X at byte offset %zu is not valid UTF-8",
-                          before.size() + 1, static_cast<unsigned char>(bytes[0]), start.size());
-            const std::string text = start + std::string(bytes) + std::string(behind) + "</TranslationConfig>";
-            documents.push_back({refusal.data(), refusal.data(), [text](std::size_t) { return text; }});
-        }
     }
     return documents;
 }

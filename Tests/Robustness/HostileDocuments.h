@@ -30,7 +30,5 @@ using HostileDocuments = std::vector<HostileDocument>;
 
 /// A group of HostileDocuments.txt. What they try to reach is in the folder: canary.txt, canary.xml and canary.dtd.
 HostileDocuments DocumentsOf(std::string_view group, const std::string& folder = {});
-/// Every kind of broken UTF-8 in every kind of markup.
-HostileDocuments BadUtf8();
 
 } // namespace Robustness
