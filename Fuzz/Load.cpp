@@ -55,12 +55,7 @@ void ExpectQueryDumpLoads(TypedDataContainer& object) {
     FullFunctionXMLDataWrapper output;
     Expect(output.CreateOutputDocument(object.GetContainerName().c_str()), "no output document", output.GetLastError());
     Expect(object.DumpMergeContents("", &output, -1, true), "a tree cannot be dumped by query", object.GetLastError());
-    XMLDataWrapper loaded;
-    Expect(loaded.LoadXMLText(output.GetXMLText(), true), "a dump by query does not load",
-           loaded.GetLastError() + output.GetLastError());
-    const std::unique_ptr<TypedDataContainer> other = Another(object);
-    Expect(other->LoadFromDataPacket(nullptr, &loaded, true), "a dump by query does not load into an object",
-           other->GetLastError());
+    LoadedLike(object, output.GetXMLText(), "a dump by query");
 }
 
 /// Writing back what was loaded changes nothing, except words that are none.
@@ -74,11 +69,7 @@ void ExpectUpdateKeepsBytes(TypedDataContainer& object, XMLDataWrapper& wrapper,
         return;
     }
     Expect(!text.empty(), "a document cannot be saved", wrapper.GetLastError());
-    XMLDataWrapper again;
-    Expect(again.LoadXMLText(text, true), "a saved document does not load", again.GetLastError());
-    const std::unique_ptr<TypedDataContainer> other = Another(object);
-    Expect(other->LoadFromDataPacket(nullptr, &again, true), "a saved document does not load into an object",
-           other->GetLastError());
+    const std::unique_ptr<TypedDataContainer> other = LoadedLike(object, text, "a saved document");
     ExpectEqual(ReadAll(*other), reading, "a saved document loads differently");
 }
 

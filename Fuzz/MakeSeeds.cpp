@@ -1,8 +1,8 @@
 // Writes what `./fuzz` starts from: MakeSeeds <folder> makes <folder>/<target>/.
 
 #include <filesystem>
-#include <fstream>
 
+#include "Files.h"
 #include "Seeds.h"
 
 int main(int argumentCount, char** arguments) {
@@ -13,10 +13,7 @@ int main(int argumentCount, char** arguments) {
         const std::filesystem::path folder = std::filesystem::path(arguments[1]) / target.name;
         std::filesystem::create_directories(folder);
         for (const Fuzz::Seed& seed : Fuzz::SeedsOf(target)) {
-            std::ofstream file(folder / seed.name, std::ios::binary);
-            if (!(file << seed.bytes).flush()) {
-                return 1;
-            }
+            Framework::WriteText(folder / seed.name, seed.bytes);
         }
     }
     return 0;

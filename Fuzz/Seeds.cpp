@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <optional>
 #include <sstream>
-#include <stdexcept>
 
 #include "Containers/Sample.h"
+#include "Files.h"
 #include "Framework/ContainerCatalog.h"
 
 namespace Fuzz {
@@ -19,16 +18,6 @@ namespace fs = std::filesystem;
 /// Large inputs make few runs: what they hold, smaller ones hold together.
 constexpr std::size_t kLongestDocument = 5'000;
 
-std::string ReadText(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        throw std::runtime_error("cannot read " + path.string());
-    }
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
-
 /// The files of a folder that is there, by name; hidden ones are not inputs.
 std::vector<Seed> FilesIn(const fs::path& folder) {
     std::vector<Seed> files;
@@ -36,7 +25,7 @@ std::vector<Seed> FilesIn(const fs::path& folder) {
         for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
             const std::string name = entry.path().filename();
             if (entry.is_regular_file() && name.front() != '.') {
-                files.push_back({name, ReadText(entry.path())});
+                files.push_back({name, Framework::ReadText(entry.path())});
             }
         }
     }

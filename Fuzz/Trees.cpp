@@ -106,15 +106,21 @@ std::unique_ptr<TypedDataContainer> Another(TypedDataContainer& object) {
     return other;
 }
 
+std::unique_ptr<TypedDataContainer> LoadedLike(TypedDataContainer& object, const zelString& xml,
+                                               std::string_view what) {
+    XMLDataWrapper wrapper;
+    Expect(wrapper.LoadXMLText(xml, true), std::string(what) + " does not load", wrapper.GetLastError());
+    std::unique_ptr<TypedDataContainer> other = Another(object);
+    Expect(other->LoadFromDataPacket(nullptr, &wrapper, true), std::string(what) + " does not load into an object",
+           other->GetLastError());
+    return other;
+}
+
 void ExpectDumpLoadsEqual(TypedDataContainer& object, const Reading& reading, const OverrideLog& log) {
     const std::unique_ptr<XMLDataWrapper> dump(object.BuildAndReturnDataContent());
     Expect(dump != nullptr, "a tree cannot be dumped", object.GetLastError());
-    XMLDataWrapper loaded;
-    Expect(loaded.LoadXMLText(dump->GetXMLText(), true), "a dump does not load", loaded.GetLastError());
-    const std::unique_ptr<TypedDataContainer> other = Another(object);
     const std::size_t issues = log.Count();
-    Expect(other->LoadFromDataPacket(nullptr, &loaded, true), "a dump does not load into an object",
-           other->GetLastError());
+    const std::unique_ptr<TypedDataContainer> other = LoadedLike(object, dump->GetXMLText(), "a dump");
     if (!reading.hasEqualKeys) {
         Expect(log.Count() == issues, "a load of a dump has something to report", log.Last());
         ExpectEqual(ReadAll(*other), reading, "a dump loads differently");

@@ -69,6 +69,9 @@ std::unique_ptr<TypedDataContainer> ObjectFor(const zelString& root);
 /// A new object of the same class and name.
 std::unique_ptr<TypedDataContainer> Another(TypedDataContainer& object);
 
+/// A new object of the same class and name, loaded from a text that must load. `what` tells what that text is.
+std::unique_ptr<TypedDataContainer> LoadedLike(TypedDataContainer& object, const zelString& xml, std::string_view what);
+
 /// The object's content as a new document loads equal, without a word to the log.
 void ExpectDumpLoadsEqual(TypedDataContainer& object, const Reading& reading, const OverrideLog& log);
 

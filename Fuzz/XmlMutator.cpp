@@ -38,92 +38,73 @@ std::vector<std::string> FieldsOf(std::string_view element) {
     return names;
 }
 
-class Mutation {
-public:
-    Mutation(std::string_view document, unsigned seed)
-        : m_random(seed), m_document(Document::Parse(std::string(document), "input", LoadLimits())),
-          m_text(m_document->Source()) {
-        const XmlTree& tree = *m_document;
-        for (NodeRef node = tree.Root(); node != NodeRef::None; node = NextInOrder(tree, node, tree.Root())) {
-            (tree.Kind(node) == NodeKind::Element ? m_elements : m_others).push_back(node);
-            for (NodeRef each = tree.FirstAttribute(node); each != NodeRef::None; each = tree.NextSibling(each)) {
-                m_others.push_back(each);
-            }
-        }
-    }
-
-    std::string Run() {
-        const NodeRef element = Pick(m_elements);
-        const ByteRange range = m_document->Range(element);
-        const std::vector<std::string> fields = FieldsOf(m_document->Name(element));
-        switch (m_random() % 6) {
-        case 0: // take away
-            if (element != m_document->Root()) {
-                m_text.erase(range.begin, range.Size());
-            }
-            break;
-        case 1: // copy, into another or beside itself
-            PutInto(Pick(m_elements), m_text.substr(range.begin, range.Size()));
-            break;
-        case 2: // another attribute
-            PutAttribute(element, Pick(kAttributes), Pick(kAttributeTexts));
-            break;
-        case 3: // a field of its class
-            if (!fields.empty()) {
-                const std::string name = Pick(fields);
-                PutInto(element, "<" + name + ">" + Pick(kTexts) + "</" + name + ">");
-            }
-            break;
-        case 4: // other text
-            PutInto(element, Pick(kTexts));
-            break;
-        default: // another value, or none
-            if (!m_others.empty()) {
-                Replace(Pick(m_others));
-            }
-            break;
-        }
-        return EncodeDocument(m_text, m_document->EncodingName(), m_document->HasByteOrderMark()).value_or(m_text);
-    }
-
-private:
-    template <typename Item> const Item& Pick(const std::vector<Item>& items) {
-        return items[m_random() % items.size()];
-    }
-
-    /// Behind the start tag, or in front of the end tag.
-    void PutInto(NodeRef element, const std::string& text) {
-        const ByteRange range = m_document->Range(element);
-        const std::size_t start = m_document->StartTag(element).end;
-        if (start == range.end) { // <a/>
-            m_text.replace(start - 2, 2, ">" + text + "</" + std::string(m_document->Name(element)) + ">");
+/// One step.
+std::string Changed(std::string_view bytes, std::minstd_rand& random) {
+    const auto document = Document::Parse(std::string(bytes), "input", LoadLimits());
+    std::vector<NodeRef> elements;
+    std::vector<ByteRange> values; // of attributes, and texts, comments and instructions
+    const NodeRef root = document->Root();
+    for (NodeRef node = root; node != NodeRef::None; node = NextInOrder(*document, node, root)) {
+        if (document->Kind(node) == NodeKind::Element) {
+            elements.push_back(node);
         } else {
-            m_text.insert(m_random() % 2 == 0 ? start : m_text.rfind('<', range.end - 1), text);
+            values.push_back(document->Range(node));
+        }
+        for (NodeRef each = document->FirstAttribute(node); each != NodeRef::None; each = document->NextSibling(each)) {
+            values.push_back(document->ValueRange(each));
         }
     }
+    const auto pick = [&random](const auto& items) -> const auto& {
+        return items[random() % items.size()];
+    };
 
-    void PutAttribute(NodeRef element, const std::string& name, const std::string& text) {
-        if (FindAttribute(*m_document, element, name) == NodeRef::None) {
-            const std::size_t behindName = m_document->Range(element).begin + 1 + m_document->Name(element).size();
-            m_text.insert(behindName, " " + name + "=\"" + text + "\"");
+    std::string text = document->Source();
+    const NodeRef element = pick(elements);
+    const std::string name(document->Name(element));
+    const ByteRange range = document->Range(element);
+    const std::size_t inside = document->StartTag(element).end;
+    const auto put = [&](const std::string& what) {
+        if (inside == range.end) { // <a/>
+            text.replace(inside - 2, 2, ">" + what + "</" + name + ">");
+        } else { // behind the start tag, or in front of the end tag
+            text.insert(random() % 2 == 0 ? inside : text.rfind('<', range.end - 1), what);
         }
-    }
-
-    void Replace(NodeRef node) {
-        const bool isAttribute = m_document->Kind(node) == NodeKind::Attribute;
-        const ByteRange range = isAttribute ? m_document->ValueRange(node) : m_document->Range(node);
-        const std::string text = Pick(kTexts);
-        if (!isAttribute || text.find_first_of("<'") == std::string::npos) {
-            m_text.replace(range.begin, range.Size(), text);
+    };
+    switch (random() % 6) {
+    case 0: // take away
+        if (element != root) {
+            text.erase(range.begin, range.Size());
         }
+        break;
+    case 1: { // copy another one into it
+        const ByteRange other = document->Range(pick(elements));
+        put(text.substr(other.begin, other.Size()));
+        break;
     }
-
-    std::minstd_rand m_random;
-    std::shared_ptr<const Document> m_document;
-    std::string m_text;
-    std::vector<NodeRef> m_elements;
-    std::vector<NodeRef> m_others; ///< attributes too
-};
+    case 2: // another attribute
+        if (const std::string& attribute = pick(kAttributes);
+            FindAttribute(*document, element, attribute) == NodeRef::None) {
+            text.insert(range.begin + 1 + name.size(), " " + attribute + "=\"" + pick(kAttributeTexts) + "\"");
+        }
+        break;
+    case 3: // a field of its class
+        if (const std::vector<std::string> fields = FieldsOf(name); !fields.empty()) {
+            const std::string& field = pick(fields);
+            put("<" + field + ">" + pick(kTexts) + "</" + field + ">");
+        }
+        break;
+    case 4: // other text
+        put(pick(kTexts));
+        break;
+    default: // another value
+        if (!values.empty()) {
+            const ByteRange& value = pick(values);
+            text.replace(value.begin, value.Size(), pick(kTexts));
+        }
+        break;
+    }
+    return EncodeDocument(text, document->EncodingName(), document->HasByteOrderMark()).value_or(text);
+}
 
 } // namespace
 
@@ -132,7 +113,7 @@ std::string MutateXml(std::string_view document, unsigned seed) {
     std::minstd_rand random(seed);
     try {
         for (unsigned steps = static_cast<unsigned>(1 + random() % 3); steps > 0; --steps) {
-            text = Mutation(text, static_cast<unsigned>(random())).Run();
+            text = Changed(text, random);
         }
     } catch (const std::runtime_error&) {
         return text; // a step made what does not load: the fuzzer may have it
