@@ -8,25 +8,6 @@ namespace Framework {
 
 namespace {
 
-/// What a reader makes of a tree, one line for each element: empty texts and the splitting of sections do not show.
-std::vector<std::string> Reading(const XmlTree& tree) {
-    std::vector<std::string> lines;
-    std::string room;
-    for (NodeRef node = tree.Root(); node != NodeRef::None; node = NextInOrder(tree, node, tree.Root())) {
-        if (tree.Kind(node) != NodeKind::Element) {
-            lines.push_back(tree.Kind(node) == NodeKind::Comment ? "!" + std::string(tree.Value(node, room)) : "");
-            lines.resize(lines.size() - (lines.back().empty() ? 1 : 0));
-            continue;
-        }
-        std::string line(tree.Name(node));
-        for (NodeRef at = tree.FirstAttribute(node); at != NodeRef::None; at = tree.NextSibling(at)) {
-            line += " " + std::string(tree.Name(at)) + "=" + std::string(tree.Value(at, room));
-        }
-        lines.push_back(line + "|" + TextOf(tree, node) + "|" + CDataOf(tree, node));
-    }
-    return lines;
-}
-
 class RandomEdits {
 public:
     explicit RandomEdits(unsigned seed) : m_random(seed) {
@@ -40,15 +21,16 @@ public:
         for (int step = 0; step < 25; ++step) {
             Edit();
             const std::string bytes = m_document->Bytes();
-            ASSERT_EQ(Reading(*Testing::Load(bytes)), Reading(*m_document)) << m_source << "\n" << bytes;
+            ASSERT_EQ(Testing::Reading(*Testing::Load(bytes)), Testing::Reading(*m_document)) << m_source << "\n"
+                                                                                              << bytes;
         }
         // A copy has the same changes and forgets them by itself.
         const std::shared_ptr<Document> copy = m_document->Copy();
         TakeBack();
         EXPECT_EQ(m_document->Bytes(), m_source);
-        EXPECT_EQ(Reading(*m_document), Reading(*Testing::Load(m_source)));
+        EXPECT_EQ(Testing::Reading(*m_document), Testing::Reading(*Testing::Load(m_source)));
         std::swap(m_document, const_cast<std::shared_ptr<Document>&>(copy));
-        EXPECT_EQ(Reading(*Testing::Load(m_document->Bytes())), Reading(*m_document));
+        EXPECT_EQ(Testing::Reading(*Testing::Load(m_document->Bytes())), Testing::Reading(*m_document));
         TakeBack();
         EXPECT_EQ(m_document->Bytes(), m_source);
     }

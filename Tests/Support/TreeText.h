@@ -52,4 +52,22 @@ inline std::string TreeText(const XmlTree& tree) {
     return TreeText(tree, tree.DocumentNode());
 }
 
+/// What a reader makes of a tree, one line for each element: empty texts and the splitting of sections do not show.
+inline std::vector<std::string> Reading(const XmlTree& tree) {
+    std::vector<std::string> lines;
+    std::string room;
+    for (NodeRef node = tree.Root(); node != NodeRef::None; node = NextInOrder(tree, node, tree.Root())) {
+        if (tree.Kind(node) == NodeKind::Comment) {
+            lines.push_back("!" + std::string(tree.Value(node, room)));
+        } else if (tree.Kind(node) == NodeKind::Element) {
+            std::string& line = lines.emplace_back(tree.Name(node));
+            for (NodeRef at = tree.FirstAttribute(node); at != NodeRef::None; at = tree.NextSibling(at)) {
+                line += " " + std::string(tree.Name(at)) + "=" + std::string(tree.Value(at, room));
+            }
+            line += "|" + TextOf(tree, node) + "|" + CDataOf(tree, node);
+        }
+    }
+    return lines;
+}
+
 } // namespace Framework::Testing
