@@ -15,18 +15,17 @@ void ExpectRefused(const zelString& bytes) {
     Expect(wrapper.LoadXMLText(held, false), "a document does not load", wrapper.GetLastError());
     const std::unique_ptr<TypedDataContainer> object = ObjectFor("LoadConfig");
     Expect(object->LoadFromDataPacket(nullptr, &wrapper, false), "an object does not load", object->GetLastError());
-    const Reading before = ReadAll(*object);
+    const Reading before = StateOf(*object);
 
     Expect(!wrapper.LoadXMLText(bytes, false), "a text is refused once and loads then");
     Expect(wrapper.GetLastErrorNum() == -1, "a refusal has no number");
     ExpectNamesPlace(wrapper.GetLastError(), "<text>");
-    Expect(wrapper.GetXMLText() == held, "a refused text changes the wrapper");
+    Expect(wrapper.GetLastError().size() < 1000, "an error is long", wrapper.GetLastError().substr(0, 300));
 
     const MemoryFile file(bytes);
     Expect(!object->LoadFromFile(nullptr, file.Path(), false), "a text that is refused loads as a file");
     ExpectNamesPlace(object->GetLastError(), file.Path());
-    Expect(object->Valid(), "a refused load makes an object invalid");
-    ExpectEqual(ReadAll(*object), before, "a refused load changes an object");
+    ExpectEqual(StateOf(*object), before, "a refused load changes an object");
 }
 
 /// The document as a DOM holds the same, and what is written from it too.

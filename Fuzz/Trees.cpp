@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <regex>
 #include <set>
+#include <sstream>
 
 #include <sys/mman.h>
 #include <unistd.h>
 
 #include "Containers/Sample.h"
 #include "Containers/Values.h"
+#include "Framework/ContainerBase/ContainerAccess.h"
 #include "Framework/XMLDataWrapper.h"
 #include "Target.h"
 
@@ -72,6 +74,28 @@ Reading ReadAll(TypedDataContainer& object) {
     NoteKeys(sample, reading);
     reading.lines = Samples::Lines(sample);
     return reading;
+}
+
+Reading StateOf(TypedDataContainer& object) {
+    using Framework::ContainerAccess;
+    std::set<const void*> objects;
+    for (const Value& value : ValuesOf(object)) {
+        objects.insert(value.object);
+    }
+    std::ostringstream rest;
+    for (const void* const each : objects) {
+        rest << each << ' ';
+    }
+    XMLDataWrapper* const wrapper = object.GetContainedDataPtr();
+    rest << object.Valid() << object.GetFeatureID() << '|' << object.GetMergeAttributes() << '|' << wrapper << '|'
+         << ContainerAccess::IsReadOnly(object) << ContainerAccess::IsNested(object)
+         << static_cast<std::size_t>(ContainerAccess::Node(object)) << '|' << ContainerAccess::Lookup(object);
+    if (wrapper != nullptr) {
+        rest << '|' << wrapper->HasCurrentNode() << wrapper->GetStoredQuery() << '|' << wrapper->GetXMLText();
+    }
+    Reading state{Samples::Lines(object)};
+    state.lines.push_back(rest.str());
+    return state;
 }
 
 void ExpectEqual(const Reading& present, const Reading& expected, std::string_view what) {

@@ -60,6 +60,10 @@ struct Reading {
 /// Reads every value through the catalogue.
 Reading ReadAll(TypedDataContainer& object);
 
+/// The same with every object and all that lasts beside the values: what a refused load or merge has to leave as it
+/// was.
+Reading StateOf(TypedDataContainer& object);
+
 /// Throws a Violation with the first line that differs.
 void ExpectEqual(const Reading& present, const Reading& expected, std::string_view what);
 

@@ -6,8 +6,8 @@
 #include "Containers/Values.h"
 #include "Framework/LoadLimits.h"
 #include "Fuzz/Target.h"
+#include "Fuzz/Trees.h"
 #include "Robustness/HostileDocuments.h"
-#include "Robustness/HostileState.h"
 #include "Robustness/HostileWatch.h"
 #include "Robustness/Sizes.h"
 
@@ -52,9 +52,11 @@ public:
         : m_document(document), m_path(path), m_good(SampleText(ContainerCatalog::FindRoot(document.root), 7, true)) {}
 
     void Run() {
-        FromMemory();
-        AsMerge();
-        FromFile();
+        if (m_document.refusal.empty()) {
+            CheckWhole();
+        } else {
+            CheckRefused();
+        }
     }
     /// Depth costs no stack then.
     void RunWithoutLimits() {
@@ -65,103 +67,67 @@ public:
     }
 
 private:
-    bool IsRefused() const { return !m_document.refusal.empty(); }
-
-    /// An object of the document's class that holds something.
-    std::unique_ptr<TypedDataContainer> Holder() {
-        auto object = ContainerCatalog::Create(m_document.root, false);
-        EXPECT_TRUE(LoadText(*object, m_good)) << object->GetLastError();
-        return object;
-    }
-
-    void CheckOutcome(bool success, const std::string& error, const std::string& source) {
-        if (!IsRefused()) {
-            EXPECT_TRUE(success) << ShortOf(error);
-            return;
-        }
-        EXPECT_FALSE(success);
-        EXPECT_TRUE(error.starts_with(source + ":" + m_document.refusal)) << ShortOf(error);
-        EXPECT_LT(error.size(), 1000U);
-    }
-
-    /// Loads or merges; what is refused must leave no trace.
-    void Try(TypedDataContainer& object, const std::string& source, const std::function<bool()>& load) {
-        const Lines before = IsRefused() ? StateOf(object) : Lines();
-        bool success = false;
-        double megabytes = 0;
-        const Lines reached = ReachedBy(m_path + ".log", [&] { megabytes = MegabytesOf([&] { success = load(); }); });
-        CheckOutcome(success, object.GetLastError(), source);
-        for (const std::string& each : reached) {
+    /// Opens nothing but the document and what stands in memory alone.
+    void Reach(const std::function<void()>& work) const {
+        const auto workOrFail = [&work] {
+            try {
+                work();
+            } catch (const Fuzz::Violation& violation) {
+                ADD_FAILURE() << ShortOf(violation.what);
+            }
+        };
+        for (const std::string& each : ReachedBy(m_path + ".log", workOrFail)) {
             EXPECT_TRUE(each == m_path || each.starts_with("/proc/self/")) << "reached out: " << each;
         }
-        if (IsRefused()) {
-            EXPECT_EQ(StateOf(object), before);
-            EXPECT_TRUE(kSanitized || megabytes < m_document.mostMegabytes) << megabytes;
-        }
     }
 
-    void FromFile() {
-        SCOPED_TRACE("load from a file");
-        const auto object = Holder();
-        Try(*object, m_path, [&] { return object->LoadFromFile(nullptr, m_path.c_str(), false); });
-        if (!IsRefused()) {
-            CheckWhole(*object);
-        }
+    /// The load and the merge say what is wrong, take little memory, and leave no trace.
+    void CheckRefused() const {
+        const std::string error = m_path + ":" + m_document.refusal;
+        const auto object = ContainerCatalog::Create(m_document.root, false);
+        double megabytes = 0;
+        Reach([&] {
+            megabytes = MegabytesOf([&] { EXPECT_FALSE(object->LoadFromFile(nullptr, m_path.c_str(), false)); });
+        });
+        EXPECT_TRUE(object->GetLastError().starts_with(error)) << ShortOf(object->GetLastError());
+        EXPECT_TRUE(kSanitized || megabytes < m_document.mostMegabytes) << megabytes;
+        EXPECT_FALSE(object->MergeFromFile(nullptr, m_path.c_str()));
+        EXPECT_TRUE(object->GetLastError().starts_with(error)) << ShortOf(object->GetLastError());
+        const std::string bytes = Framework::ReadText(m_path);
+        Reach([&] {
+            Fuzz::Load(bytes);
+            Fuzz::Merge(m_good + "\n====\n" + bytes);
+        });
     }
 
-    void FromMemory() {
-        SCOPED_TRACE("load from memory");
-        XMLDataWrapper wrapper;
-        EXPECT_TRUE(wrapper.LoadXMLText(m_good, false));
-        const bool success = wrapper.LoadXMLText(Framework::ReadText(m_path), false);
-        const bool isOtherRoot = m_document.refusal.starts_with("1:1: no element ");
-        if (!success && !isOtherRoot) {
-            CheckOutcome(success, wrapper.GetLastError(), "<text>");
-            EXPECT_EQ(wrapper.GetXMLText(), m_good);
-            return;
-        }
-        const auto object = Holder();
-        Try(*object, "<text>", [&] { return object->LoadFromDataPacket(nullptr, &wrapper, true); });
-    }
-
-    void AsMerge() {
-        SCOPED_TRACE("merge from a file");
-        const auto object = Holder();
-        Try(*object, m_path, [&] { return object->MergeFromFile(nullptr, m_path.c_str()); });
-        if (!IsRefused()) {
+    /// Everything that a host may do with a document that loads.
+    void CheckWhole() const {
+        const std::string bytes = Framework::ReadText(m_path);
+        const auto object = ContainerCatalog::Create(m_document.root, false);
+        const auto other = ContainerCatalog::Create(m_document.root, false);
+        Reach([&] {
+            EXPECT_TRUE(object->LoadFromFile(nullptr, m_path.c_str(), false)) << ShortOf(object->GetLastError());
             CheckReadable(*object);
-        }
+            CheckEdit(*object, bytes);
+            CheckQueries(*object);
+            if (m_document.lifted) {
+                CheckDeepest(*object->GetContainedDataPtr());
+            }
+            EXPECT_TRUE(LoadText(*other, m_good) && other->MergeFromFile(nullptr, m_path.c_str()));
+            CheckReadable(*other);
+            EXPECT_TRUE(MergeText(*object, "Good", m_good) && object->UpdateContainedData())
+                << ShortOf(object->GetLastError());
+            Fuzz::Load(bytes);
+        });
     }
 
-    void CheckReadable(TypedDataContainer& object) {
+    static void CheckReadable(TypedDataContainer& object) {
         for (const std::string& line : Samples::Lines(object)) {
             EXPECT_EQ(line.find(kCanary), line.npos) << ShortOf(line);
         }
     }
 
-    /// Everything that a host may do next with an object that was loaded.
-    void CheckWhole(TypedDataContainer& object) {
-        const std::string bytes = Framework::ReadText(m_path);
-        const auto useIt = [&] {
-            CheckReadable(object);
-            CheckEdit(object, bytes);
-            CheckQueries(object);
-            if (m_document.lifted) {
-                CheckDeepest(*object.GetContainedDataPtr());
-            }
-            EXPECT_TRUE(MergeText(object, "Good", m_good) && object.UpdateContainedData())
-                << ShortOf(object.GetLastError());
-            CheckReadable(object);
-            try {
-                Fuzz::Load(bytes);
-            } catch (const Fuzz::Violation& violation) {
-                ADD_FAILURE() << ShortOf(violation.what);
-            }
-        };
-        EXPECT_EQ(ReachedBy(m_path + ".log", useIt), Lines());
-    }
-
-    void CheckQueries(TypedDataContainer& object) {
+    void CheckQueries(TypedDataContainer& object) const {
         for (const CatalogField& list : ContainerCatalog::ClassOf(object).Fields()) {
             if (list.GetForm() == CatalogField::KeyedList && list.Length(object) > 0) {
                 const zelString key = list.EntryKey(object, list.Length(object) - 1);
@@ -182,7 +148,7 @@ private:
     }
 
     /// Changes the longest text: what is hostile mostly sits there.
-    void CheckEdit(TypedDataContainer& object, const std::string& bytes) {
+    void CheckEdit(TypedDataContainer& object, const std::string& bytes) const {
         std::optional<Value> longest;
         std::size_t length = 0;
         for (const Value& value : ValuesOf(object)) {
@@ -281,7 +247,7 @@ TEST_F(HostileDocumentTests, FilesThatAreNoneAreRefused) {
         SCOPED_TRACE(path);
         const std::string error = path + refusal;
         const auto object = ContainerCatalog::Create("TranslationConfig", false);
-        const Lines before = StateOf(*object);
+        const Lines before = Fuzz::StateOf(*object).lines;
         m_limits.GiveSeconds(10);
         const Lines reached = ReachedBy(m_folder / "log", [&, name = path.c_str()] {
             EXPECT_FALSE(object->LoadFromFile(nullptr, name, false));
@@ -289,7 +255,7 @@ TEST_F(HostileDocumentTests, FilesThatAreNoneAreRefused) {
             EXPECT_FALSE(object->MergeFromFile(nullptr, name));
             EXPECT_TRUE(object->GetLastError().starts_with(error)) << object->GetLastError();
         });
-        EXPECT_EQ(StateOf(*object), before);
+        EXPECT_EQ(Fuzz::StateOf(*object).lines, before);
         EXPECT_EQ(reached, path.empty() ? Lines() : Lines(2, path));
     }
 }
