@@ -44,15 +44,9 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
                                                unsigned int seed) {
     static const Fuzz::Target& target = TheTarget();
     const std::string_view input = AsText(data, size);
-    const std::vector<std::string_view> documents = Fuzz::DocumentsIn(input);
-    const std::string_view document = documents[seed / 3 % documents.size()];
-    if (!target.takesDocuments || seed % 3 == 0 || document.empty()) {
-        return LLVMFuzzerMutate(data, size, maxSize);
-    }
-    const auto begin = static_cast<std::size_t>(document.data() - input.data());
-    std::string changed(input);
-    changed.replace(begin, document.size(), Fuzz::MutateXml(document, seed));
-    if (changed.size() > maxSize || changed == input) {
+    const bool isOurs = target.takesDocuments && seed % 3 != 0;
+    const std::string changed = isOurs ? Fuzz::MutateDocument(input, seed / 3) : std::string();
+    if (!isOurs || changed.size() > maxSize || changed == input) {
         return LLVMFuzzerMutate(data, size, maxSize);
     }
     std::memcpy(data, changed.data(), changed.size());

@@ -8,6 +8,7 @@
 #include "Framework/XMLSupport/Document.h"
 #include "Framework/XMLSupport/TextEncoding.h"
 #include "Framework/XMLSupport/TreeReading.h"
+#include "Target.h"
 
 namespace Fuzz {
 
@@ -108,17 +109,19 @@ std::string Changed(std::string_view bytes, std::minstd_rand& random) {
 
 } // namespace
 
-std::string MutateXml(std::string_view document, unsigned seed) {
+std::string MutateDocument(std::string_view input, unsigned seed) {
+    const std::vector<std::string_view> documents = DocumentsIn(input);
+    const std::string_view document = documents[seed % documents.size()];
+    const std::string_view behind = input.substr(static_cast<std::size_t>(document.end() - input.begin()));
     std::string text(document);
     std::minstd_rand random(seed);
     try {
         for (unsigned steps = static_cast<unsigned>(1 + random() % 3); steps > 0; --steps) {
             text = Changed(text, random);
         }
-    } catch (const std::runtime_error&) {
-        return text; // a step made what does not load: the fuzzer may have it
+    } catch (const std::runtime_error&) { // a step made what does not load: the fuzzer may have it
     }
-    return text;
+    return std::string(input.begin(), document.begin()) + text + std::string(behind);
 }
 
 } // namespace Fuzz

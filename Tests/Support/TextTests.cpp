@@ -121,13 +121,6 @@ TEST(ZelString, CaseTrimLeftReplace) {
     EXPECT_EQ(self, "abab");
 }
 
-/// At every offset, so that both the word-wise and the single-byte way meet it.
-void ForEveryOffset(const auto& check) {
-    for (std::size_t offset = 0; offset < 20; ++offset) {
-        check(std::string(offset, 'a'), offset);
-    }
-}
-
 /// There and back, in room of just the size that is asked for.
 void ExpectCopied(std::string_view text) {
     const std::size_t allowed = std::min(Framework::FindNonXmlText(text), text.size());
@@ -140,46 +133,42 @@ void ExpectCopied(std::string_view text) {
     EXPECT_TRUE(back == text.substr(0, allowed));
 }
 
-/// In texts that are long enough to be looked through in blocks.
-void ExpectNoXmlIn(const std::string& before, std::string_view bad) {
-    const std::string accented = "\xC3\xA9" + before;
+/// Behind allowed ones of any number, so that both the word-wise and the single-byte way meet it, and within texts that
+/// are long enough to be looked through in blocks.
+TEST(Utf, FindsWhatIsNotUtf8AndWhatXmlForbids) {
+    constexpr std::string_view malformed[] = {"\x80",          "\xC0\x80",         "\xC3",
+                                              "\xC3(",         "\xE0\x9F\xBF",     "\xE2\x82",
+                                              "\xE2\x82(",     "\xED\xA0\x80",     "\xF0\x8F\xBF\xBF",
+                                              "\xF0\x9F\x92(", "\xF4\x90\x80\x80", "\xFF"};
+    constexpr std::string_view forbidden[] = {"\0"sv, "\x08", "\x0B", "\x1F", "\xEF\xBF\xBE", "\xEF\xBF\xBF"};
+    const std::string allowed = "\t\n\r \x7F\xC2\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBD\xEF\xBC\x8C\xF0\x9F\xBF\xBF";
     const std::string filling(100, 'x');
-    EXPECT_EQ(Framework::FindNonXmlText(accented + std::string(bad) + filling), accented.size());
-    EXPECT_EQ(Framework::FindNonXmlText(accented + filling + std::string(bad)), accented.size() + filling.size());
-    ExpectCopied(accented + std::string(bad) + filling);
-    ExpectCopied(accented + filling + std::string(bad));
-    ExpectCopied(before + "\xF0\x9F\x98\x80\t" + accented);
-}
-
-TEST(Utf, RefusesWhatIsNotUtf8) {
-    const char* malformed[] = {"\x80",          "\xC0\x80",         "\xC3",
-                               "\xC3(",         "\xE0\x9F\xBF",     "\xE2\x82",
-                               "\xE2\x82(",     "\xED\xA0\x80",     "\xF0\x8F\xBF\xBF",
-                               "\xF0\x9F\x92(", "\xF4\x90\x80\x80", "\xFF"};
-    for (const char* bad : malformed) {
-        ForEveryOffset([bad](const std::string& before, std::size_t offset) {
-            for (const std::string& text : {before + std::string(bad), before + std::string(bad) + "behind it"}) {
-                EXPECT_EQ(Framework::FindInvalidUtf8(text), offset);
-                EXPECT_EQ(Framework::FindNonXmlText(text), offset);
-                EXPECT_THROW(Framework::ToUtf16(text), std::invalid_argument);
+    for (std::size_t offset = 0; offset < 20; ++offset) {
+        const std::string before(offset, 'a');
+        const std::string accented = "\xC3\xA9" + before;
+        EXPECT_TRUE(Framework::IsXmlText(before + allowed));
+        EXPECT_EQ(Framework::FindForbidden(before + allowed), std::string_view::npos);
+        ExpectCopied(before + "\xF0\x9F\x98\x80\t" + accented);
+        const auto check = [&](std::string_view bad, bool isUtf8) {
+            for (const std::string& start : {before, accented, accented + filling}) {
+                for (const std::string& text :
+                     {start + std::string(bad), start + std::string(bad) + "behind it" + filling}) {
+                    EXPECT_EQ(Framework::FindNonXmlText(text), start.size());
+                    EXPECT_EQ(Framework::FindInvalidUtf8(text), isUtf8 ? std::string_view::npos : start.size());
+                    ExpectCopied(text);
+                }
             }
-            ExpectNoXmlIn(before, bad);
-        });
-    }
-}
-
-TEST(Utf, TellsWhatXmlAllows) {
-    ForEveryOffset([](const std::string& before, std::size_t offset) {
-        for (const std::string_view no : {"\0"sv, "\x08"sv, "\x0B"sv, "\x1F"sv, "\xEF\xBF\xBE"sv, "\xEF\xBF\xBF"sv}) {
-            EXPECT_EQ(Framework::FindNonXmlText(before + std::string(no) + "behind it"), offset);
-            const std::string allowed = before + "\t\n\r \xEF\xBF\xBD\xEF\xBC\x8C\xF0\x9F\x98\x80";
-            EXPECT_EQ(Framework::FindForbidden(allowed), std::string_view::npos);
-            EXPECT_EQ(Framework::FindForbidden(allowed + std::string(no) + before), allowed.size());
-            ExpectNoXmlIn(before, no);
+        };
+        for (const std::string_view bad : malformed) {
+            check(bad, false);
+            EXPECT_THROW(Framework::ToUtf16(before + std::string(bad)), std::invalid_argument);
         }
-        EXPECT_TRUE(Framework::IsXmlText(before + "\t\n\r \x7F\xC2\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBD"
-                                                  "\xF0\x9F\xBF\xBF"));
-    });
+        for (const std::string_view bad : forbidden) {
+            check(bad, true);
+            EXPECT_EQ(Framework::FindForbidden(before + allowed + std::string(bad) + before),
+                      before.size() + allowed.size());
+        }
+    }
 }
 
 TEST(Utf, EveryCharacterConvertsThereAndBack) {
@@ -210,15 +199,15 @@ TEST(Utf, EveryCharacterConvertsThereAndBack) {
     const char16_t lone[] = {'a', 0xD800, 'b', 0xDC00, 0xDC00, 0xD83D, 0xDE00, 0xD83D, 0};
     const std::string asText = "a\xEF\xBF\xBD"
                                "b\xEF\xBF\xBD\xEF\xBF\xBD\xF0\x9F\x98\x80\xEF\xBF\xBD";
-    ForEveryOffset([&](const std::string& before, std::size_t offset) {
-        EXPECT_EQ(zelString((std::u16string(offset, u'a') + lone).c_str()), before + asText);
+    for (std::size_t offset = 0; offset < 20; ++offset) {
+        EXPECT_EQ(zelString((std::u16string(offset, u'a') + lone).c_str()), std::string(offset, 'a') + asText);
         std::string greek;
         for (std::size_t i = 0; i < offset; ++i) {
             greek += "\xCE\xB1";
         }
         const std::u16string units = std::u16string(offset, u'\u03B1') + char16_t{0xDC00} + u"\u03B1" + lone;
         EXPECT_EQ(zelString(units.c_str()), greek + "\xEF\xBF\xBD\xCE\xB1" + asText);
-    });
+    }
 }
 
 /// Characters of one byte to four in every order of five, in texts that are turned several characters at a time.
