@@ -2,7 +2,7 @@
 // are broken in it are refused with the place.
 
 #include "Commands.h"
-#include "Containers/EveryClass.h"
+#include "Framework/XMLDataWrapper.h"
 
 #include <algorithm>
 #include <optional>
@@ -98,10 +98,9 @@ std::string Title(const Encoding& encoding) {
 /// beside it need the encoding; the value of the second entry is to be edited.
 std::string Document(const Encoding& in, const std::string& declared, const std::string& value,
                      const std::string& second) {
-    std::string text = "<?xml version='1.0' encoding='" + declared + "'?>\n<TranslationConfig><TranslationText><" +
-                       "TranslationKeyMap language = 'x'><!-- # -->\n<Translation LookupData='#'><ResultValue >@" +
-                       "</ResultValue></Translation>\n<Translation LookupData=\"2\" ><ResultValue>~</ResultValue>" +
-                       "<Doc>#</Doc></Translation>\n</TranslationKeyMap></TranslationText></TranslationConfig>\n";
+    const std::string text = "<?xml version='1.0' encoding='" + declared + "'?>\n<Map language = 'x'><!-- # -->\n" +
+                             "<Entry Key='#'><Value >@</Value></Entry>\n<Entry Key=\"2\" ><Value>~</Value>" +
+                             "<Doc>#</Doc></Entry>\n</Map>\n";
     std::string bytes = in.mark;
     for (const char letter : text) {
         bytes += letter == '#'   ? in.Bytes(in.text)
@@ -113,80 +112,53 @@ std::string Document(const Encoding& in, const std::string& declared, const std:
     return bytes;
 }
 
+constexpr const char* kValue = "Entry[1]/Value";
+constexpr const char* kSecond = "Entry[2]/Value";
+
 class EncodedDocuments : public testing::Test {
 protected:
-    std::string Write(const std::string& bytes) const {
-        const fs::path path = m_folder / "document.xml";
-        fs::remove(path); // to write over a file may wait for the disk
-        Framework::WriteText(path, bytes);
-        return path;
-    }
-    /// What the file holds that the object's wrapper saves.
-    std::string Saved(TypedDataContainer& object) const {
+    /// What the file holds that the wrapper saves.
+    std::string Saved(XMLDataWrapper& wrapper) const {
         const std::string path = m_folder / "saved.xml";
-        EXPECT_TRUE(object.GetContainedDataPtr()->SaveXMLFile(path.c_str()))
-            << object.GetContainedDataPtr()->GetLastError();
+        EXPECT_TRUE(wrapper.SaveXMLFile(path.c_str(), false)) << wrapper.GetLastError();
         return Framework::ReadText(path);
     }
     /// The error of a load behind the name of the file; empty when it loads.
-    std::string Refusal(const std::string& bytes, TypedDataContainer& object) const {
-        const std::string path = Write(bytes);
-        if (object.LoadFromFile(nullptr, path.c_str(), false)) {
+    std::string Refusal(const std::string& bytes, XMLDataWrapper& wrapper) const {
+        const fs::path path = m_folder / "document.xml";
+        fs::remove(path); // to write over a file may wait for the disk
+        Framework::WriteText(path, bytes);
+        if (wrapper.LoadXMLFile(path.c_str(), false)) {
             return {};
         }
-        const std::string error = object.GetLastError();
-        EXPECT_EQ(error.rfind(path + ":", 0), 0U) << error;
-        return error.substr(std::min(error.size(), path.size() + 1));
+        const std::string error = wrapper.GetLastError();
+        EXPECT_TRUE(error.starts_with(path.string() + ":")) << error;
+        return error.substr(std::min(error.size(), path.string().size() + 1));
     }
-    static std::unique_ptr<TypedDataContainer> New() { return ContainerCatalog::Create("TranslationConfig", false); }
 
 private:
     const Framework::TemporaryFolder m_folder;
 };
-
-/// The entry of the list at a position.
-TypedDataContainer& Translation(TypedDataContainer& object, std::size_t position) {
-    TypedDataContainer* at = &object;
-    for (const auto& [field, index] :
-         {std::pair{"TranslationText"sv, std::size_t{0}}, {"TranslationKeyMap"sv, 0}, {"Translation"sv, position}}) {
-        const CatalogField found = *ContainerCatalog::FindField(ContainerCatalog::ClassOf(*at), field);
-        at = found.IsList() ? found.Entry(*at, index) : found.GetChild(*at);
-    }
-    return *at;
-}
-
-CatalogField ResultValue() {
-    return *ContainerCatalog::FindField(ContainerCatalog::FindClass("TranslationType"), "ResultValue");
-}
-
-std::string ValueOf(TypedDataContainer& object) {
-    return ResultValue().GetText(Translation(object, 0));
-}
 
 TEST_F(EncodedDocuments, ComeInRightAndAreSavedAsTheyCame) {
     for (const Encoding& encoding : Encodings()) {
         SCOPED_TRACE(Title(encoding));
         const std::string value = encoding.Bytes(encoding.text);
         const std::string bytes = Document(encoding, encoding.name, value, value);
-        const auto object = New();
-        ASSERT_EQ(Refusal(bytes, *object), "");
-        EXPECT_EQ(ValueOf(*object), encoding.text);
-        EXPECT_EQ(ContainerCatalog::FindField(ContainerCatalog::FindClass("TranslationType"), "LookupData")
-                      ->GetText(Translation(*object, 0)),
-                  encoding.text);
-        EXPECT_EQ(Saved(*object), bytes);
-
-        ASSERT_TRUE(ResultValue().SetText(Translation(*object, 1), encoding.other));
-        EXPECT_TRUE(object->UpdateContainedData());
-        EXPECT_EQ(Saved(*object), Document(encoding, encoding.name, value, encoding.Bytes(encoding.other)));
-        const auto again = New();
-        ASSERT_EQ(Refusal(Saved(*object), *again), "");
-        EXPECT_EQ(Samples::Lines(*again), Samples::Lines(*object));
+        XMLDataWrapper wrapper;
+        ASSERT_EQ(Refusal(bytes, wrapper), "");
+        EXPECT_EQ(wrapper.GetStringValue(kValue, false), encoding.text);
+        EXPECT_EQ(wrapper.GetStringValue("Entry[1]/@Key", false), encoding.text);
+        EXPECT_EQ(Saved(wrapper), bytes);
+        ASSERT_TRUE(wrapper.SetQueryValue(kSecond, encoding.other, false)) << wrapper.GetLastError();
+        EXPECT_EQ(Saved(wrapper), Document(encoding, encoding.name, value, encoding.Bytes(encoding.other)));
+        ASSERT_EQ(Refusal(Saved(wrapper), wrapper), "");
+        EXPECT_EQ(wrapper.GetStringValue(kSecond, false), encoding.other);
     }
 }
 
 /// The converter of the system is the judge of what an encoding makes of bytes.
-void CheckLie(const std::string& refusal, TypedDataContainer& object, const std::string& bytes, const Encoding& actual,
+void CheckLie(const std::string& refusal, XMLDataWrapper& wrapper, const std::string& bytes, const Encoding& actual,
               const Encoding& declared) {
     if (IsOfLargeMachine(actual)) { // their declarations are written alike
         EXPECT_TRUE(refusal.starts_with("1:") || IsOfLargeMachine(declared)) << refusal;
@@ -198,7 +170,7 @@ void CheckLie(const std::string& refusal, TypedDataContainer& object, const std:
         EXPECT_NE(refusal.find("the character U+001B is not allowed"), refusal.npos) << refusal;
     } else {
         ASSERT_EQ(refusal, "");
-        EXPECT_NE(text.text.find("<ResultValue >" + ValueOf(object) + "</ResultValue>"), text.text.npos);
+        EXPECT_NE(text.text.find("<Value >" + wrapper.GetStringValue(kValue, false) + "</Value>"), text.text.npos);
     }
 }
 
@@ -207,10 +179,10 @@ TEST_F(EncodedDocuments, ThatLieAreRefusedWhereItShowsElseLoadAsDeclared) {
         for (const Encoding& declared : Encodings()) {
             SCOPED_TRACE(Title(actual) + " declared as " + declared.name);
             const std::string bytes = Document(actual, declared.name, actual.Bytes(actual.text), "");
-            const auto object = New();
-            const std::string refusal = Refusal(bytes, *object);
+            XMLDataWrapper wrapper;
+            const std::string refusal = Refusal(bytes, wrapper);
             if (actual.name != declared.name) {
-                CheckLie(refusal, *object, bytes, actual, declared);
+                CheckLie(refusal, wrapper, bytes, actual, declared);
             } else {
                 EXPECT_EQ(refusal, "");
             }
@@ -226,8 +198,8 @@ TEST_F(EncodedDocuments, ThatAreBrokenAreRefusedWithTheOffset) {
         SCOPED_TRACE(Title(encoding));
         const std::string broken = encoding.Bytes(encoding.text) + encoding.broken;
         const std::string bytes = Document(encoding, encoding.name, broken, "");
-        const auto object = New();
-        const std::string refusal = Refusal(bytes, *object);
+        XMLDataWrapper wrapper;
+        const std::string refusal = Refusal(bytes, wrapper);
         const std::size_t expected = bytes.find(broken) + broken.size() - encoding.broken.size();
         EXPECT_EQ(refusal.rfind("3:", 0), 0U) << refusal;
         EXPECT_NE(refusal.find("at byte offset " + std::to_string(expected) + " "), refusal.npos) << refusal;
