@@ -43,27 +43,22 @@ void CountIssues() {
     TypedDataContainer::SetOverrideIssueHandler([](void*, const OverrideIssue&) { ++issueCount; }, nullptr);
 }
 
-/// All that one piece of work saw, to be compared with what it sees when nothing else runs.
-struct Transcript {
-    void Add(const std::string& what, const std::string& text) { lines.push_back(what + ": " + text); }
-    void Add(const std::string& what, TypedDataContainer& object) {
-        for (const std::string& line : Samples::Lines(object)) {
-            Add(what, line);
-        }
-    }
-    /// What XPath and the nodes of Xalan's interface say; both are made when they are first asked for.
-    void AddNodes(XMLDataWrapper& document) {
-        for (const char* const query : {"//*[last()][@*]", "/*/*[position() > 1]", "//*[not(*)][text()]"}) {
-            const XalanNode* node = document.GetXalanNode(query, true);
-            for (int i = 0; node != nullptr && i < 20; ++i) {
-                Add(query, zelString(node->getNodeName().c_str()) + "=" + zelString(node->getNodeValue().c_str()));
-                node = node->getFirstChild() != nullptr ? node->getFirstChild() : node->getNextSibling();
-            }
-        }
-    }
+using Lines = std::vector<std::string>;
 
-    std::vector<std::string> lines;
-};
+void Append(Lines& lines, const Lines& more) {
+    lines.insert(lines.end(), more.begin(), more.end());
+}
+
+/// What XPath and the nodes of Xalan's interface say; both are made when they are first asked for.
+void AppendNodes(Lines& lines, XMLDataWrapper& document) {
+    for (const char* const query : {"//*[last()][@*]", "/*/*[position() > 1]", "//*[not(*)][text()]"}) {
+        const XalanNode* node = document.GetXalanNode(query, true);
+        for (int i = 0; node != nullptr && i < 20; ++i) {
+            lines.push_back(zelString(node->getNodeName().c_str()) + "=" + zelString(node->getNodeValue().c_str()));
+            node = node->getFirstChild() != nullptr ? node->getFirstChild() : node->getNextSibling();
+        }
+    }
+}
 
 /// One document of the examples: once as everybody's own, once read only and shared by all.
 class ExampleWork {
@@ -96,17 +91,18 @@ public:
         }
     }
 
-    Transcript WithSharedDocument() {
-        Transcript seen;
+    /// All that it saw, to be compared with what it sees when nothing else runs.
+    Lines WithSharedDocument() {
+        Lines seen;
         const auto reader = m_type.Create(false);
         EXPECT_TRUE(reader->LoadFromDataPacket(nullptr, &m_shared, true)) << reader->GetLastError();
         auto writer = m_type.Create(false);
         EXPECT_TRUE(writer->LoadFromDataPacket(nullptr, &m_shared, false)) << writer->GetLastError();
         EXPECT_EQ(reader->GetContainedDataPtr(), &m_shared);
-        seen.Add("loaded", *reader);
+        Append(seen, Samples::Lines(*reader));
         for (const Value& value : ValuesOf(*reader)) {
             for (const zelString& text : value.field.DocumentTexts(*value.object)) {
-                seen.Add("in the document", text);
+                seen.push_back(text);
             }
         }
         EXPECT_TRUE(writer->UpdateContainedData()) << writer->GetLastError(); // nothing has changed
@@ -117,20 +113,20 @@ public:
             EXPECT_TRUE(reader->MergeFromDataPacket(nullptr, "F", source.get(), false)) << reader->GetLastError();
             EXPECT_TRUE(writer->MergeFromDataPacket(nullptr, "G", source.get(), false)) << writer->GetLastError();
         }
-        seen.Add("merged", *reader);
-        seen.Add("dumped", DumpedByNode(*writer));
+        Append(seen, Samples::Lines(*reader));
+        seen.push_back(DumpedByNode(*writer));
         writer.reset();
         for (std::size_t i = 0; i < journal.Size(); ++i) {
             const MergeJournal::Entry entry = journal.At(i);
-            seen.Add("journal", entry.Path + "=" + entry.NewValue + " at " + std::to_string(entry.Place.Line));
+            seen.push_back(entry.Path + "=" + entry.NewValue + " at " + std::to_string(entry.Place.Line));
         }
         for (const Finding& finding : DocumentCheck::Run(m_shared, m_type, DocumentCheck::Kind::Override)) {
-            seen.Add("found", finding.Text);
+            seen.push_back(finding.Text);
         }
-        seen.Add("cloned", *clone);
-        seen.AddNodes(m_shared);
-        seen.Add("text", m_shared.GetXMLText());
-        seen.Add("value", m_shared.GetStringValue("*[1]", false));
+        Append(seen, Samples::Lines(*clone));
+        AppendNodes(seen, m_shared);
+        seen.push_back(m_shared.GetXMLText());
+        seen.push_back(m_shared.GetStringValue("*[1]", false));
         EXPECT_FALSE(m_shared.NodeExists("@FeatureID='", true));
         EXPECT_FALSE(m_shared.SetQueryValue("", "changed", false));
         EXPECT_FALSE(m_shared.GetLastError().empty());
@@ -182,7 +178,7 @@ TEST(FirstUseInThreads, StartsEverythingOnce) {
 
 TEST(Threads, EightGiveWhatOneGives) {
     std::vector<std::unique_ptr<ExampleWork>> works;
-    std::vector<Transcript> alone;
+    std::vector<Lines> alone;
     CountIssues();
     for (const auto& [root, example] : Examples()) {
         const CatalogClass type = ContainerCatalog::FindRoot(root);
@@ -196,7 +192,7 @@ TEST(Threads, EightGiveWhatOneGives) {
         for (std::size_t job = next++; job < works.size() * shares; job = next++) {
             const std::size_t which = job / shares;
             ExampleWork& work = *works[which];
-            EXPECT_EQ(work.WithSharedDocument().lines, alone[which].lines) << work.Name();
+            EXPECT_EQ(work.WithSharedDocument(), alone[which]) << work.Name();
             if (job % 4 == 0) {
                 work.WithOwnDocument();
             }
