@@ -116,21 +116,23 @@ void ExpectJournal(const zelString& name, XMLDataWrapper& base, XMLDataWrapper& 
 } // namespace
 
 void Merge(std::string_view input) {
-    const std::vector<std::string_view> documents = DocumentsIn(input);
-    if (documents.size() != 2) {
+    constexpr std::string_view separator = "\n====\n";
+    const std::size_t at = input.find(separator);
+    if (at == std::string_view::npos) {
         return;
     }
+    const std::string_view override = input.substr(at + separator.size());
     const OverrideLog log;
     XMLDataWrapper base;
-    if (!base.LoadXMLText(zelString(documents[0]), false)) {
+    if (!base.LoadXMLText(zelString(input.substr(0, at)), false)) {
         return;
     }
     const zelString name = ContainerCatalog::RootElement(base);
     const std::unique_ptr<TypedDataContainer> object = LoadedObject(name, base);
 
     XMLDataWrapper source;
-    if (!source.LoadXMLText(zelString(documents[1]), false) || !source.NodeExists("//" + name, true)) {
-        ExpectRefused(*object, documents[1]);
+    if (!source.LoadXMLText(zelString(override), false) || !source.NodeExists("//" + name, true)) {
+        ExpectRefused(*object, override);
         return;
     }
     const zelString text = source.GetXMLText();
@@ -144,10 +146,10 @@ void Merge(std::string_view input) {
     Expect(source.GetXMLText() == text, "a merge changes its source");
     const Reading merged = ReadAll(*object);
     const std::size_t issuesOfMerge = log.Count();
-    if (issuesOfMerge == issuesOfBase && !HasControlWords(documents[1])) {
-        const std::unique_ptr<TypedDataContainer> override = LoadedObject(name, source);
+    if (issuesOfMerge == issuesOfBase && !HasControlWords(override)) {
+        const std::unique_ptr<TypedDataContainer> other = LoadedObject(name, source);
         if (log.Count() == issuesOfMerge && !merged.hasEqualKeys) {
-            ExpectTaken(*object, *override, "");
+            ExpectTaken(*object, *other, "");
         }
     }
     ExpectJournal(name, base, source, merged);

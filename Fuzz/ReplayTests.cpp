@@ -6,9 +6,7 @@
 #include <iostream>
 
 #include "Framework/XMLDataWrapper.h"
-#include "Robustness/Sizes.h"
 #include "Seeds.h"
-#include "XmlMutator.h"
 
 namespace Fuzz {
 
@@ -37,27 +35,6 @@ TEST_P(Replay, SeedsAndKeptInputsHold) {
     for (const Seed& seed : seeds) {
         Run(seed.name, seed.bytes);
     }
-}
-
-/// A short fuzzing without coverage, each change upon the one before: the same inputs every time, so that what passes
-/// once passes always.
-TEST_P(Replay, MutatedSeedsHold) {
-    constexpr std::size_t longest = 6000;
-    const unsigned rounds = Robustness::FullSizes() ? 30 : 1;
-    unsigned number = 0;
-    for (const Seed& seed : GetParam().takesDocuments ? SeedsOf(GetParam()) : std::vector<Seed>()) {
-        std::string bytes = seed.bytes;
-        for (unsigned round = 0; round < rounds && bytes.size() < longest; ++round) {
-            const std::string changed = MutateDocument(bytes, ++number);
-            if (changed == bytes) { // it does not load: nothing would ever change any more
-                bytes = seed.bytes;
-                continue;
-            }
-            bytes = changed;
-            Run(seed.name + " mutated by " + std::to_string(number), bytes);
-        }
-    }
-    EXPECT_EQ(number > 20, GetParam().takesDocuments) << number;
 }
 
 /// One document with everything in it that documents have: every beginning, and with any bit turned over.

@@ -29,13 +29,9 @@ void Merge(std::string_view input);
 /// Find and make nodes of small fixed documents by query. The input is queries, one on each line.
 void Paths(std::string_view input);
 
-/// The documents in an input, as views of it: what a mutation may treat as XML.
-std::vector<std::string_view> DocumentsIn(std::string_view input);
-
 struct Target {
     std::string_view name;
     void (*run)(std::string_view input);
-    bool takesDocuments;
 };
 
 const std::vector<Target>& Targets();
