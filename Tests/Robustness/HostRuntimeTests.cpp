@@ -8,8 +8,6 @@
 #include <string_view>
 #include <vector>
 
-#include <sys/wait.h>
-#include <unistd.h>
 #include <xalanc/XPath/XPathEvaluator.hpp>
 #include <xalanc/XalanSourceTree/XalanSourceTreeDOMSupport.hpp>
 #include <xalanc/XalanSourceTree/XalanSourceTreeInit.hpp>
@@ -20,6 +18,7 @@
 #include <xercesc/parsers/XercesDOMParser.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 
+#include "Commands.h"
 #include "Robustness/FailingMemory.h"
 #include "Robustness/Sizes.h"
 
@@ -123,8 +122,7 @@ enum Answer { NothingFailed, Recovered, CleanError, Broken };
 
 /// In a process of its own: request number k is refused during the first use. What a second use says.
 Answer StartWithout(long k, bool fromThenOn, FailingMemory::Level level) {
-    const pid_t child = ::fork();
-    if (child == 0) {
+    const int status = Framework::RunApart([&] {
         Ours ours;
         {
             const FailingMemory memory(k, fromThenOn, level);
@@ -134,14 +132,8 @@ Answer StartWithout(long k, bool fromThenOn, FailingMemory::Level level) {
             }
         }
         const bool failed = FailingMemory::HasFailed();
-        Answer answer = failed ? Recovered : NothingFailed;
-        if (!ours.Use()) {
-            answer = ours.IsCleanError() ? CleanError : Broken;
-        }
-        ::_exit(answer);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
+        ::_exit(ours.Use() ? failed ? Recovered : NothingFailed : ours.IsCleanError() ? CleanError : Broken);
+    });
     return WIFEXITED(status) ? static_cast<Answer>(WEXITSTATUS(status)) : Broken;
 }
 

@@ -130,13 +130,7 @@ void Save::RunInChild(const std::string& style) const {
 }
 
 void Save::Run(const std::string& style) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        RunInChild(style);
-        ::_exit(testing::Test::HasFailure() ? 1 : 0);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
+    const int status = RunApart([&] { RunInChild(style); });
     killed = WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
     EXPECT_TRUE(killed || status == 0) << style << ", " << action << " at call " << call << ": " << status;
     log = WordsOf(ReadText(Beside(".log")));

@@ -125,6 +125,7 @@ public:
         }
         Append(seen, Samples::Lines(*clone));
         AppendNodes(seen, m_shared);
+        seen.push_back(m_shared.GetStringValue("//Name[2]", false)); // by an index of all elements
         seen.push_back(m_shared.GetXMLText());
         seen.push_back(m_shared.GetStringValue("*[1]", false));
         EXPECT_FALSE(m_shared.NodeExists("@FeatureID='", true));
@@ -200,27 +201,6 @@ TEST(Threads, EightGiveWhatOneGives) {
     });
     for (const std::unique_ptr<ExampleWork>& work : works) {
         work->ExpectUnmoved();
-    }
-}
-
-/// What is made when it is first asked for, by all at once.
-TEST(Threads, ReadThroughOneWrapper) {
-    std::string xml = "<r>";
-    for (int i = 0; i < 300; ++i) {
-        xml += "<e k='" + std::to_string(i) + "'>v" + std::to_string(i) + "</e>";
-    }
-    for (int round = 0; round < (Robustness::FullSizes() ? 500 : 3); ++round) {
-        XMLDataWrapper wrapper;
-        ASSERT_TRUE(wrapper.LoadXMLText(xml + "</r>", true));
-        InThreads(kThreads, [&](unsigned) {
-            for (int i = 0; i < 300; ++i) {
-                const zelString number = SupportFunc::GetStrValue(i);
-                XalanNode* const node = wrapper.GetXalanNode("e[@k='" + number + "']", false);
-                ASSERT_NE(node, nullptr);
-                EXPECT_EQ(zelString(node->getFirstChild()->getNodeValue().c_str()), "v" + number);
-                EXPECT_EQ(wrapper.GetNodeAttribute(node, "k"), number);
-            }
-        });
     }
 }
 
