@@ -264,43 +264,30 @@ TEST(SaveFaults, AFileSystemWithoutRenamesThatReplaceNothingWillDo) {
     EXPECT_GE(renames, 1);
 }
 
-TEST(SaveFaults, AChangeIsNoticedUntilTheRename) {
+/// Before each call somebody else changes the file that was loaded, or makes one where none was.
+TEST(SaveFaults, WhatOthersWriteIsNeverOverwritten) {
     const TemporaryFolder base(QuickFolder());
-    const std::string changed = "X" + LaneText(false).substr(1);
-    bool isRenamed = false;
-    for (const Save& save : Sweep(base, "refuse", {"meddle"})) {
-        SCOPED_TRACE(testing::Message() << "before call " << save.call << ": " << save.result);
-        const std::string text = ReadText(save.folder / kLaneFile);
-        if (save.Swept() == "rename") {
-            isRenamed = true; // the instant that is left
-            EXPECT_EQ(save.result + save.again, "savedsaved");
-        } else if (!isRenamed) {
-            EXPECT_NE(save.result.find("not saved: the file has changed since"), std::string::npos);
-            EXPECT_EQ(text, changed);
-            EXPECT_EQ(save.state, "damaged") << "by us, and nothing beside it";
-        } else if (!save.Swept().empty()) {
-            EXPECT_TRUE(save.Saved() && save.again.find("has changed") != std::string::npos) << save.again;
-            EXPECT_EQ(text, "X" + LaneText(true).substr(1));
+    for (const std::string style : {"refuse", "create"}) {
+        const bool isNew = style == "create";
+        const std::string theirs = isNew ? "X" : "X" + LaneText(false).substr(1);
+        const char* const refusal = isNew ? "not saved: there is a file" : "not saved: the file has changed since";
+        bool isRenamed = false;
+        for (const Save& save : Sweep(base, style, {"meddle"})) {
+            SCOPED_TRACE(testing::Message() << style << ", before call " << save.call << ": " << save.result);
+            const bool isRename = save.Swept() == "rename"; // for a file that is there, the instant that is left
+            if (!isRenamed && (isNew || !isRename)) {
+                EXPECT_NE(save.result.find(refusal), std::string::npos);
+                EXPECT_EQ(save.state, "damaged") << "by us, and nothing beside it";
+                EXPECT_EQ(ReadText(save.folder / kLaneFile), theirs);
+            } else {
+                EXPECT_TRUE(save.Saved());
+                const bool isSeenLater = isRenamed && !save.Swept().empty();
+                EXPECT_EQ(save.again.find("has changed") != std::string::npos, isSeenLater) << save.again;
+            }
+            isRenamed = isRenamed || isRename;
         }
+        EXPECT_TRUE(isRenamed);
     }
-    EXPECT_TRUE(isRenamed);
-}
-
-TEST(SaveFaults, AFileThatAppearsIsNeverOverwritten) {
-    const TemporaryFolder base(QuickFolder());
-    bool isRenamed = false;
-    for (const Save& save : Sweep(base, "create", {"meddle"})) {
-        SCOPED_TRACE(testing::Message() << "before call " << save.call << ": " << save.result);
-        if (!isRenamed) { // not even in the last instant
-            EXPECT_NE(save.result.find("not saved: there is a file"), std::string::npos);
-            EXPECT_EQ(ReadText(save.folder / kLaneFile), "X");
-            EXPECT_EQ(save.state, "damaged") << "by us, and nothing beside it";
-        } else {
-            EXPECT_TRUE(save.Saved());
-        }
-        isRenamed = isRenamed || save.Swept() == "rename";
-    }
-    EXPECT_TRUE(isRenamed);
 }
 
 } // namespace

@@ -6,8 +6,8 @@
 #include "Repeat.h"
 #include "TreeText.h"
 
+#include <map>
 #include <set>
-#include <thread>
 
 #include <gtest/gtest.h>
 #include <xalanc/XalanDOM/XalanAttr.hpp>
@@ -40,31 +40,18 @@ std::string Utf8(const xalanc::XalanDOMString& text) {
     return utf8;
 }
 
-XalanNode::NodeType TypeOf(NodeKind kind) {
-    switch (kind) {
-    case NodeKind::Element:
-        return XalanNode::ELEMENT_NODE;
-    case NodeKind::Attribute:
-        return XalanNode::ATTRIBUTE_NODE;
-    case NodeKind::Text:
-        return XalanNode::TEXT_NODE;
-    case NodeKind::CData:
-        return XalanNode::CDATA_SECTION_NODE;
-    case NodeKind::Comment:
-        return XalanNode::COMMENT_NODE;
-    case NodeKind::Instruction:
-        return XalanNode::PROCESSING_INSTRUCTION_NODE;
-    default:
-        return XalanNode::DOCUMENT_NODE;
-    }
-}
+const std::map<NodeKind, XalanNode::NodeType> kTypes = {
+    {NodeKind::Element, XalanNode::ELEMENT_NODE},  {NodeKind::Attribute, XalanNode::ATTRIBUTE_NODE},
+    {NodeKind::Text, XalanNode::TEXT_NODE},        {NodeKind::CData, XalanNode::CDATA_SECTION_NODE},
+    {NodeKind::Comment, XalanNode::COMMENT_NODE},  {NodeKind::Instruction, XalanNode::PROCESSING_INSTRUCTION_NODE},
+    {NodeKind::Document, XalanNode::DOCUMENT_NODE}};
 
 /// The view of a node, of its attributes and of all below say what the tree says, and lead back to it.
 void CheckView(const XmlTree& tree, NodeRef node) {
     const XalanNode& view = *tree.View(node);
     const NodeKind kind = tree.Kind(node);
     std::string room;
-    EXPECT_EQ(view.getNodeType(), TypeOf(kind));
+    EXPECT_EQ(view.getNodeType(), kTypes.at(kind));
     EXPECT_TRUE(tree.Name(node).empty() || Utf8(view.getNodeName()) == tree.Name(node));
     EXPECT_TRUE(kind == NodeKind::Element || Utf8(view.getNodeValue()) == tree.Value(node, room));
     EXPECT_EQ(view.getFirstChild(), tree.View(tree.FirstChild(node)));
