@@ -85,14 +85,18 @@ private:
     void CheckRefused() const {
         const std::string error = m_path + ":" + m_document.refusal;
         const auto object = ContainerCatalog::Create(m_document.root, false);
+        EXPECT_TRUE(LoadText(*object, m_good));
+        const Lines before = Fuzz::StateOf(*object).lines;
         double megabytes = 0;
         Reach([&] {
             megabytes = MegabytesOf([&] { EXPECT_FALSE(object->LoadFromFile(nullptr, m_path.c_str(), false)); });
         });
         EXPECT_TRUE(object->GetLastError().starts_with(error)) << ShortOf(object->GetLastError());
         EXPECT_TRUE(kSanitized || megabytes < m_document.mostMegabytes) << megabytes;
+        EXPECT_EQ(Fuzz::StateOf(*object).lines, before);
         EXPECT_FALSE(object->MergeFromFile(nullptr, m_path.c_str()));
         EXPECT_TRUE(object->GetLastError().starts_with(error)) << ShortOf(object->GetLastError());
+        EXPECT_EQ(Fuzz::StateOf(*object).lines, before);
         const std::string bytes = Framework::ReadText(m_path);
         Reach([&] {
             Fuzz::Load(bytes);
