@@ -85,6 +85,27 @@ TEST(SpareParsers, DoNotDecideWhetherALimitIsPassed) {
     EXPECT_EQ(least(), alone);
 }
 
+/// One that is in use is no spare one.
+TEST(SpareParsers, AreUsedByOneAtATime) {
+    FreeSpareParsers();
+    Load("<r/>");
+    const std::size_t one = MemoryOfSpareParsers();
+    for (int round = 0; round < 2; ++round) {
+        ParserMemory outerMemory(LoadLimits().memory);
+        const ParserPtr outer = TakeParser(1, outerMemory);
+        {
+            ParserMemory innerMemory(LoadLimits().memory);
+            const ParserPtr inner = TakeParser(1, innerMemory);
+            ASSERT_TRUE(outer && inner);
+            EXPECT_NE(outer.get(), inner.get());
+            EXPECT_EQ(::XML_Parse(inner.get(), "<a/>", 4, XML_TRUE), XML_STATUS_OK);
+        }
+        EXPECT_EQ(::XML_Parse(outer.get(), "<b/>", 4, XML_TRUE), XML_STATUS_OK);
+    }
+    EXPECT_GT(MemoryOfSpareParsers(), one);
+    EXPECT_LE(MemoryOfSpareParsers(), 2 * kMostForOne);
+}
+
 TEST(SpareParsers, GoFromThreadToThread) {
     FreeSpareParsers();
     std::vector<std::thread> threads(12); // more than parsers are kept
