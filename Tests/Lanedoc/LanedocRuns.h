@@ -1,6 +1,7 @@
 #pragma once
 
 #include <regex>
+#include <vector>
 
 #include "Commands.h"
 
@@ -25,6 +26,26 @@ protected:
         const std::string command = "{ '" FRAMEWORK_LANEDOC "' " + arguments + "; } >out.txt 2>errors.txt </dev/null";
         const int status = std::system(command.c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Get("out.txt"), Get("errors.txt")};
+    }
+
+    /// What a command is answered with: its exit code, and a part of what stands on standard error.
+    struct Answer {
+        const char* arguments;
+        int code;
+        const char* said;
+    };
+
+    /// Data is on standard output exactly when it went well, and a word on standard error exactly when there is one.
+    static void ExpectAnswers(const std::string& command, const std::vector<Answer>& answers) {
+        for (const auto& [arguments, code, said] : answers) {
+            SCOPED_TRACE(command + arguments);
+            const Result result = Run(command + arguments);
+            EXPECT_EQ(result.code, code);
+            EXPECT_TRUE(Holds(result.errors, said)) << result.errors;
+            EXPECT_EQ(result.out.empty(), code != 0) << result.out;
+            EXPECT_EQ(result.errors.empty(), *said == '\0') << result.errors;
+            EXPECT_FALSE(Holds(result.out + result.errors, "\x1b")) << "colours in a pipe";
+        }
     }
 
     static void Put(const std::string& path, const std::string& text) { Framework::WriteText(path, text); }
