@@ -1,75 +1,33 @@
 #pragma once
 
 #include <algorithm>
-#include <functional>
 
 #include "Containers/EveryClass.h"
-#include "Containers/ValueOrigins.h"
-#include "Framework/FieldPath.h"
+#include "Framework/ContainerBase/FieldSteps.h"
+#include "Framework/MergeJournal.h"
 
 /// The tree that the entries of a journal make of a base. Made from what the entries say and from the catalogue alone,
 /// as literally as can be.
 class AppliedJournal {
 public:
-    /// `made` says which values stand in the document that the object was loaded from.
-    AppliedJournal(TypedDataContainer& object, const Samples::Sample& made) : tree(Samples::Read(object)) {
-        ForEachValue(made, "", [this](const auto& path, const Samples::FieldSample& field, const std::string& text) {
-            if (field.present || field.field.IsList()) {
-                origins.NoteBase(path, text);
-            }
-        });
-    }
+    explicit AppliedJournal(TypedDataContainer& object) : tree(Samples::Read(object)) {}
 
     void Apply(std::size_t number, const MergeJournal::Entry& edit) {
         SCOPED_TRACE("entry " + std::to_string(number) + " of " + edit.FeatureID + ": " +
                      std::string(ActionName(edit.Asked)) + " " + edit.Path + " " +
                      std::string(OutcomeName(edit.Result)));
-        const ValueOrigins::Values before = ObjectValues(edit);
         if (edit.Path.empty()) {
             ApplyToRoot(edit);
         } else {
             ApplyToField(edit);
         }
-        if (edit.IsContainer) {
-            origins.NoteObject(number, edit, before, ObjectValues(edit));
-        } else if (edit.Result != Outcome::Unchanged && edit.Result != Outcome::Moved) {
-            origins.NoteValue(number, edit);
-        }
-    }
-
-    using ValueVisit =
-        std::function<void(const std::string& path, const Samples::FieldSample& field, const std::string& text)>;
-    /// Every scalar and text, with its path.
-    static void ForEachValue(const Samples::Sample& sample, const std::string& above, const ValueVisit& visit) {
-        for (const Samples::FieldSample& field : sample.fields) {
-            const std::string path = above + std::string(field.field.Name());
-            if (field.field.IsScalar()) {
-                visit(path, field, field.text);
-            } else if (field.child != nullptr) {
-                ForEachValue(*field.child, path + "/", visit);
-            }
-            for (std::size_t i = 0; i < field.entries.size(); ++i) {
-                if (const Samples::EntrySample& entry = field.entries[i]; entry.object == nullptr) {
-                    visit(above + Step(field, i), field, entry.text);
-                } else {
-                    ForEachValue(*entry.object, above + Step(field, i) + "/", visit);
-                }
-            }
-        }
     }
 
     Samples::Sample tree;
-    ValueOrigins origins;
 
 private:
     using Outcome = MergeJournal::Outcome;
     using Action = MergeJournal::Action;
-
-    static std::string Step(const Samples::FieldSample& field, std::size_t position) {
-        return field.field.GetForm() == CatalogField::KeyedList
-                   ? FieldPath::KeyStep(field.field.Name(), field.field.KeyAttribute(), field.entries[position].key)
-                   : FieldPath::PositionStep(field.field.Name(), position + 1);
-    }
 
     /// What a path leads to. Of an entry that is not there the list, and the step by which it would be found.
     struct Target {
@@ -87,24 +45,23 @@ private:
         }
     };
 
-    static Target Find(Samples::Sample& owner, const std::string& path) {
-        for (Samples::FieldSample& field : owner.fields) {
-            const std::string name(field.field.Name());
-            const std::size_t count = field.field.IsList() ? field.entries.size() : 1;
-            for (Target target{&field, 0, name}; target.position < count; ++target.position) {
-                target.step = field.field.IsList() ? Step(field, target.position) : name;
-                if (path == target.step) {
-                    return target;
-                }
-                if (path.starts_with(target.step + "/") && target.Object() != nullptr) {
-                    return Find(*target.Object(), path.substr(target.step.size() + 1));
-                }
+    static Target Find(Samples::Sample& root, const std::string& path) {
+        Samples::Sample* owner = &root;
+        Target target;
+        for (const std::string_view step : Framework::StepsOf(path)) {
+            const std::string_view name = Framework::ReadStep(step).name;
+            const auto isNamed = [name](const Samples::FieldSample& field) { return field.field.Name() == name; };
+            if (owner == nullptr || std::none_of(owner->fields.begin(), owner->fields.end(), isNamed)) {
+                return {};
             }
-            if (field.field.IsList() && path.starts_with(name + "[") && path.ends_with(']')) {
-                return {&field, count, path};
+            target = {&*std::find_if(owner->fields.begin(), owner->fields.end(), isNamed), 0, std::string(step)};
+            const bool isList = target.field->field.IsList();
+            while (isList && target.IsThere() && Samples::EntryStep(*target.field, target.position) != step) {
+                ++target.position;
             }
+            owner = target.IsThere() ? target.Object().get() : nullptr;
         }
-        return {};
+        return target;
     }
 
     void ApplyToRoot(const MergeJournal::Entry& edit) {
@@ -138,10 +95,12 @@ private:
             Remove(target);
             break;
         case Outcome::Moved:
-            EXPECT_TRUE(Move(target, edit.NewValue));
+            EXPECT_TRUE(Samples::Move(target.field->entries, target.position, edit.NewValue));
             break;
         case Outcome::Unchanged:
-            EXPECT_FALSE(edit.Asked == Action::Place ? Move(target, edit.NewValue) : edit.NewValue != edit.OldValue);
+            EXPECT_FALSE(edit.Asked == Action::Place
+                             ? Samples::Move(target.field->entries, target.position, edit.NewValue)
+                             : edit.NewValue != edit.OldValue);
             break;
         default:
             ADD_FAILURE() << "there is no problem that would tell why";
@@ -150,14 +109,8 @@ private:
 
     static void AddEntry(const Target& target) {
         if (!target.IsThere() && target.field->field.IsList()) {
-            std::string key = target.step.substr(target.step.find('=') + 1);
-            key.pop_back();
-            for (std::size_t at = key.starts_with('"') ? 0 : std::string::npos; at < key.size();
-                 at = key.find('"', at + 1)) {
-                key.erase(at, 1);
-            }
-            target.field->entries.push_back({target.field->field.KeyAttribute().empty() ? "" : key, {}, nullptr});
-            EXPECT_EQ(Step(*target.field, target.position), target.step);
+            target.field->entries.push_back({Framework::ReadStep(target.step).key, {}, nullptr});
+            EXPECT_EQ(Samples::EntryStep(*target.field, target.position), target.step);
         }
     }
 
@@ -186,38 +139,5 @@ private:
         } else {
             target.field->child.reset();
         }
-    }
-
-    /// Whether the entry stands elsewhere now.
-    static bool Move(const Target& target, const std::string& where) {
-        std::vector<Samples::EntrySample>& entries = target.field->entries;
-        Samples::EntrySample entry = std::move(entries[target.position]);
-        Remove(target);
-        const std::string neighbour = where.substr(where.find(' ') + 1);
-        auto to = std::find_if(entries.begin(), entries.end(),
-                               [&](const Samples::EntrySample& each) { return each.key == neighbour; });
-        if (where.starts_with("Before ") || where.starts_with("After ")) {
-            EXPECT_NE(to, entries.end()) << where;
-            to += where.starts_with("After ") && to != entries.end() ? 1 : 0;
-        } else {
-            EXPECT_TRUE(where == "First" || where == "Last") << where;
-            to = where == "First" ? entries.begin() : entries.end();
-        }
-        const std::ptrdiff_t position = to - entries.begin();
-        entries.insert(to, std::move(entry));
-        return position != static_cast<std::ptrdiff_t>(target.position);
-    }
-
-    /// All values that an edit of an object may touch.
-    ValueOrigins::Values ObjectValues(const MergeJournal::Entry& edit) const {
-        ValueOrigins::Values values;
-        if (edit.IsContainer && edit.Asked != Action::Place) {
-            ForEachValue(tree, "", [&](const std::string& path, const Samples::FieldSample&, const std::string& text) {
-                if (edit.Path.empty() || path.starts_with(edit.Path + "/")) {
-                    values[path] = text;
-                }
-            });
-        }
-        return values;
     }
 };

@@ -2,6 +2,8 @@
 
 #include "Containers/EveryClass.h"
 
+#include <algorithm>
+
 #include "Framework/MergeJournal.h"
 #include "FrameworkDataContainers/FrameworkDataContainers.h"
 
@@ -23,10 +25,6 @@ std::string Element(const Sample& sample, const std::string& words, Random& rand
     return xml.insert(1 + sample.name.size(), words);
 }
 
-Sample Without(const Sample& sample) {
-    return {sample.type, sample.name, {}};
-}
-
 /// Makes overrides with control words and does to a sample what they ask for, as literally as can be.
 class Model {
 public:
@@ -37,7 +35,7 @@ public:
         FieldSample& from = over.fields[index];
         FieldSample& into = m_tree.fields[index];
         if (from.child != nullptr) {
-            return TakeChild(into, from, over);
+            return TakeChild(into, from);
         }
         std::string xml;
         for (EntrySample& entry : from.entries) {
@@ -51,14 +49,6 @@ public:
     std::size_t issues = 0;
 
 private:
-    static void MergeField(FieldSample& into, FieldSample&& from, const Sample& like) {
-        Sample base = Without(like), over = Without(like);
-        base.fields.push_back(std::move(into));
-        over.fields.push_back(std::move(from));
-        Samples::Merge(base, over);
-        into = std::move(base.fields[0]);
-    }
-
     std::string Xml(const FieldSample& one, const std::string& words) {
         const EntrySample& entry = one.entries[0];
         const std::string name(one.field.Name()), key(one.field.KeyAttribute());
@@ -69,7 +59,7 @@ private:
         return "<" + name + attribute + words + ">" + Samples::Escaped(entry.text) + "</" + name + ">";
     }
 
-    std::string TakeChild(FieldSample& into, FieldSample& from, const Sample& over) {
+    std::string TakeChild(FieldSample& into, const FieldSample& from) {
         const std::string action = OneOf(m_random, {"Merge", "Replace", "Remove", "Clear", "Add", "clear"});
         const std::string xml = Element(*from.child, " MergeAction='" + action + "'", m_random);
         if (action == "Add" || action == "clear" || (action != "Merge" && into.child == nullptr)) {
@@ -82,16 +72,16 @@ private:
             Samples::Reset(*into.child, true);
         }
         if (action != "Remove") {
-            MergeField(into, std::move(from), over);
+            MergeField(into, from);
         }
         return xml;
     }
 
-    std::string TakePlain(FieldSample& into, FieldSample& one) {
+    std::string TakePlain(FieldSample& into, const FieldSample& one) {
         const std::string action = OneOf(m_random, {"Merge", "Add", "Remove", "Clear"});
         const std::string xml = Xml(one, " MergeAction='" + action + "'");
         if (action == "Merge" || action == "Add") {
-            MergeField(into, std::move(one), m_tree);
+            MergeField(into, one);
         } else {
             ++issues;
         }
@@ -104,7 +94,7 @@ private:
                             [&key](const EntrySample& entry) { return entry.key == key; });
     }
 
-    std::string TakeKeyed(FieldSample& into, FieldSample& one) {
+    std::string TakeKeyed(FieldSample& into, const FieldSample& one) {
         const std::string key = one.entries[0].key;
         const std::string action = OneOf(m_random, {"", "Merge", "Add", "Replace", "Remove", "Clear", "Nil"});
         const std::string order = OneOf(m_random, {"", "", "First", "Last", "Before", "After"});
@@ -128,28 +118,16 @@ private:
             Samples::Reset(*present->object, true);
         }
         if (action != "Remove") {
-            MergeField(into, std::move(one), m_tree);
-            const auto stands = Find(into.entries, key);
-            stands->key = key; // a numbered one keeps the key it was merged under
-            Move(into.entries, stands, action == "Replace" ? into.entries.begin() + position : stands);
+            MergeField(into, one);
+        }
+        if (action == "Replace") { // it stands where the old one stood
+            std::rotate(into.entries.begin() + position, into.entries.end() - 1, into.entries.end());
         }
         if (!order.empty() && action != "Remove") {
-            const auto stands = Find(into.entries, key);
-            EntrySample entry = std::move(*stands);
-            into.entries.erase(stands);
-            const auto where = order == "First"  ? into.entries.begin()
-                               : order == "Last" ? into.entries.end()
-                                                 : Find(into.entries, index) + (order == "After" ? 1 : 0);
-            into.entries.insert(where, std::move(entry));
+            const auto stands = static_cast<std::size_t>(Find(into.entries, key) - into.entries.begin());
+            Samples::Move(into.entries, stands, beside ? order + " " + index : order);
         }
         return xml;
-    }
-
-    static void Move(Entries& entries, Entries::iterator from, Entries::iterator to) {
-        EntrySample entry = std::move(*from);
-        const std::ptrdiff_t position = to - entries.begin();
-        entries.erase(from);
-        entries.insert(entries.begin() + position, std::move(entry));
     }
 
     Sample& m_tree;
@@ -211,7 +189,7 @@ TEST(MergeControl, RootIsClearedOrReplacedAndKeepsItsOwnWrapper) {
     });
 }
 
-/// "T U"; a number behind a key is the length of the entry's library path.
+/// "T U".
 std::string Threads(ThreadChildListType& list) {
     std::string text;
     for (int i = 0; i < list.GetChildThreadLength(); ++i) {
@@ -231,15 +209,11 @@ std::string Thread(const std::string& words) {
 }
 
 TEST(MergeControl, WhatCannotBeDoneIsReportedWithItsPlaceAndTheRestGoesOn) {
-    struct Case {
-        const char* words; ///< of an entry on line 3
-        const char* text;
-    };
-    const char* const actions = ", expected Merge, Add, Replace, Remove or Clear";
-    const Case cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
+        // words of an entry on line 3, and what is said of them
         {"'A' MergeAction='remove'",
-         "[A] of feature \"Night\": MergeAction=\"remove\" is no such word on an entry of a "
-         "keyed list, expected Merge, Add, Replace, Remove or Clear"},
+         "[A] of feature \"Night\": MergeAction=\"remove\" is no such word on an entry of a keyed list, expected "
+         "Merge, Add, Replace, Remove or Clear"},
         {"'X' MergeAction='Remove'", "[X] of feature \"Night\": MergeAction=\"Remove\": there is no such entry"},
         {"'X' MergeAction='Clear'", "MergeAction=\"Clear\": there is no such entry"},
         {"'A' MergeAction='Add'", "MergeAction=\"Add\": the entry is there already"},
@@ -252,24 +226,22 @@ TEST(MergeControl, WhatCannotBeDoneIsReportedWithItsPlaceAndTheRestGoesOn) {
         {"'A' PlacementOrder='After' PlacementIndex='B' PlacementFeature='Day'",
          "PlacementFeature=\"Day\": the entry B belongs to feature \"Base\""},
         {"'A' MergeAction='Remove' PlacementOrder='First'", "contradicts MergeAction=\"Remove\""},
-        {"''", ""}, // an empty key is a key
+        {"''", nullptr}, // an empty key is a key
     };
-    EXPECT_NE(std::string(cases[0].text).find(actions), std::string::npos);
-    for (const Case& c : cases) {
+    for (const auto& [words, text] : cases) {
+        SCOPED_TRACE(words);
         LoadConfigType object(false); // without a feature: that counts as "Base"
         ASSERT_TRUE(LoadText(object, List(Thread("'A'") + Thread("'B'"))));
-        IssueRecorder recorder;
-        EXPECT_TRUE(MergeText(object, "Night", List(Thread(c.words) + Thread("'Z'"))));
-        if (*c.text == '\0') {
-            EXPECT_TRUE(recorder.issues.empty());
-            continue;
+        const IssueRecorder recorder;
+        EXPECT_TRUE(MergeText(object, "Night", List(Thread(words) + Thread("'Z'"))));
+        EXPECT_EQ(Threads(*object.GetThreadChildList("L")), text == nullptr ? "A B  Z" : "A B Z");
+        ASSERT_EQ(recorder.issues.size(), text == nullptr ? 0U : 1U);
+        for (const OverrideIssue& issue : recorder.issues) {
+            EXPECT_NE(issue.ErrorText.find(text), std::string::npos) << issue.ErrorText;
+            EXPECT_EQ(issue.ErrorText.find("ChildThread["), 0U);
+            EXPECT_EQ(issue.Line, 3U);
+            EXPECT_EQ(issue.Column, 1U);
         }
-        ASSERT_EQ(recorder.issues.size(), 1U) << c.words;
-        EXPECT_NE(recorder.issues[0].ErrorText.find(c.text), std::string::npos) << recorder.issues[0].ErrorText;
-        EXPECT_EQ(recorder.issues[0].ErrorText.find("ChildThread["), 0U);
-        EXPECT_EQ(recorder.issues[0].Line, 3U);
-        EXPECT_EQ(recorder.issues[0].Column, 1U);
-        EXPECT_EQ(Threads(*object.GetThreadChildList("L")), "A B Z");
     }
 }
 
@@ -376,15 +348,8 @@ TEST(MergeControl, ListThatIsChangedByOthersDuringTheWalkStaysWhole) {
 TEST(MergeControl, EntryUnderTwoKeysGoesOnceAndWithBoth) {
     for (const std::string action : {"Remove", "Replace"}) {
         ThreadChildListType list(false);
-        auto* const shared = new ChildThreadType(false);
-        shared->SetUniqueName("A");
-        list.AddNewChildThread(shared, "A");
-        list.AddNewChildThread(shared, "Alias");
-        ASSERT_TRUE(LoadText(list, "<ThreadChildList/>") && list.GetChildThreadLength() == 0);
-        auto* const again = new ChildThreadType(false);
-        again->SetUniqueName("A");
-        list.AddNewChildThread(again, "A");
-        list.AddNewChildThread(again, "Alias");
+        ASSERT_TRUE(LoadText(list, "<ThreadChildList><ChildThread UniqueName='A'/></ThreadChildList>"));
+        list.AddNewChildThread(list.GetChildThread("A"), "Alias");
         list.AddNewChildThread(new ChildThreadType(false), "Z");
         IssueRecorder recorder;
         ASSERT_TRUE(MergeText(list, "F",

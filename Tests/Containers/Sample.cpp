@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "Framework/FieldPath.h"
+
 namespace Samples {
 
 namespace {
@@ -42,7 +44,7 @@ std::string MakeKey(const CatalogField& list, int number, bool numberOnly) {
     if (numberOnly || list.HasNumberedKeys()) {
         return std::to_string(number);
     }
-    return "key '" + std::to_string(number) + "' <\"\xC3\xBC\">";
+    return "key '" + std::to_string(number) + "' <\"\xC3\xBC\">/]";
 }
 
 FieldSample& FieldOf(Sample& sample, std::string_view name) {
@@ -94,13 +96,11 @@ std::string WriteElement(const Sample& sample, Random& random, Noise noise);
 
 void WriteField(const FieldSample& sample, Random& random, Noise noise, std::vector<std::string>& parts) {
     const std::string name(sample.field.Name());
-    if (noise == Noise::Repeats && Chance(random, 50)) {
-        const FieldSample& field = sample;
-        if (field.child != nullptr) {
-            parts.push_back(WriteElement(Make(field.child->type, name, random, 50), random, noise));
-        } else if (field.field.IsScalar()) {
-            parts.push_back("<" + name + ">" + Escaped(MakeScalar(field.field, random)) + "</" + name + ">");
-        }
+    const bool isRepeated = noise == Noise::Repeats && Chance(random, 50);
+    if (isRepeated && sample.child != nullptr) {
+        parts.push_back(WriteElement(Make(sample.child->type, name, random, 50), random, noise));
+    } else if (isRepeated && sample.field.IsScalar()) {
+        parts.push_back("<" + name + ">" + Escaped(MakeScalar(sample.field, random)) + "</" + name + ">");
     }
     if (sample.child != nullptr) {
         parts.push_back(WriteElement(*sample.child, random, noise));
@@ -174,27 +174,6 @@ std::string WriteElement(const Sample& sample, Random& random, Noise noise) {
         }
     }
     return text + "</" + sample.name + ">";
-}
-
-void AppendLines(const Sample& sample, const std::string& path, std::vector<std::string>& lines) {
-    lines.push_back(path + " is " + sample.name);
-    for (const FieldSample& field : sample.fields) {
-        const std::string here = path + "/" + std::string(field.field.Name());
-        if (field.field.IsScalar()) {
-            lines.push_back(here + "=" + (field.present ? field.text : Absent(field.field)));
-        } else if (field.child != nullptr) {
-            AppendLines(*field.child, here, lines);
-        }
-        for (std::size_t i = 0; i < field.entries.size(); ++i) {
-            const EntrySample& entry = field.entries[i];
-            const std::string entryPath = here + "[" + std::to_string(i) + "|" + entry.key + "]";
-            if (entry.object != nullptr) {
-                AppendLines(*entry.object, entryPath, lines);
-            } else {
-                lines.push_back(entryPath + "=" + entry.text);
-            }
-        }
-    }
 }
 
 /// What a load makes of a sample: numbered lists are numbered anew.
@@ -274,34 +253,49 @@ void Reset(Sample& sample, bool keepAttributes) {
     }
 }
 
-void Merge(Sample& base, const Sample& over) {
-    for (std::size_t i = 0; i < base.fields.size(); ++i) {
-        FieldSample& into = base.fields[i];
-        const FieldSample& from = over.fields[i];
-        if (into.field.IsScalar() && from.present) {
-            into.present = true;
-            into.text = from.text;
-        }
-        if (from.child != nullptr && into.child != nullptr) {
-            Merge(*into.child, *from.child);
-        } else if (from.child != nullptr) {
-            into.child = LoadedCopy(*from.child);
-        }
-        for (const EntrySample& entry : from.entries) {
-            const auto known =
-                std::find_if(into.entries.begin(), into.entries.end(), [&](const EntrySample& candidate) {
-                    return into.field.GetForm() == CatalogField::KeyedList && candidate.key == entry.key;
-                });
-            if (known == into.entries.end()) {
-                into.entries.push_back(
-                    {entry.key, entry.text, entry.object == nullptr ? nullptr : LoadedCopy(*entry.object)});
-            } else if (entry.object != nullptr) {
-                Merge(*known->object, *entry.object);
-            } else {
-                known->text = entry.text;
-            }
+void MergeField(FieldSample& into, const FieldSample& from) {
+    if (into.field.IsScalar() && from.present) {
+        into.present = true;
+        into.text = from.text;
+    }
+    if (from.child != nullptr && into.child != nullptr) {
+        Merge(*into.child, *from.child);
+    } else if (from.child != nullptr) {
+        into.child = LoadedCopy(*from.child);
+    }
+    for (const EntrySample& entry : from.entries) {
+        const auto known = std::find_if(into.entries.begin(), into.entries.end(), [&](const EntrySample& candidate) {
+            return into.field.GetForm() == CatalogField::KeyedList && candidate.key == entry.key;
+        });
+        if (known == into.entries.end()) {
+            into.entries.push_back({entry.key, entry.text, entry.object ? LoadedCopy(*entry.object) : nullptr});
+        } else if (entry.object != nullptr) {
+            Merge(*known->object, *entry.object);
+        } else {
+            known->text = entry.text;
         }
     }
+}
+
+void Merge(Sample& base, const Sample& over) {
+    for (std::size_t i = 0; i < base.fields.size(); ++i) {
+        MergeField(base.fields[i], over.fields[i]);
+    }
+}
+
+bool Move(std::vector<EntrySample>& entries, std::size_t position, const std::string& where) {
+    EntrySample entry = std::move(entries[position]);
+    entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(position));
+    std::ptrdiff_t to = where == "First" ? 0 : static_cast<std::ptrdiff_t>(entries.size());
+    if (where != "First" && where != "Last") {
+        const bool isBehind = where.starts_with("After ");
+        const std::string neighbour = where.substr(isBehind ? 6 : 7); // behind "After " or "Before "
+        const auto found = std::find_if(entries.begin(), entries.end(),
+                                        [&](const EntrySample& each) { return each.key == neighbour; });
+        to = found - entries.begin() + (isBehind && found != entries.end() ? 1 : 0);
+    }
+    entries.insert(entries.begin() + to, std::move(entry));
+    return to != static_cast<std::ptrdiff_t>(position);
 }
 
 std::string ToXml(const Sample& sample, Random& random, bool noise) {
@@ -313,9 +307,39 @@ std::string ToXmlWithRepeats(const Sample& sample, Random& random) {
     return WriteElement(sample, random, Noise::Repeats);
 }
 
+std::string EntryStep(const FieldSample& list, std::size_t position) {
+    const CatalogField& field = list.field;
+    return field.GetForm() == CatalogField::KeyedList
+               ? FieldPath::KeyStep(field.Name(), field.KeyAttribute(), list.entries[position].key)
+               : FieldPath::PositionStep(field.Name(), position + 1);
+}
+
+void ForEachPart(const Sample& sample, const std::string& path, const Visit& visit) {
+    visit(path, nullptr, sample.name);
+    for (const FieldSample& field : sample.fields) {
+        const std::string here = FieldPath::Join(path, field.field.Name());
+        if (field.field.IsScalar()) {
+            visit(here, &field, field.text);
+        } else if (field.child != nullptr) {
+            ForEachPart(*field.child, here, visit);
+        }
+        for (std::size_t i = 0; i < field.entries.size(); ++i) {
+            const std::string entryPath = FieldPath::Join(path, EntryStep(field, i));
+            if (const EntrySample& entry = field.entries[i]; entry.object == nullptr) {
+                visit(entryPath, &field, entry.text);
+            } else {
+                ForEachPart(*entry.object, entryPath, visit);
+            }
+        }
+    }
+}
+
 std::vector<std::string> Lines(const Sample& sample) {
     std::vector<std::string> lines;
-    AppendLines(sample, "", lines);
+    ForEachPart(sample, "", [&lines](const std::string& path, const FieldSample* field, const std::string& text) {
+        const bool isAbsent = field != nullptr && field->field.IsScalar() && !field->present;
+        lines.push_back(path + (field == nullptr ? " is " : "=") + (isAbsent ? Absent(field->field) : text));
+    });
     return lines;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <random>
 #include <string>
@@ -47,8 +48,12 @@ Sample Read(TypedDataContainer& object);
 /// What a reset leaves: defaults, no entries, children in place.
 void Reset(Sample& sample, bool keepAttributes);
 
-/// What an object holds when `over` was merged into `base`.
+/// What an object holds when `over` was merged into `base`, and the same of one field.
 void Merge(Sample& base, const Sample& over);
+void MergeField(FieldSample& into, const FieldSample& from);
+
+/// Puts an entry "First", "Last", "Before KEY" or "After KEY". Whether it stands elsewhere now.
+bool Move(std::vector<EntrySample>& entries, std::size_t position, const std::string& where);
 
 /// As a document. With `noise` elements come in any order with strangers, comments and instructions between, values
 /// partly as CDATA, and numbered lists carry numbers that mean nothing.
@@ -57,7 +62,15 @@ std::string ToXml(const Sample& sample, Random& random, bool noise);
 /// The same with elements that should stand once standing twice, with other content in the first.
 std::string ToXmlWithRepeats(const Sample& sample, Random& random);
 
-/// One line for each value, in the order of the class's fields: what the sample says a loaded object must hold.
+/// The step of a path that leads to an entry of a list.
+std::string EntryStep(const FieldSample& list, std::size_t position);
+
+/// Every scalar and text with its path, and every object with null for the field and its name for the text.
+using Visit = std::function<void(const std::string& path, const FieldSample* field, const std::string& text)>;
+void ForEachPart(const Sample& sample, const std::string& path, const Visit& visit);
+
+/// One line for each object and value, in the order of the class's fields: what the sample says a loaded object must
+/// hold.
 std::vector<std::string> Lines(const Sample& sample);
 
 /// The same lines from an object.
