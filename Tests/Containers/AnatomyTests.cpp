@@ -1,4 +1,4 @@
-// What a class is by its field table alone: names, defaults, predicates, property lists, reset.
+// What a class is by its field table alone: names, defaults, predicates, property lists, reset, clones.
 
 #include "Containers/EveryClass.h"
 #include "Containers/Values.h"
@@ -20,51 +20,42 @@ TEST(Anatomy, NewObjectHoldsNamesAndDefaults) {
     ForEveryClass([](CatalogClass type) {
         const auto object = type.Create(false);
         EXPECT_EQ(object->GetBaseType(), type.Name());
-        EXPECT_EQ(object->GetContainerName(), type.ElementName());
         EXPECT_FALSE(object->Valid());
         EXPECT_EQ(object->GetContainedDataPtr(), nullptr);
         EXPECT_EQ(dynamic_cast<StructuralConfigLoader*>(object.get()) != nullptr, type.IsStructuralConfigLoader());
+        Samples::Sample fresh{type, std::string(type.ElementName()), {}};
         for (const CatalogField& field : type.Fields()) {
-            EXPECT_EQ(field.GetText(*object), field.IsScalar() ? field.DefaultText() : zelString()) << field.Name();
-            EXPECT_EQ(field.GetChild(*object), nullptr) << field.Name();
-            EXPECT_EQ(field.Length(*object), 0U) << field.Name();
+            fresh.fields.emplace_back(field);
         }
+        Samples::Reset(fresh, false);
+        EXPECT_EQ(Samples::Lines(*object), Samples::Lines(fresh));
     });
 }
 
-TEST(Anatomy, PredicateHoldsEveryAttributeToTheBlank) {
+TEST(Anatomy, PredicateHoldsEveryAttributeToTheBlankAndPropertiesTheClassesOwnScalars) {
     ForEveryClass([](CatalogClass type) {
         const auto object = MakeLoaded(type, 1, true);
-        std::string expected;
-        Pairs expectedPairs;
+        std::string predicate;
+        Pairs attributes, properties{{"kept", "before"}};
         for (const CatalogField& field : type.Fields()) {
             if (field.GetForm() == CatalogField::Attribute) {
-                const std::string name(field.Name());
-                const std::string value = field.GetText(*object);
-                expected += (expected.empty() ? "@" : " and @") + name + "='" + value + "' ";
-                expectedPairs.emplace_back(name, value);
+                attributes.emplace_back(field.Name(), field.GetText(*object));
+                const auto& [name, value] = attributes.back();
+                predicate += (predicate.empty() ? "@" : " and @") + name + "='" + value + "' ";
             }
         }
-        EXPECT_EQ(object->GetAttributeList(), expected);
-        const std::unique_ptr<ParameterList> list(object->GetPLAttributeList());
-        EXPECT_EQ(Contents(*list), expectedPairs);
-    });
-}
-
-TEST(Anatomy, PropertiesAreTheClassesOwnScalars) {
-    ForEveryClass([](CatalogClass type) {
-        const auto object = MakeLoaded(type, 1, true);
-        Pairs expected{{"kept", "before"}};
         for (const CatalogField& field : type.OwnFields()) {
             if (field.IsScalar() && field.GetValue() != CatalogField::Enumeration) {
-                expected.emplace_back(field.Name(), field.GetText(*object));
+                properties.emplace_back(field.Name(), field.GetText(*object));
             }
         }
+        EXPECT_EQ(object->GetAttributeList(), predicate);
+        EXPECT_EQ(Contents(*std::unique_ptr<ParameterList>(object->GetPLAttributeList())), attributes);
         ParameterList list;
         const zelString before = "before";
         list.Add(&before, dcString, "kept", false);
         object->GetProperties(list);
-        EXPECT_EQ(Contents(list), expected);
+        EXPECT_EQ(Contents(list), properties);
     });
 }
 
@@ -77,7 +68,6 @@ TEST(Anatomy, ResetEqualsNewAndKeepsChildrenNameFeatureAndData) {
         Samples::Reset(expected, false);
         object->ResetDataMembers();
         EXPECT_EQ(Samples::Lines(*object), Samples::Lines(expected));
-        EXPECT_EQ(object->GetContainerName(), "Renamed");
         EXPECT_EQ(object->GetFeatureID(), "F");
         EXPECT_NE(object->GetContainedDataPtr(), nullptr);
         EXPECT_TRUE(object->Valid());
@@ -87,38 +77,30 @@ TEST(Anatomy, ResetEqualsNewAndKeepsChildrenNameFeatureAndData) {
     });
 }
 
-TEST(Anatomy, CloneEqualsTheDocumentAndStandsAlone) {
-    ForEveryClass([](CatalogClass type) {
-        Samples::Random random(7);
-        const Samples::Sample sample = Samples::Make(type, "Named", random);
-        auto object = type.Create(true);
-        object->SetContainerName("Named");
-        object->SetFeatureID("F");
-        ASSERT_TRUE(LoadText(*object, Samples::ToXml(sample, random, true))) << object->GetLastError();
-        std::unique_ptr<TypedDataContainer> clone(object->Clone());
-        ASSERT_NE(clone, nullptr) << object->GetLastError();
-        object.reset();
-        EXPECT_EQ(Samples::Lines(*clone), Samples::Lines(sample));
-        EXPECT_EQ(clone->GetContainerName(), "Named");
-        EXPECT_EQ(clone->GetFeatureID(), "F");
-        EXPECT_TRUE(clone->Valid());
-    });
+void ExpectClones(TypedDataContainer& object) {
+    const std::unique_ptr<TypedDataContainer> clone(object.Clone());
+    ASSERT_NE(clone, nullptr) << object.GetLastError();
+    EXPECT_EQ(Samples::Lines(*clone), Samples::Lines(object));
+    EXPECT_EQ(clone->GetFeatureID(), object.GetFeatureID());
+    EXPECT_EQ(clone->Valid(), object.Valid());
 }
 
-/// Each stands on its own node of the document, also when a merge brought it and the source is gone.
-TEST(Anatomy, EntriesAndChildrenCloneFromTheirOwnNode) {
+/// Each part stands on its own node of the document, also when a merge brought it and the source is gone.
+TEST(Anatomy, ClonesEqualWhatTheyWereMadeOfAndStandAlone) {
     for (const std::string_view root : ContainerCatalog::Roots()) {
         SCOPED_TRACE(std::string(root));
         const CatalogClass type = ContainerCatalog::FindRoot(root);
-        const auto loaded = MakeLoaded(type, 1, true), merged = type.Create(false);
+        auto loaded = MakeLoaded(type, 1, true, true);
+        const auto merged = type.Create(false);
         ASSERT_TRUE(MergeText(*merged, "F", SampleText(type, 7, true)));
-        for (TypedDataContainer* const object : {loaded.get(), merged.get()}) {
-            ForEveryPart(*object, [](TypedDataContainer& part) {
-                const std::unique_ptr<TypedDataContainer> clone(part.Clone());
-                ASSERT_NE(clone, nullptr) << part.GetLastError();
-                EXPECT_EQ(Samples::Lines(*clone), Samples::Lines(part));
-            });
-        }
+        ForEveryPart(*loaded, ExpectClones);
+        ForEveryPart(*merged, ExpectClones);
+        loaded->SetFeatureID("F");
+        ExpectClones(*loaded);
+        const std::vector<std::string> lines = Samples::Lines(*loaded);
+        const std::unique_ptr<TypedDataContainer> clone(loaded->Clone());
+        loaded.reset();
+        EXPECT_EQ(Samples::Lines(*clone), lines);
     }
 }
 

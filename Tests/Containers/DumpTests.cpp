@@ -41,22 +41,6 @@ TEST(Dump, HangsBelowAParentOrAForeignRootAndPassesTheElementBack) {
     EXPECT_EQ(passed, output.GetDOMNode("//LoadConfig/LoadConfig", true));
 }
 
-TEST(Dump, DerivedClassSharesOneElementAndOverwritesAttributes) {
-    StateActionRespType object(false);
-    ASSERT_TRUE(
-        LoadText(object, "<StateActionResp Result='3'><ActionRef>r</ActionRef><Unused>u</Unused></StateActionResp>"));
-    FullFunctionXMLDataWrapper output;
-    ASSERT_TRUE(output.CreateOutputDocument("StateActionResp"));
-    DOMNode* passed = nullptr;
-    ASSERT_TRUE(object.DumpMergeContentsII(nullptr, &output, passed, false));
-    object.SetResult(4);
-    ASSERT_TRUE(object.DumpMergeContentsII(nullptr, &output, passed, false));
-    EXPECT_EQ(output.GetStringValue("@Result", false), "4");
-    EXPECT_EQ(output.GetStringValue("ActionRef", false), "r");
-    ASSERT_TRUE(output.LoadNodeList("Unused", "q", 0));
-    EXPECT_EQ(output.GetNodeListLength("q"), 2); // elements are appended each time
-}
-
 /// Changes its parent's element while that is being filled.
 class MeddlingData : public StateActionDataType {
 public:

@@ -104,11 +104,12 @@ inline std::string DumpedByNode(TypedDataContainer& object) {
 }
 
 /// What the dump by query makes of a document.
-inline std::string DumpedByQuery(TypedDataContainer& object, const std::string& into) {
+inline std::string DumpedByQuery(TypedDataContainer& object, const std::string& into, const char* parent = "",
+                                 int position = -1) {
     FullFunctionXMLDataWrapper output;
     EXPECT_TRUE(output.LoadXMLText(into, false)) << output.GetLastError();
     EXPECT_NE(output.GetOutputDocument(), nullptr);
-    EXPECT_TRUE(object.DumpMergeContents("", &output, -1, false)) << object.GetLastError();
+    EXPECT_TRUE(object.DumpMergeContents(parent, &output, position, false)) << object.GetLastError();
     return Compact(output);
 }
 

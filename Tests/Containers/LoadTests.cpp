@@ -29,12 +29,13 @@ TEST(Load, HoldsWhatTheDocumentSays) {
     });
 }
 
-TEST(Load, FailedLoadLeavesTheObjectAsItWas) {
+TEST(Load, WhatCannotBeReadOrMergedChangesNothing) {
     ForEveryClass([](CatalogClass type) {
-        const auto object = MakeLoaded(type, 6);
+        const auto object = type.Create(false);
+        object->SetFeatureID("Base");
+        ASSERT_TRUE(LoadText(*object, SampleText(type, 6)));
         const std::vector<std::string> before = Samples::Lines(*object);
-        XMLDataWrapper empty;
-        XMLDataWrapper other;
+        XMLDataWrapper empty, other;
         ASSERT_TRUE(other.LoadXMLText("<Other>\n <a/></Other>", false));
         EXPECT_FALSE(object->LoadFromDataPacket(nullptr, nullptr, false));
         EXPECT_FALSE(object->LoadFromDataPacket(nullptr, &empty, false));
@@ -43,47 +44,81 @@ TEST(Load, FailedLoadLeavesTheObjectAsItWas) {
         EXPECT_FALSE(object->LoadFromModel(nullptr, "no such model", "X", false));
         EXPECT_FALSE(object->LoadFromFile(nullptr, "/nonexistent/file.xml", false));
         EXPECT_NE(object->GetLastError().find("/nonexistent/file.xml"), std::string::npos) << object->GetLastError();
+
+        const IssueRecorder recorder;
+        EXPECT_FALSE(object->MergeDataMembers(&empty, "F"));
+        EXPECT_EQ(object->GetLastError(), "MergeSource Not Loaded");
+        EXPECT_EQ(object->GetLastErrorNum(), -1);
+        EXPECT_FALSE(object->MergeFromDataPacket(nullptr, "F", &empty, true));
+        EXPECT_FALSE(object->MergeFromDataPacket(nullptr, "F", nullptr, false));
+        ASSERT_EQ(recorder.issues.size(), 3U);
+        EXPECT_EQ(recorder.issues[0].FeatureID, "Base");
+        EXPECT_EQ(recorder.issues[0].ContainerName, object->GetContainerName());
+        EXPECT_EQ(recorder.issues[0].ErrorText, "MergeSource Not Loaded");
+        EXPECT_FALSE(object->MergeFromDataPacket(nullptr, "F", &other, false));
+        EXPECT_FALSE(object->MergeFromFile(nullptr, "/nonexistent/override.xml"));
+        EXPECT_FALSE(object->MergeFromModel(nullptr, "none", "none"));
+        EXPECT_FALSE(object->MergeFromDOMNode(nullptr, "F", nullptr));
+        EXPECT_EQ(object->GetMergeAttributes(), "");
         EXPECT_EQ(Samples::Lines(*object), before);
         EXPECT_TRUE(object->Valid());
     });
 }
 
-TEST(Load, EverySourceGivesTheSameObject) {
+/// Below another root, which may bear the feature: the object is found by its name.
+TEST(Load, EverySourceLoadsAndMergesTheSame) {
+    using Object = TypedDataContainer&;
     const Framework::TemporaryFolder folder;
-    const std::string file = folder / "load.xml";
+    const std::string file = folder / "Late.xml";
+    EXPECT_FALSE(TypedDataContainer::RegisterModel("model", "Somewhere", "<open>"));
     ForEveryClass([&file](CatalogClass type) {
         Samples::Random random(8);
-        const Samples::Sample sample = Samples::Make(type, "Somewhere", random);
+        const Samples::Sample sample = Samples::Make(type, "Somewhere", random, 1, true);
         const std::string element = Samples::ToXml(sample, random, false);
-        const std::string body = element.substr(element.find('\n') + 1);
-        // Below another root, which bears the feature: the object is found by its name.
-        const std::string xml = "<Outer FeatureID='Night'><Before/>" + body + "</Outer>";
-        Framework::WriteText(file, xml);
-        ASSERT_TRUE(TypedDataContainer::RegisterTemplate("store", "Somewhere", xml));
-        ASSERT_TRUE(TypedDataContainer::RegisterModel("model", "Somewhere", xml));
-        XMLDataWrapper wrapper;
-        ASSERT_TRUE(wrapper.LoadXMLText(xml, false));
-        const auto expectLoaded = [&](const char* how, auto load) {
-            const auto object = type.Create(false);
-            object->SetContainerName("Somewhere");
-            EXPECT_TRUE(load(*object)) << how << ": " << object->GetLastError();
-            EXPECT_EQ(Samples::Lines(*object), Samples::Lines(sample)) << how;
-        };
-        expectLoaded("file", [&](TypedDataContainer& o) {
-            return o.LoadFromFile(nullptr, file.c_str(), false) && o.GetFeatureID() == "Night";
-        });
-        expectLoaded("packet", [&](TypedDataContainer& o) { return o.LoadFromDataPacket(nullptr, &wrapper, false); });
-        expectLoaded("template", [&](TypedDataContainer& o) {
-            o.SetContainerName("Other");
-            return o.LoadFromTemplate(nullptr, "store", "Somewhere", "AnyClass", false);
-        });
-        expectLoaded("model",
-                     [&](TypedDataContainer& o) { return o.LoadFromModel(nullptr, "model", "Somewhere", false); });
-        expectLoaded("DOM node", [&](TypedDataContainer& o) {
-            return o.LoadFromDOMNode(nullptr, wrapper.GetDOMNode("//Somewhere", true), false);
-        });
-        expectLoaded("packet over a DOM",
-                     [&](TypedDataContainer& o) { return o.LoadFromDataPacket(nullptr, &wrapper, false); });
+        const std::string inside = "><Before/>" + element.substr(element.find('\n') + 1) + "</Outer>";
+        for (const std::string attribute : {"", " FeatureID='Night'"}) {
+            const std::string xml = "<Outer" + attribute + inside;
+            Framework::WriteText(file, xml);
+            ASSERT_TRUE(TypedDataContainer::RegisterTemplate("store", "Somewhere", xml));
+            ASSERT_TRUE(TypedDataContainer::RegisterModel("model", "Somewhere", xml));
+            XMLDataWrapper wrapper;
+            ASSERT_TRUE(wrapper.LoadXMLText(xml, false));
+            const struct {
+                const char* feature; ///< of what is merged, where the source names none
+                std::function<bool(Object)> load;
+                std::function<bool(Object)> merge;
+            } sources[] = {
+                {"Late", [&](Object o) { return o.LoadFromFile(nullptr, file.c_str(), false); },
+                 [&](Object o) { return o.MergeFromFile(nullptr, file.c_str()); }},
+                {"store", [](Object o) { return o.LoadFromTemplate(nullptr, "store", "Somewhere", false); },
+                 [](Object o) { return o.MergeFromTemplate(nullptr, "store", "Somewhere"); }},
+                {"store", [](Object o) { return o.LoadFromTemplate(nullptr, "store", "Somewhere", "Any", false); },
+                 [](Object o) { return o.MergeFromTemplate(nullptr, "store", "Somewhere", "Any"); }},
+                {"model", [](Object o) { return o.LoadFromModel(nullptr, "model", "Somewhere", false); },
+                 [](Object o) { return o.MergeFromModel(nullptr, "model", "Somewhere"); }},
+                {"F", [&](Object o) { return o.LoadFromDataPacket(nullptr, &wrapper, false); },
+                 [&](Object o) { return o.MergeFromDataPacket(nullptr, "F", &wrapper, false); }},
+                {"F",
+                 [&](Object o) { return o.LoadFromDOMNode(nullptr, wrapper.GetDOMNode("//Somewhere", true), false); },
+                 [&](Object o) { return o.MergeFromDOMNode(nullptr, "F", wrapper.GetDOMNode("//Somewhere", true)); }},
+                {"F", [&](Object o) { return o.LoadFromDataPacket(nullptr, &wrapper, false); }, // which is a DOM now
+                 [&](Object o) { return o.MergeFromDataPacket(nullptr, "F", &wrapper, false); }},
+            };
+            for (const auto& source : sources) {
+                const auto loaded = type.Create(false), merged = type.Create(false);
+                loaded->SetContainerName("Somewhere");
+                merged->SetContainerName("Somewhere");
+                EXPECT_TRUE(source.load(*loaded)) << source.feature << ": " << loaded->GetLastError();
+                EXPECT_TRUE(source.merge(*merged)) << source.feature << ": " << merged->GetLastError();
+                EXPECT_EQ(Samples::Lines(*loaded), Samples::Lines(sample)) << source.feature;
+                EXPECT_EQ(Samples::Lines(*merged), Samples::Lines(sample)) << source.feature;
+                const bool isOwn = attribute.empty() || *source.feature == 'F';
+                EXPECT_EQ(merged->GetMergeAttributes(),
+                          std::string(" and @FeatureID='") + (isOwn ? source.feature : "Night") + "' ");
+                const bool isFile = *source.feature == 'L';
+                EXPECT_EQ(loaded->GetFeatureID(), isFile && !attribute.empty() ? "Night" : "");
+            }
+        }
     });
 }
 

@@ -1,7 +1,6 @@
 // Merging with the default action, for every class: what the source names is taken over, the rest stays. The other
 // actions stand in MergeControlTests.cpp.
 
-#include "Commands.h"
 #include "Containers/EveryClass.h"
 
 #include "FrameworkDataContainers/FrameworkDataContainers.h"
@@ -21,37 +20,6 @@ TEST(Merge, EmptySourceChangesNothingAndUnloadedObjectBecomesValid) {
         EXPECT_EQ(fresh->GetContainedDataPtr(), nullptr);
     });
 }
-
-TEST(Merge, SourceThatCannotBeReadChangesNothing) {
-    ForEveryClass([](CatalogClass type) {
-        const auto object = type.Create(false);
-        object->SetFeatureID("Base");
-        ASSERT_TRUE(LoadText(*object, SampleText(type, 4)));
-        const std::vector<std::string> before = Samples::Lines(*object);
-        IssueRecorder recorder;
-        XMLDataWrapper empty;
-        EXPECT_FALSE(object->MergeDataMembers(&empty, "F"));
-        EXPECT_EQ(object->GetLastError(), "MergeSource Not Loaded");
-        EXPECT_EQ(object->GetLastErrorNum(), -1);
-        EXPECT_FALSE(object->MergeFromDataPacket(nullptr, "F", &empty, true));
-        EXPECT_FALSE(object->MergeFromDataPacket(nullptr, "F", nullptr, false));
-        ASSERT_EQ(recorder.issues.size(), 3U);
-        EXPECT_EQ(recorder.issues[0].FeatureID, "Base");
-        EXPECT_EQ(recorder.issues[0].ContainerName, object->GetContainerName());
-        EXPECT_EQ(recorder.issues[0].ErrorText, "MergeSource Not Loaded");
-        XMLDataWrapper other;
-        ASSERT_TRUE(other.LoadXMLText("<Other/>", false));
-        EXPECT_FALSE(object->MergeFromDataPacket(nullptr, "F", &other, false));
-        EXPECT_FALSE(object->MergeFromFile(nullptr, "/nonexistent/override.xml"));
-        EXPECT_FALSE(object->MergeFromModel(nullptr, "none", "none"));
-        EXPECT_FALSE(object->MergeFromDOMNode(nullptr, "F", nullptr));
-        EXPECT_EQ(Samples::Lines(*object), before);
-        EXPECT_EQ(object->GetMergeAttributes(), "");
-    });
-}
-
-const char* const threads = "<LoadConfig><ThreadChildList UniqueName='A'><ChildThread UniqueName='T'>"
-                            "<LibraryPath>old</LibraryPath></ChildThread></ThreadChildList></LoadConfig>";
 
 TEST(Merge, NumberedListTakesIndexOrPosition) {
     StateActionBasicType object(false);
@@ -90,7 +58,7 @@ TEST(Merge, NestedObjectMergesFromWhereToldAndKeepsItsFlag) {
 
 TEST(Merge, SourceIsLeftInOrder) {
     LoadConfigType root(false);
-    ASSERT_TRUE(LoadText(root, threads));
+    ASSERT_TRUE(LoadText(root, "<LoadConfig><ThreadChildList UniqueName='A'/></LoadConfig>"));
     XMLDataWrapper source;
     ASSERT_TRUE(source.LoadXMLText("<LoadConfig><A/></LoadConfig>", false));
     const zelString list = "//LoadConfig/ThreadChildList";
@@ -115,41 +83,6 @@ TEST(Merge, SourceIsLeftInOrder) {
         MergeText(item, "F", "<ActionItem><ActionResp MergeAction='x'/><ActionData MergeAction='y'/></ActionItem>"));
     ASSERT_EQ(recorder.issues.size(), 2U);
     EXPECT_EQ(recorder.issues[0].ErrorText.find("ActionData"), 0U); // the parent's fields come first
-}
-
-TEST(Merge, EverySourceMergesAlike) {
-    const std::string xml = "<Outer><LoadConfig><ThreadChildList UniqueName='N'><ChildThread "
-                            "UniqueName='C'/></ThreadChildList></LoadConfig></Outer>";
-    const Framework::TemporaryFolder folder;
-    const std::string file = folder / "Late.xml";
-    Framework::WriteText(file, xml);
-    ASSERT_TRUE(TypedDataContainer::RegisterTemplate("Nights", "LoadConfig", xml));
-    ASSERT_TRUE(TypedDataContainer::RegisterModel("NightModel", "LoadConfig", xml));
-    EXPECT_FALSE(TypedDataContainer::RegisterModel("NightModel", "LoadConfig", "<open>"));
-    XMLDataWrapper wrapper;
-    ASSERT_TRUE(wrapper.LoadXMLText(xml, false));
-    const auto merged = [](const char* feature, auto merge) {
-        LoadConfigType object(false);
-        EXPECT_TRUE(LoadText(object, threads));
-        EXPECT_TRUE(merge(object)) << feature << ": " << object.GetLastError();
-        ASSERT_EQ(object.GetThreadChildListLength(), 2) << feature;
-        EXPECT_EQ(object.GetThreadChildList("N")->GetFeatureID(), feature);
-        // A nested object takes what bears its own name.
-        ThreadChildListType& nested = *object.GetThreadChildList("A");
-        EXPECT_TRUE(merge(nested)) << feature << ": " << nested.GetLastError();
-        EXPECT_EQ(nested.GetUniqueName(), "N");
-        ASSERT_EQ(nested.GetChildThreadLength(), 2) << feature;
-        EXPECT_EQ(nested.GetChildThread("C")->GetFeatureID(), feature);
-    };
-    merged("Late", [&](TypedDataContainer& o) { return o.MergeFromFile(nullptr, file.c_str()); });
-    merged("Nights", [&](TypedDataContainer& o) { return o.MergeFromTemplate(nullptr, "Nights", "LoadConfig"); });
-    merged("Nights", [&](TypedDataContainer& o) {
-        return o.MergeFromTemplate(nullptr, "Nights", "LoadConfig", "LoadConfigType");
-    });
-    merged("NightModel", [&](TypedDataContainer& o) { return o.MergeFromModel(nullptr, "NightModel", "LoadConfig"); });
-    merged("F", [&](TypedDataContainer& o) {
-        return o.MergeFromDOMNode(nullptr, "F", wrapper.GetDOMNode("//LoadConfig", true));
-    });
 }
 
 } // namespace

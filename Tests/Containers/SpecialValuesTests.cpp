@@ -84,25 +84,14 @@ TEST(Given, NewLoadedMergedUpdatedDumpedResetAndEmptied) {
     }
 }
 
-TEST(Given, WhatAMergeOrATemplateCreatesIsLoaded) {
-    CommParametersType parameters(false);
-    ASSERT_TRUE(LoadText(parameters, "<CommParameters/>"));
-    ASSERT_TRUE(MergeText(parameters, "F", "<CommParameters><SerialParameters/></CommParameters>"));
-    EXPECT_EQ(parameters.GetSerialParameters()->GetParity(), ParityType::EVEN);
-    parameters.SetSerialParameters(new SerialParametersType(false));
-    EXPECT_EQ(parameters.GetSerialParameters()->GetParity(), ParityType::NONE);
-    AudioKeyMapType keys(false);
-    ASSERT_TRUE(LoadText(keys, "<AudioKeyMap/>"));
-    ASSERT_TRUE(MergeText(keys, "F", "<AudioKeyMap><AudioLookup key='k'/></AudioKeyMap>"));
-    EXPECT_EQ(keys.GetAudioLookup("k")->GetPriority(), AudioPriorityEnum::low);
-    ThreadChildListType threads(false);
-    EXPECT_EQ(threads.GetDataStorageContainer(0)->GetPersistenceModel(), PersistenceModelEnum::Selective);
-    // No word is number 0 in a new object, and unknown once an element gave none.
+TEST(Given, AWordIsNumberZeroInANewObjectAndUnknownOnceAnElementGaveNone) {
     ItemIdentifyEntryType entry(false);
     EXPECT_EQ(entry.GetItemProcessingType().Value(), 0);
     ASSERT_TRUE(LoadText(entry, "<ItemIdentifyEntry><ItemProcessingType>normalitem</ItemProcessingType>"
                                 "</ItemIdentifyEntry>"));
     EXPECT_EQ(entry.GetItemProcessingType().Value(), ItemProcessingEnum::VALUE_UNKNOWN);
+    ThreadChildListType threads(false); // what grows on read is loaded from a template
+    EXPECT_EQ(threads.GetDataStorageContainer(0)->GetPersistenceModel(), PersistenceModelEnum::Selective);
 }
 
 /// A vocabulary at some spots, written as number and word: its list, the number of a word and the word of a number

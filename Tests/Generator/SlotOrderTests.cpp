@@ -119,35 +119,21 @@ std::string Question(const std::string& className, const std::string& operation)
            "));\n";
 }
 
-/// Expected answers and the program that is asked for them, class by class.
-class SlotProgram {
-public:
-    void Add(const std::string& className, const std::vector<std::string>& operations, std::size_t firstSlot) {
-        for (std::size_t position = 0; position < operations.size(); ++position) {
-            m_questions += Question(className, operations[position]);
-            m_expected += className + " " + operations[position] + " = " + std::to_string(firstSlot + position) + "\n";
-        }
-    }
-    const std::string& Expected() const { return m_expected; }
-    std::string Source() const {
-        return "#include \"Framework/TypedDataEnumeration.h\"\n"
-               "#include \"FrameworkDataContainers/FrameworkDataContainers.h\"\n"
-               "#include <cstdio>\n"
-               "#include <cstring>\n"
-               // The C++ ABI keeps a pointer to a virtual operation as 1 and its byte position in the table.
-               "template <typename Pointer> void Print(const char* text, Pointer pointer) {\n"
-               "    std::size_t word = 0;\n"
-               "    std::memcpy(&word, &pointer, sizeof word);\n"
-               "    std::printf(\"%s = %zu\\n\", text, (word - 1) / sizeof(void*));\n"
-               "}\n"
-               "int main() {\n" +
-               m_questions + "}\n";
-    }
-
-private:
-    std::string m_questions;
-    std::string m_expected;
-};
+/// A program that prints the answers to questions.
+std::string ProgramOf(const std::string& questions) {
+    return "#include \"Framework/TypedDataEnumeration.h\"\n"
+           "#include \"FrameworkDataContainers/FrameworkDataContainers.h\"\n"
+           "#include <cstdio>\n"
+           "#include <cstring>\n"
+           // The C++ ABI keeps a pointer to a virtual operation as 1 and its byte position in the table.
+           "template <typename Pointer> void Print(const char* text, Pointer pointer) {\n"
+           "    std::size_t word = 0;\n"
+           "    std::memcpy(&word, &pointer, sizeof word);\n"
+           "    std::printf(\"%s = %zu\\n\", text, (word - 1) / sizeof(void*));\n"
+           "}\n"
+           "int main() {\n" +
+           questions + "}\n";
+}
 
 /// Number of entries behind the base's, by class, as GCC writes them down.
 std::map<std::string, std::size_t> ReadTableSizes(const std::string& dump) {
@@ -167,33 +153,39 @@ std::map<std::string, std::size_t> ReadTableSizes(const std::string& dump) {
 TEST(SlotOrder, IsWhatTheCompilerLaysOut) {
     const Listing listing = ReadListing();
     ASSERT_FALSE(listing.classes.empty());
-    std::map<std::string, std::size_t> ends = {{"TypedDataContainer", kDestructorSlots + kContainerSlots.size()}};
-    ends["StructuralConfigLoader"] = ends["TypedDataContainer"] + kLoaderSlots.size();
-    SlotProgram program;
-    program.Add("TypedDataContainer", kContainerSlots, kDestructorSlots);
-    program.Add("StructuralConfigLoader", kLoaderSlots, ends["TypedDataContainer"]);
-    program.Add("TypedDataEnumeration", kEnumerationSlots, kDestructorSlots);
+    std::string questions, expected;
+    std::map<std::string, std::size_t> ends; // of the tables that were asked about
+    const auto add = [&](const std::string& name, const std::vector<std::string>& operations, std::size_t first) {
+        for (std::size_t i = 0; i < operations.size(); ++i) {
+            questions += Question(name, operations[i]);
+            expected += name + " " + operations[i] + " = " + std::to_string(first + i) + "\n";
+        }
+        ends[name] = first + operations.size();
+    };
+    add("TypedDataContainer", kContainerSlots, kDestructorSlots);
+    add("StructuralConfigLoader", kLoaderSlots, ends["TypedDataContainer"]);
     while (ends.size() < listing.classes.size() + 2) {
         const std::size_t before = ends.size();
         for (const auto& [name, listed] : listing.classes) {
             if (!ends.contains(name) && ends.contains(listed.base)) {
-                program.Add(name, listed.slots, ends[listed.base]);
-                ends[name] = ends[listed.base] + listed.slots.size();
+                add(name, listed.slots, ends[listed.base]);
             }
         }
         ASSERT_GT(ends.size(), before) << "a base is not in the listing";
     }
+    add("TypedDataEnumeration", kEnumerationSlots, kDestructorSlots);
+    ends.erase("TypedDataEnumeration");
     for (const std::string& enumeration : listing.enumerations) {
         ends[enumeration] = kDestructorSlots + kEnumerationSlots.size() + 1;
     }
 
     const TemporaryFolder folder;
-    WriteText(folder / "slots.cpp", program.Source());
+    WriteText(folder / "slots.cpp", ProgramOf(questions));
     const CommandResult build = RunCommand(
         "cd " + Quoted(folder / "") + " && " + Quoted(FRAMEWORK_CXX_COMPILER) +
         " " FRAMEWORK_CXX_FLAGS " -fdump-lang-class=classes.txt " FRAMEWORK_CXX_INCLUDES " slots.cpp -o slots");
     ASSERT_EQ(build.exitCode, 0) << build.output;
-    EXPECT_EQ(RunCommand(Quoted(folder / "slots")).output, program.Expected());
+    EXPECT_EQ(RunCommand(Quoted(folder / "slots")).output, expected);
 
     const std::map<std::string, std::size_t> sizes = ReadTableSizes(ReadText(folder / "classes.txt"));
     for (const auto& [name, end] : ends) {
