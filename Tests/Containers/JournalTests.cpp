@@ -66,11 +66,8 @@ struct Merges {
     std::vector<std::string> features;
 };
 
-/// Who wrote a value, against its texts after the load and after each merge, and against the entries about it.
-/// `given` holds what the base document gives.
-void CheckWriters(const Merges& merges, const std::vector<Values>& states, const Values& given, const std::string& path,
-                  std::string_view name) {
-    SCOPED_TRACE(path);
+/// Who gave a value what it has, against its texts after the load and after each merge.
+void CheckOrigin(const Merges& merges, const std::vector<Values>& states, const std::string& path) {
     const auto textAfter = [&](std::size_t merge) {
         const auto found = states[merge].find(path);
         return found == states[merge].end() ? std::optional<std::string>() : found->second;
@@ -84,9 +81,12 @@ void CheckWriters(const Merges& merges, const std::vector<Values>& states, const
     EXPECT_EQ(origin.Value, *textAfter(merges.features.size()));
     // What gave the same once more may count, and so may what holds the value and is new.
     EXPECT_GE(feature == merges.features.end() ? 0 : feature - merges.features.begin() + 1, lastChange);
+}
 
-    std::vector<std::size_t> edits; // of the value itself
-    bool isTouched = false;         // it, or what holds it
+/// All who wrote a value, against the entries about it and what the base document gives.
+void CheckWriters(const Merges& merges, const Values& given, const std::string& path, std::string_view name) {
+    std::vector<std::size_t> edits, listed; // of the value itself
+    bool isTouched = false;                 // it, or what holds it
     for (std::size_t number = 0; number < merges.journal.Size(); ++number) {
         const Entry entry = merges.journal.At(number);
         const bool isEdit = !entry.IsContainer && entry.Result != Outcome::Unchanged && entry.Result != Outcome::Moved;
@@ -96,23 +96,26 @@ void CheckWriters(const Merges& merges, const std::vector<Values>& states, const
         isTouched |= entry.Path.empty() || entry.Path == path || path.starts_with(entry.Path + "/");
     }
     const std::vector<Writer> writers = merges.journal.WritersOf(*merges.object, path);
+    const Writer origin = merges.journal.OriginOf(*merges.object, path);
     ASSERT_FALSE(writers.empty());
-    EXPECT_EQ(writers[0].Who == Writer::Kind::Base, given.contains(path));
     EXPECT_TRUE(isTouched || (writers.size() == 1 && origin.Who == writers[0].Who));
+    EXPECT_EQ(writers[0].Who == Writer::Kind::Base, given.contains(path));
     if (writers[0].Who == Writer::Kind::Base) {
         EXPECT_EQ(writers[0].Value, given.at(path));
         ExpectStandsAtItsName(writers[0].Place, std::string(name), merges.base, false);
     }
-    std::vector<std::size_t> listed;
     for (const Writer& writer : writers) {
         EXPECT_EQ(writer.Who == Writer::Kind::Feature, writer.Entry.has_value());
         EXPECT_TRUE(!writer.Wins || (writer.Who == origin.Who && writer.Entry == origin.Entry));
-        const Entry entry = merges.journal.At(writer.Entry.value_or(merges.journal.Size()));
-        EXPECT_TRUE(!writer.Entry.has_value() || writer.FeatureID == entry.FeatureID);
-        if (writer.Entry.has_value() && entry.Path == path && entry.Result != Outcome::Unchanged) {
-            listed.push_back(*writer.Entry);
-        } else if (writer.Entry.has_value() && entry.Path != path) {
+        if (!writer.Entry.has_value()) {
+            continue;
+        }
+        const Entry entry = merges.journal.At(*writer.Entry);
+        EXPECT_EQ(writer.FeatureID, entry.FeatureID);
+        if (entry.Path != path) {
             EXPECT_TRUE(entry.IsContainer && (entry.Path.empty() || path.starts_with(entry.Path + "/")));
+        } else if (entry.Result != Outcome::Unchanged) {
+            listed.push_back(*writer.Entry);
         }
     }
     EXPECT_EQ(listed, edits);
@@ -182,7 +185,9 @@ void CheckRandomMerges(CatalogClass type, unsigned seed, Variety& variety) {
     const Values given = ValuesOf(base, false);
     Samples::ForEachPart(applied.tree, "", [&](const auto& path, const Samples::FieldSample* field, const auto&) {
         if (!hasRepeats && !hasMade && field != nullptr && turn++ % 8 == 0) {
-            CheckWriters(merges, states, given, path, field->field.Name());
+            SCOPED_TRACE(path);
+            CheckOrigin(merges, states, path);
+            CheckWriters(merges, given, path, field->field.Name());
         }
     });
 }
