@@ -119,16 +119,22 @@ TEST(Anatomy, CloneOfWhatWasNeverLoadedTakesTheMembers) {
     });
 }
 
-TEST(Anatomy, ReadOnlyObjectsRefuseCloneAndUpdate) {
-    ForEveryClass([](CatalogClass type) {
+TEST(Anatomy, ReadOnlyRefusesCloneAndUpdateAndReachesEverythingBelowAsTheFeatureDoes) {
+    const auto expectReadOnly = [](TypedDataContainer& part) {
+        EXPECT_EQ(part.GetFeatureID(), "F");
+        EXPECT_EQ(part.Clone(), nullptr);
+        EXPECT_EQ(part.GetLastError(), "Clone not supported for read only objects");
+        EXPECT_EQ(part.GetLastErrorNum(), -1);
+        EXPECT_FALSE(part.UpdateContainedData());
+        EXPECT_EQ(part.GetLastError(), "Update not supported for read only objects");
+    };
+    ForEveryClass([&](CatalogClass type) {
         const auto object = type.Create(false);
         EXPECT_TRUE(object->UpdateContainedData()) << "what stands nowhere is passed over";
-        ASSERT_TRUE(LoadText(*object, "<" + std::string(type.ElementName()) + "/>", true));
-        EXPECT_EQ(object->Clone(), nullptr);
-        EXPECT_EQ(object->GetLastError(), "Clone not supported for read only objects");
-        EXPECT_EQ(object->GetLastErrorNum(), -1);
-        EXPECT_FALSE(object->UpdateContainedData());
-        EXPECT_EQ(object->GetLastError(), "Update not supported for read only objects");
+        object->SetFeatureID("F");
+        ASSERT_TRUE(LoadText(*object, SampleText(type, 9, true, true), true));
+        expectReadOnly(*object);
+        ForEveryPart(*object, expectReadOnly);
     });
 }
 
