@@ -95,7 +95,11 @@ TEST(Load, EverySourceLoadsAndMergesTheSame) {
                  [&](Object o) { return o.MergeFromFile(nullptr, file.c_str()); }},
                 {"store", [](Object o) { return o.LoadFromTemplate(nullptr, "store", "Somewhere", false); },
                  [](Object o) { return o.MergeFromTemplate(nullptr, "store", "Somewhere"); }},
-                {"store", [](Object o) { return o.LoadFromTemplate(nullptr, "store", "Somewhere", "Any", false); },
+                {"store",
+                 [](Object o) {
+                     o.SetContainerName("Other");
+                     return o.LoadFromTemplate(nullptr, "store", "Somewhere", "Any", false);
+                 },
                  [](Object o) { return o.MergeFromTemplate(nullptr, "store", "Somewhere", "Any"); }},
                 {"model", [](Object o) { return o.LoadFromModel(nullptr, "model", "Somewhere", false); },
                  [](Object o) { return o.MergeFromModel(nullptr, "model", "Somewhere"); }},
