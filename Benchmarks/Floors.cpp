@@ -39,10 +39,7 @@ Work OfferComparison(const Document& document) {
     for (const std::string& key : *kept) {
         keys.push_back({key, &key});
     }
-    Random random(keys.size());
-    for (std::size_t i = keys.size(); i > 1; --i) {
-        std::swap(keys[i - 1], keys[random.Below(i)]);
-    }
+    Shuffle(keys);
     Require(!keys.empty(), "the document has no keys");
     return {{}, [kept, keys = std::move(keys)] {
                 for (const KeyTwice& key : keys) {

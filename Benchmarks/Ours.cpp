@@ -51,10 +51,7 @@ template <class List> Keys ShuffledKeys(int length, const List& keyAt) {
     for (int i = 0; i < length; ++i) {
         keys.push_back(keyAt(i));
     }
-    Random random(keys.size());
-    for (std::size_t i = keys.size(); i > 1; --i) {
-        std::swap(keys[i - 1], keys[random.Below(i)]);
-    }
+    Shuffle(keys);
     return keys;
 }
 

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <utility>
+#include <vector>
 
 namespace Bench {
 
@@ -25,5 +27,13 @@ public:
 private:
     std::uint64_t m_state;
 };
+
+/// Into an order that is not that of the document, and the same on every machine.
+template <typename Item> void Shuffle(std::vector<Item>& items) {
+    Random random(items.size());
+    for (std::size_t i = items.size(); i > 1; --i) {
+        std::swap(items[i - 1], items[random.Below(i)]);
+    }
+}
 
 } // namespace Bench
